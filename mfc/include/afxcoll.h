@@ -1,0 +1,3 @@
+// Arrays, lists and maps of fixed element types.
+#pragma once
+#include <classes/Collections.h>

@@ -1,0 +1,3 @@
+// Automation is not part of the subset; programs include this header all the same.
+#pragma once
+#include <afxwin.h>

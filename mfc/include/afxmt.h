@@ -1,0 +1,4 @@
+// Synchronisation of threads.
+#pragma once
+#include <afxwin.h>
+#include <classes/Synchronization.h>
