@@ -1,0 +1,21 @@
+#pragma once
+
+#include <classes/CDC.h>
+
+/// Records drawing into a metafile. It has no attribute context until SetAttribDC names one.
+class CMetaFileDC : public CDC
+{
+    DECLARE_DYNAMIC(CMetaFileDC)
+
+public:
+    CMetaFileDC();
+    /// Throws the recording away if Close was not called.
+    virtual ~CMetaFileDC();
+
+    BOOL Create(LPCTSTR lpszFilename = NULL);
+    BOOL CreateEnhanced(CDC* pDCRef, LPCTSTR lpszFileName, LPCRECT lpBounds,
+                        LPCTSTR lpszDescription);
+    /// Ends the recording; the caller owns the metafile. NULL on failure.
+    HMETAFILE Close();
+    HENHMETAFILE CloseEnhanced();
+};

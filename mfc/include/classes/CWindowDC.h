@@ -1,0 +1,17 @@
+#pragma once
+
+#include <classes/CDC.h>
+
+/// A whole window with its frame for the object's lifetime; the screen when pWnd is NULL.
+class CWindowDC : public CDC
+{
+    DECLARE_DYNAMIC(CWindowDC)
+
+public:
+    /// Throws a CResourceException when there is no such context.
+    explicit CWindowDC(CWnd* pWnd);
+    virtual ~CWindowDC();
+
+protected:
+    HWND m_hWnd;
+};
