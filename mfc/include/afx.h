@@ -10,4 +10,5 @@
 #include <atltime.h>
 #include <classes/CFile.h>
 #include <classes/CFileFind.h>
+#include <classes/Trace.h>
 #include <afxcoll.h>

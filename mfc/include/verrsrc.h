@@ -1,0 +1,2 @@
+// The constants of version resources under the name that newer resource scripts use.
+#include <winver.h>
