@@ -40,8 +40,8 @@ DialogUnits::Base MeasureFont(HDC screen, const LOGFONT& description)
 
     SelectObject(screen, previous);
     DeleteObject(font);
-    return {static_cast<unsigned long>((extent.cx + alphabetLength / 2) / alphabetLength),
-            static_cast<unsigned long>(metrics.tmHeight + metrics.tmExternalLeading)};
+    return {static_cast<unsigned int>((extent.cx + alphabetLength / 2) / alphabetLength),
+            static_cast<unsigned int>(metrics.tmHeight + metrics.tmExternalLeading)};
 }
 
 DialogUnits::Base MeasureBase()
@@ -52,21 +52,20 @@ DialogUnits::Base MeasureBase()
 }
 
 /// One coordinate in pixels. The product is unsigned and wraps.
-int ScaleToPixels(unsigned long base, int units, double unit)
+int ScaleToPixels(unsigned int base, int units, double unit)
 {
     // Kept: a negative value in dialog units becomes a very large positive one in pixels.
-    const unsigned long product = base * static_cast<unsigned long>(units);
+    const unsigned int product = base * static_cast<unsigned int>(units);
     return RoundHalfDown(static_cast<double>(product) * unit);
 }
 
 } // namespace
 
-void GetFontBaseUnits(unsigned long* pHorizontal, unsigned long* pVertical)
+void GetFontBaseUnits(unsigned int* pHorizontal, unsigned int* pVertical)
 {
     const HDC screen = ::GetDC(NULL);
     const LOGFONT description = DescribeReferenceFont(screen);
-    if (EnumFonts(screen, referenceFace, reinterpret_cast<FONTENUMPROC>(AnswerArgument),
-                  faceFound) == faceFound) {
+    if (EnumFonts(screen, referenceFace, AnswerArgument, faceFound) == faceFound) {
         const DialogUnits::Base base = MeasureFont(screen, description);
         *pHorizontal = base.horizontal;
         *pVertical = base.vertical;

@@ -8,20 +8,22 @@
 #include <afxwin.h>
 
 /// Measures the reference font: its average character width and its line height in pixels.
-void GetFontBaseUnits(unsigned long* pHorizontal, unsigned long* pVertical);
+AFX_EXT_API void GetFontBaseUnits(unsigned int* pHorizontal, unsigned int* pVertical);
 
 /// The nearest whole number; an exact half goes down (2.5 gives 2, -2.5 gives -3).
-int RoundHalfDown(double x);
+AFX_EXT_API int RoundHalfDown(double x);
 
 /// Converts a rectangle from pixels to dialog units of the reference font.
-void PixelsToDialogUnits(int x, int y, int cx, int cy, int* pX, int* pY, int* pCx, int* pCy);
+AFX_EXT_API void PixelsToDialogUnits(int x, int y, int cx, int cy, int* pX, int* pY, int* pCx,
+                                     int* pCy);
 
 /// Converts a rectangle from dialog units of the reference font to pixels. A negative value comes
 /// out as a very large positive one.
-void DialogUnitsToPixels(int x, int y, int cx, int cy, int* pX, int* pY, int* pCx, int* pCy);
+AFX_EXT_API void DialogUnitsToPixels(int x, int y, int cx, int cy, int* pX, int* pY, int* pCx,
+                                     int* pCy);
 
 /// Moves the rectangle of a window that is about to be created onto the dialog-unit grid.
-void SnapToDialogUnits(CREATESTRUCT& creation);
+AFX_EXT_API void SnapToDialogUnits(CREATESTRUCT& creation);
 
 /// The conversions on given base units.
 namespace DialogUnits {
@@ -30,8 +32,8 @@ namespace DialogUnits {
 /// ones `vertical` pixels high.
 struct Base
 {
-    unsigned long horizontal;
-    unsigned long vertical;
+    unsigned int horizontal;
+    unsigned int vertical;
 };
 
 /// Position and size, in pixels or in dialog units.
@@ -43,7 +45,7 @@ struct Box
     int cy;
 };
 
-Box FromPixels(const Box& pixels, const Base& base);
-Box ToPixels(const Box& units, const Base& base);
+AFX_EXT_API Box FromPixels(const Box& pixels, const Base& base);
+AFX_EXT_API Box ToPixels(const Box& units, const Base& base);
 
 } // namespace DialogUnits

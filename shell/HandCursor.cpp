@@ -1,0 +1,60 @@
+#include "HandCursor.h"
+
+#include <string.h>
+
+namespace {
+
+const char helpProgram[] = "\\winhlp32.exe";
+const int handResource = 106;
+
+class HandCursorCache
+{
+public:
+    ~HandCursorCache()
+    {
+        if (m_hand != NULL)
+            ::DestroyCursor(m_hand);
+    }
+
+    HCURSOR Get()
+    {
+        if (m_hand == NULL && !m_noHandHere)
+            m_hand = Load();
+        return m_hand;
+    }
+
+private:
+    /// A copy, which outlives the help program's module.
+    HCURSOR Load()
+    {
+        const HMODULE module = LoadHelpProgram();
+        const HCURSOR hand =
+            module != NULL ? ::LoadCursor(module, MAKEINTRESOURCE(handResource)) : NULL;
+        m_noHandHere = hand == NULL;
+        const HCURSOR copy = hand != NULL ? ::CopyIcon(hand) : NULL;
+        if (module != NULL)
+            ::FreeLibrary(module);
+        return copy;
+    }
+
+    static HMODULE LoadHelpProgram()
+    {
+        char path[MAX_PATH + sizeof(helpProgram)] = "";
+        const UINT length = ::GetWindowsDirectory(path, MAX_PATH);
+        if (length == 0 || length >= MAX_PATH)
+            return NULL;
+        strcat(path, helpProgram);
+        return ::LoadLibrary(path);
+    }
+
+    HCURSOR m_hand = NULL;
+    bool m_noHandHere = false; // Not looked for again: every pointer move would pay for it.
+};
+
+} // namespace
+
+HCURSOR LoadHandCursor()
+{
+    static HandCursorCache cache;
+    return cache.Get();
+}

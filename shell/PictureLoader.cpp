@@ -1,0 +1,97 @@
+#include "PictureLoader.h"
+
+#include <direct.h>
+#include <ocidl.h>
+#include <olectl.h>
+#include <string.h>
+
+#include <vector>
+
+namespace {
+
+const int workingPathCapacity = 256;
+const size_t longestPath = 0x40000000; // Characters, with the terminator; refused from here on.
+
+/// The path in UTF-16; empty when it cannot be converted.
+std::vector<wchar_t> WidenPath(const char* path)
+{
+    const size_t length = strlen(path) + 1;
+    if (length >= longestPath)
+        return {};
+    std::vector<wchar_t> wide(length);
+    if (::MultiByteToWideChar(CP_THREAD_ACP, 0, path, -1, wide.data(),
+                              static_cast<int>(length)) == 0)
+        return {};
+    return wide;
+}
+
+/// The picture of the file, to be released by the caller; NULL when there is none. The returned
+/// code of the loader is of no interest: what counts is whether a picture came back.
+IPicture* OpenPicture(const char* path)
+{
+    std::vector<wchar_t> wide = WidenPath(path);
+    void* picture = NULL;
+    ::OleLoadPicturePath(wide.empty() ? NULL : wide.data(), NULL, 0, 0, IID_IPicture, &picture);
+    return static_cast<IPicture*>(picture);
+}
+
+IPicture* OpenPictureBelowWorkingDirectory(const char* path)
+{
+    char directory[workingPathCapacity];
+    char joined[workingPathCapacity];
+    if (_getcwd(directory, workingPathCapacity) == NULL)
+        return NULL;
+    if (!JoinPicturePath(directory, path, joined, workingPathCapacity))
+        return NULL;
+    return OpenPicture(joined);
+}
+
+/// The picture's own handle: GDI handles carry 32 bits, sign-extended in a 64-bit program.
+HBITMAP GetPictureHandle(IPicture* picture)
+{
+    OLE_HANDLE handle = 0;
+    picture->get_Handle(&handle);
+    return static_cast<HBITMAP>(LongToHandle(static_cast<long>(handle)));
+}
+
+/// A copy that does not share the source's fate. The first call may answer the source itself.
+HBITMAP CopyBitmap(HBITMAP source)
+{
+    HANDLE copy = ::CopyImage(source, IMAGE_BITMAP, 0, 0, LR_COPYRETURNORG);
+    if (copy == source)
+        copy = ::CopyImage(source, IMAGE_BITMAP, 0, 0, 0);
+    return static_cast<HBITMAP>(copy);
+}
+
+} // namespace
+
+HBITMAP LoadPictureBitmap(const char* path)
+{
+    if (path == NULL)
+        return NULL;
+    IPicture* picture = OpenPicture(path);
+    if (picture == NULL)
+        picture = OpenPictureBelowWorkingDirectory(path);
+    if (picture == NULL)
+        return NULL;
+
+    const HBITMAP source = GetPictureHandle(picture);
+    const HBITMAP copy = source != NULL ? CopyBitmap(source) : NULL;
+    picture->Release();
+    if (source != NULL)
+        ::DeleteObject(source);
+    return copy;
+}
+
+BOOL JoinPicturePath(const char* directory, const char* path, char* out, size_t capacity)
+{
+    // Kept: the doubled slash works as it is.
+    static const char separator[] = "//";
+    out[0] = '\0';
+    if (strlen(directory) + strlen(separator) + strlen(path) >= capacity)
+        return FALSE;
+    strcpy(out, directory);
+    strcat(out, separator);
+    strcat(out, path);
+    return TRUE;
+}
