@@ -1,0 +1,196 @@
+// The list template, and what all lists of the library share.
+//
+// A POSITION names an element and stays valid until that very element is removed. A NULL position
+// where an element is needed, or a value asked of an empty list, throws CInvalidArgException.
+#pragma once
+
+#include <classes/CException.h>
+#include <classes/CObject.h>
+#include <classes/Platform.h>
+
+#include <utility>
+
+/// True when the two are equal; may be specialised. Lists and maps find elements with it.
+template <class TYPE, class ARG_TYPE>
+BOOL AFXAPI CompareElements(const TYPE* pElement1, const ARG_TYPE* pElement2)
+{
+    return *pElement1 == *pElement2;
+}
+
+namespace afxint {
+
+/// Elements in nodes that are linked both ways.
+template <class TYPE, class ARG_TYPE>
+class ListBase : public CObject
+{
+public:
+    /// The block size is accepted for compatibility; each element is allocated by itself.
+    explicit ListBase([[maybe_unused]] INT_PTR nBlockSize = 10) { ASSERT(nBlockSize > 0); }
+    ~ListBase() override { RemoveAll(); }
+
+    INT_PTR GetCount() const { return m_nCount; }
+    INT_PTR GetSize() const { return m_nCount; }
+    BOOL IsEmpty() const { return m_nCount == 0; }
+
+    TYPE& GetHead() { return Checked(m_pHead)->value; }
+    const TYPE& GetHead() const { return Checked(m_pHead)->value; }
+    TYPE& GetTail() { return Checked(m_pTail)->value; }
+    const TYPE& GetTail() const { return Checked(m_pTail)->value; }
+    TYPE RemoveHead() { return Take(Checked(m_pHead)); }
+    TYPE RemoveTail() { return Take(Checked(m_pTail)); }
+    POSITION AddHead(ARG_TYPE newElement) { return Link(newElement, m_pHead); }
+    POSITION AddTail(ARG_TYPE newElement) { return Link(newElement, nullptr); }
+    /// These add all elements of another list, in their order.
+    void AddHead(ListBase* pNewList);
+    void AddTail(ListBase* pNewList);
+    void RemoveAll();
+
+    POSITION GetHeadPosition() const { return Position(m_pHead); }
+    POSITION GetTailPosition() const { return Position(m_pTail); }
+    /// The element at the position, which moves on, to NULL after the last one.
+    TYPE& GetNext(POSITION& rPosition) { return Step(rPosition, &Node::next); }
+    const TYPE& GetNext(POSITION& rPosition) const { return Step(rPosition, &Node::next); }
+    TYPE& GetPrev(POSITION& rPosition) { return Step(rPosition, &Node::previous); }
+    const TYPE& GetPrev(POSITION& rPosition) const { return Step(rPosition, &Node::previous); }
+
+    TYPE& GetAt(POSITION position) { return At(position)->value; }
+    const TYPE& GetAt(POSITION position) const { return At(position)->value; }
+    void SetAt(POSITION pos, ARG_TYPE newElement) { At(pos)->value = newElement; }
+    void RemoveAt(POSITION position) { delete Unlink(At(position)); }
+    /// With a NULL position these add at the head and at the tail.
+    POSITION InsertBefore(POSITION position, ARG_TYPE newElement);
+    POSITION InsertAfter(POSITION position, ARG_TYPE newElement);
+
+    /// The first equal element after startAfter, or of the whole list; NULL when there is none.
+    POSITION Find(ARG_TYPE searchValue, POSITION startAfter = NULL) const;
+    POSITION FindIndex(INT_PTR nIndex) const;
+
+private:
+    struct Node
+    {
+        TYPE value;
+        Node* previous;
+        Node* next;
+    };
+
+    static POSITION Position(Node* node) { return reinterpret_cast<POSITION>(node); }
+    static Node* Checked(Node* node)
+    {
+        if (node == nullptr)
+            AfxThrowInvalidArgException();
+        return node;
+    }
+    static Node* At(POSITION position) { return Checked(reinterpret_cast<Node*>(position)); }
+    static TYPE& Step(POSITION& position, Node* Node::*towards)
+    {
+        Node* node = At(position);
+        position = Position(node->*towards);
+        return node->value;
+    }
+    POSITION Link(ARG_TYPE value, Node* before);
+    Node* Unlink(Node* node);
+    TYPE Take(Node* node);
+
+    Node* m_pHead = nullptr;
+    Node* m_pTail = nullptr;
+    INT_PTR m_nCount = 0;
+};
+
+template <class TYPE, class ARG_TYPE>
+void ListBase<TYPE, ARG_TYPE>::AddHead(ListBase* pNewList)
+{
+    if (pNewList == nullptr)
+        AfxThrowInvalidArgException();
+    // Backwards from the last element of now: the list may be added to itself.
+    INT_PTR left = pNewList->m_nCount;
+    for (Node* node = pNewList->m_pTail; left > 0; node = node->previous, --left)
+        AddHead(node->value);
+}
+
+template <class TYPE, class ARG_TYPE>
+void ListBase<TYPE, ARG_TYPE>::AddTail(ListBase* pNewList)
+{
+    if (pNewList == nullptr)
+        AfxThrowInvalidArgException();
+    INT_PTR left = pNewList->m_nCount;
+    for (Node* node = pNewList->m_pHead; left > 0; node = node->next, --left)
+        AddTail(node->value);
+}
+
+template <class TYPE, class ARG_TYPE>
+void ListBase<TYPE, ARG_TYPE>::RemoveAll()
+{
+    while (m_pHead != nullptr)
+        delete Unlink(m_pHead);
+}
+
+template <class TYPE, class ARG_TYPE>
+POSITION ListBase<TYPE, ARG_TYPE>::InsertBefore(POSITION position, ARG_TYPE newElement)
+{
+    return position == NULL ? AddHead(newElement) : Link(newElement, At(position));
+}
+
+template <class TYPE, class ARG_TYPE>
+POSITION ListBase<TYPE, ARG_TYPE>::InsertAfter(POSITION position, ARG_TYPE newElement)
+{
+    return position == NULL ? AddTail(newElement) : Link(newElement, At(position)->next);
+}
+
+template <class TYPE, class ARG_TYPE>
+POSITION ListBase<TYPE, ARG_TYPE>::Find(ARG_TYPE searchValue, POSITION startAfter) const
+{
+    Node* node = startAfter == NULL ? m_pHead : At(startAfter)->next;
+    while (node != nullptr && !CompareElements(&node->value, &searchValue))
+        node = node->next;
+    return Position(node);
+}
+
+template <class TYPE, class ARG_TYPE>
+POSITION ListBase<TYPE, ARG_TYPE>::FindIndex(INT_PTR nIndex) const
+{
+    if (nIndex < 0 || nIndex >= m_nCount)
+        return NULL;
+    Node* node = m_pHead;
+    while (nIndex-- > 0)
+        node = node->next;
+    return Position(node);
+}
+
+/// Enters a new element before the given one, or at the tail.
+template <class TYPE, class ARG_TYPE>
+POSITION ListBase<TYPE, ARG_TYPE>::Link(ARG_TYPE value, Node* before)
+{
+    Node* previous = before == nullptr ? m_pTail : before->previous;
+    Node* node = new Node{TYPE(value), previous, before};
+    (previous == nullptr ? m_pHead : previous->next) = node;
+    (before == nullptr ? m_pTail : before->previous) = node;
+    ++m_nCount;
+    return Position(node);
+}
+
+template <class TYPE, class ARG_TYPE>
+typename ListBase<TYPE, ARG_TYPE>::Node* ListBase<TYPE, ARG_TYPE>::Unlink(Node* node)
+{
+    (node->previous == nullptr ? m_pHead : node->previous->next) = node->next;
+    (node->next == nullptr ? m_pTail : node->next->previous) = node->previous;
+    --m_nCount;
+    return node;
+}
+
+template <class TYPE, class ARG_TYPE>
+TYPE ListBase<TYPE, ARG_TYPE>::Take(Node* node)
+{
+    TYPE value = std::move(node->value);
+    delete Unlink(node);
+    return value;
+}
+
+} // namespace afxint
+
+/// A list of TYPE; ARG_TYPE is how elements are handed over (often const TYPE&).
+template <class TYPE, class ARG_TYPE = const TYPE&>
+class CList : public afxint::ListBase<TYPE, ARG_TYPE>
+{
+public:
+    explicit CList(INT_PTR nBlockSize = 10) : afxint::ListBase<TYPE, ARG_TYPE>(nBlockSize) {}
+};
