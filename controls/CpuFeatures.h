@@ -1,0 +1,4 @@
+#pragma once
+
+// Whether the processor and the system allow AVX2 instructions.
+bool CpuHasAvx2();

@@ -1,0 +1,52 @@
+#pragma once
+
+#include "controls/ShadeRandom.h"
+
+#include <cstddef>
+#include <cstdint>
+
+// The shade styles. The numbers are the interface.
+enum ShadeStyle : unsigned
+{
+    SHADE_NOISE = 0,        // flat mid-grey
+    SHADE_DIAGONAL = 1,     // ramp, dark at bottom right, light at top left
+    SHADE_ROWS = 2,         // ramp, dark at the bottom, light at the top
+    SHADE_COLUMNS = 3,      // ramp, light at the left, dark at the right
+    SHADE_ROW_BUMP = 4,     // cubic profile from bottom to top
+    SHADE_COLUMN_BUMP = 5,  // cubic profile from left to right
+    SHADE_CROSS_BUMP = 6,   // both cubic profiles
+    SHADE_ROUNDED_BUMP = 7, // flatter row profile with rounded ramps at both sides
+    SHADE_SCRATCHED = 8     // ramp of style 1 with 200 random scratches
+};
+
+// Rows of 8-bit pixels, the bottom row first.
+struct ShadeSurface
+{
+    std::uint8_t* bits;
+    int width;
+    int height;
+    std::ptrdiff_t stride; // bytes from one row to the next
+};
+
+// The instruction sets that pixels can be made with; what comes out is the same.
+enum class ShadeEngine
+{
+    Sse2,
+    Avx2
+};
+
+// The fastest engine of this processor.
+ShadeEngine BestShadeEngine();
+bool HasShadeEngine(ShadeEngine engine);
+
+// Writes the palette index of every pixel, one or two random numbers a pixel. Bytes between the
+// rows stay as they are. A style other than those above acts as SHADE_NOISE. False, with nothing
+// written or drawn from the stream, when there is no memory for the working rows.
+//
+// Where a side is too short (or, for scratches, too long) for a divisor of the style to be other
+// than zero, only what that divisor is needed for is left out:
+// - SHADE_ROUNDED_BUMP: lower than 2 pixels, the whole second pass and its random numbers; narrower
+//   than 6, the side ramps alone, the second grain being added all the same.
+// - SHADE_SCRATCHED: a side beyond 32767, the scratches and their random numbers.
+bool FillShadePixels(const ShadeSurface& surface, unsigned style, std::uint8_t granularity,
+                     ShadeRandom& random, ShadeEngine engine = BestShadeEngine());
