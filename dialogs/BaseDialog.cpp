@@ -1,0 +1,121 @@
+#include "BaseDialog.h"
+
+#include "WorkingFolder.h"
+
+#include <controls/ScopedSelect.h>
+#include <controls/ShadeGenerator.h>
+#include <resources/resource.h>
+
+CString g_strImageDir;
+COLORREF g_crShade = RGB(192, 192, 192);
+
+BEGIN_MESSAGE_MAP(CBaseDialog, CDialogTS)
+    ON_WM_PAINT()
+END_MESSAGE_MAP()
+
+namespace {
+
+const int iconExtent = 19;                   // Pixels, both ways.
+const COLORREF imageKey = RGB(0, 0, 0);      // Transparent in all images of the toolkit.
+const RECT pictureBox = {540, 15, 620, 115}; // Client pixels.
+const UINT pictureId = 0xFFFF;
+
+} // namespace
+
+CBaseDialog::CBaseDialog(UINT templateId, CWnd* parent, bool confirm, bool ok, bool cancel,
+                         bool next, bool back, bool closeCaption, bool proceedCaption,
+                         bool cancelIcon)
+    : CDialogTS(templateId, parent), m_bBack(back), m_bNext(next), m_bCancel(cancel), m_bOk(ok),
+      m_bConfirm(confirm), m_bCloseCaption(closeCaption), m_bProceedCaption(proceedCaption),
+      m_bCancelIcon(cancelIcon)
+{
+}
+
+CBaseDialog::~CBaseDialog() {}
+
+BOOL CBaseDialog::OnInitDialog()
+{
+    CDialog::OnInitDialog();
+    m_strImageDir = g_strImageDir;
+    if (m_strImageDir.Right(1) != "\\")
+        m_strImageDir += '\\';
+
+    // Where two flags name one button, the later step wins.
+    if (m_bConfirm) {
+        SetButton(m_btnOk, "Confirm");
+        SetButtonIcon(m_btnOk, IDS_IMAGE_CONFIRM);
+    }
+    if (m_bOk) {
+        SetButton(m_btnCancel, "OK"); // Kept: "OK" is a caption of the IDCANCEL button.
+        SetButtonIcon(m_btnCancel, IDS_IMAGE_OK);
+    }
+    if (m_bCancel) {
+        SetButton(m_btnCancel, m_bCloseCaption ? "Close" : "Cancel");
+        if (m_bCancelIcon)
+            SetButtonIcon(m_btnCancel, IDS_IMAGE_CLOSE);
+    }
+    if (m_bNext) {
+        SetButton(m_btnOk, m_bProceedCaption ? "Proceed" : "Next");
+        SetButtonIcon(m_btnOk, IDS_IMAGE_NEXT);
+    }
+    if (m_bBack) {
+        SetButton(m_btnBack, "Back");
+        SetButtonIcon(m_btnBack, IDS_IMAGE_BACK);
+    }
+    return TRUE;
+}
+
+void CBaseDialog::ApplyButtonShade(CxShadeButton& button)
+{
+    button.SetShade(SHADE_DIAGONAL, 0, 0, 100, g_crShade);
+}
+
+void CBaseDialog::ShowPicture(UINT stringId)
+{
+    const WorkingFolder folder(m_strImageDir);
+    m_picture.Create("", 0, pictureBox, this, pictureId);
+    m_picture.SetTransparentColor(imageKey);
+    m_picture.LoadPicture(ImagePath(stringId));
+    m_picture.ShowWindow(SW_SHOWNORMAL);
+}
+
+void CBaseDialog::DoDataExchange(CDataExchange* pDX)
+{
+    DDX_Control(pDX, IDCANCEL, m_btnCancel);
+    if (m_bConfirm || m_bNext)
+        DDX_Control(pDX, IDOK, m_btnOk);
+    if (m_bBack)
+        DDX_Control(pDX, IDC_BACK, m_btnBack);
+}
+
+void CBaseDialog::OnPaint()
+{
+    CPaintDC dc(this);
+    CBitmap strip;
+    strip.LoadBitmap(IDB_STRIP);
+    BITMAP record = {};
+    strip.GetBitmap(&record);
+    CDC memory;
+    memory.CreateCompatibleDC(&dc);
+    const ScopedSelect selected(memory, strip.GetSafeHandle());
+    dc.BitBlt(0, 0, record.bmWidth, record.bmHeight, &memory, 0, 0, SRCCOPY);
+}
+
+CString CBaseDialog::ImagePath(UINT stringId) const
+{
+    CString name;
+    name.LoadString(stringId);
+    return m_strImageDir + name;
+}
+
+void CBaseDialog::SetButton(CxShadeButton& button, const char* caption)
+{
+    button.SetWindowText(caption);
+    ApplyButtonShade(button);
+}
+
+void CBaseDialog::SetButtonIcon(CxShadeButton& button, UINT stringId)
+{
+    button.SetPicture(ImagePath(stringId), CxShadeButton::alignLeft, iconExtent, iconExtent,
+                      imageKey);
+}

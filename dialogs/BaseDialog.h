@@ -1,0 +1,68 @@
+// CBaseDialog: the base of every dialog page. It paints the background strip, binds up to three
+// shaded standard buttons to fixed control ids, gives them captions, faces and icons as eight flags
+// say, and can show one picture.
+//
+// A page calls the base versions of DoDataExchange and OnInitDialog first from its own. Its template
+// has the control IDCANCEL, with a confirm or next flag also IDOK, and with the back flag IDC_BACK
+// (3046); a missing one fails the exchange, as with any control.
+#pragma once
+
+#include "DialogTS.h"
+
+#include <controls/ShadeButton.h>
+#include <controls/StaticTS.h>
+
+/// The folder of the image files, with or without its last backslash; never empty. Set by the host
+/// before its first dialog is created.
+extern AFX_EXT_DATA CString g_strImageDir;
+
+/// The tint of all standard buttons. Set by the host.
+extern AFX_EXT_DATA COLORREF g_crShade;
+
+class AFX_EXT_CLASS CBaseDialog : public CDialogTS
+{
+public:
+    /// The flags: the IDOK button reads "Confirm" (confirm) or "Next" (next), or "Proceed" with
+    /// proceedCaption; the IDCANCEL button reads "OK" (ok) or "Cancel" (cancel), or "Close" with
+    /// closeCaption, and gets an icon with cancelIcon; there is a "Back" button (back). Of two
+    /// flags for one button, cancel wins over ok and next over confirm.
+    CBaseDialog(UINT templateId, CWnd* parent, bool confirm, bool ok, bool cancel, bool next,
+                bool back, bool closeCaption, bool proceedCaption, bool cancelIcon);
+    ~CBaseDialog() override;
+
+    BOOL OnInitDialog() override;
+
+    /// Gives a shaded button the face of the standard buttons.
+    void ApplyButtonShade(CxShadeButton& button);
+
+    /// Shows the image that the string resource names in m_picture, near client pixel (540, 15), 80
+    /// by 100 pixels. At most once for each dialog window. A missing image shows nothing.
+    void ShowPicture(UINT stringId);
+
+protected:
+    CxShadeButton m_btnCancel; ///< IDCANCEL.
+    CxShadeButton m_btnOk;     ///< IDOK.
+    CxShadeButton m_btnBack;   ///< IDC_BACK.
+    CString m_strImageDir;     ///< Ends with a backslash once OnInitDialog has run.
+    CStaticTS m_picture;       ///< Has a window after ShowPicture.
+    // Kept: this order differs from the order of the constructor's arguments.
+    bool m_bBack;
+    bool m_bNext;
+    bool m_bCancel;
+    bool m_bOk;
+    bool m_bConfirm;
+    bool m_bCloseCaption;
+    bool m_bProceedCaption;
+    bool m_bCancelIcon;
+
+    void DoDataExchange(CDataExchange* pDX) override;
+
+    DECLARE_MESSAGE_MAP()
+    /// Paints the background strip. A page's own version is the one that runs.
+    afx_msg virtual void OnPaint();
+
+private:
+    CString ImagePath(UINT stringId) const;
+    void SetButton(CxShadeButton& button, const char* caption);
+    void SetButtonIcon(CxShadeButton& button, UINT stringId);
+};
