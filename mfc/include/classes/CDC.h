@@ -334,7 +334,6 @@ public:
     int SetAbortProc(BOOL(CALLBACK* lpfn)(HDC, int));
     int AbortDoc();
     int EndDoc();
-    BOOL QueryAbort() const;
 
     // Scrolling
     BOOL ScrollDC(int dx, int dy, LPCRECT lpRectScroll, LPCRECT lpRectClip, CRgn* pRgnUpdate,
