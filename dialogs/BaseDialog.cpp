@@ -73,7 +73,8 @@ void CBaseDialog::ApplyButtonShade(CxShadeButton& button)
 void CBaseDialog::ShowPicture(UINT stringId)
 {
     const WorkingFolder folder(m_strImageDir);
-    m_picture.Create("", 0, pictureBox, this, pictureId);
+    if (m_picture.GetSafeHwnd() == NULL)
+        m_picture.Create("", 0, pictureBox, this, pictureId);
     m_picture.SetTransparentColor(imageKey);
     m_picture.LoadPicture(ImagePath(stringId));
     m_picture.ShowWindow(SW_SHOWNORMAL);

@@ -44,9 +44,11 @@ BOOL CModellessDlg::OnInitDialog()
 
 void CModellessDlg::PumpMessages()
 {
+    // A handler of the host may end this window, and the object with it.
+    const HWND dialog = GetSafeHwnd();
     MSG message;
     while (::PeekMessage(&message, NULL, 0, 0, PM_REMOVE)) {
-        if (IsDialogMessage(&message))
+        if (::IsWindow(dialog) && ::IsDialogMessage(dialog, &message))
             continue;
         ::TranslateMessage(&message);
         ::DispatchMessage(&message);

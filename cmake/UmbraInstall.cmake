@@ -1,0 +1,35 @@
+# The install tree that hosts rely on: bin/, lib/, include/umbra/, lib/cmake/umbra/.
+include(CMakePackageConfigHelpers)
+
+set(UMBRA_EXPORTED umbra)
+if(NOT UMBRA_NATIVE_MFC)
+  list(APPEND UMBRA_EXPORTED umbra_mfc)
+endif()
+if(TARGET umbra_testing)
+  list(APPEND UMBRA_EXPORTED umbra_testing)
+endif()
+
+install(TARGETS ${UMBRA_EXPORTED} EXPORT umbraTargets
+  RUNTIME DESTINATION bin
+  ARCHIVE DESTINATION lib
+  LIBRARY DESTINATION lib)
+
+install(FILES umbra.h DESTINATION include/umbra)
+foreach(folder shell controls dialogs)
+  install(DIRECTORY ${folder} DESTINATION include/umbra FILES_MATCHING PATTERN "*.h")
+endforeach()
+install(FILES resources/resource.h DESTINATION include/umbra/resources)
+install(DIRECTORY resources/images DESTINATION share/umbra)
+if(NOT UMBRA_NATIVE_MFC)
+  install(DIRECTORY mfc/include/ DESTINATION include/umbra/mfc)
+endif()
+if(TARGET umbra_testing)
+  install(DIRECTORY testing DESTINATION include/umbra FILES_MATCHING PATTERN "*.h")
+endif()
+
+install(EXPORT umbraTargets NAMESPACE umbra:: DESTINATION lib/cmake/umbra)
+configure_package_config_file(cmake/umbraConfig.cmake.in umbraConfig.cmake
+  INSTALL_DESTINATION lib/cmake/umbra)
+write_basic_package_version_file(umbraConfigVersion.cmake COMPATIBILITY SameMinorVersion)
+install(FILES ${PROJECT_BINARY_DIR}/umbraConfig.cmake
+  ${PROJECT_BINARY_DIR}/umbraConfigVersion.cmake DESTINATION lib/cmake/umbra)

@@ -1,0 +1,85 @@
+#include "KeyedPicture.h"
+
+#include "ScopedSelect.h"
+
+#include <vector>
+
+namespace {
+
+const int rowsAtOnce = 64; // Bounds the memory that a huge picture takes.
+
+/// GIF, PNG and JPEG files may arrive with 255 in the fourth byte of every pixel. The comparison
+/// with the key colour sees that byte, so it has to go.
+void ClearFourthBytes(HBITMAP bitmap, const BITMAP& record)
+{
+    if (record.bmBitsPixel != 32)
+        return;
+    CDC screen;
+    screen.CreateCompatibleDC(NULL);
+    std::vector<DWORD> rows(static_cast<size_t>(record.bmWidth) * rowsAtOnce);
+    BITMAPINFO format = {};
+    format.bmiHeader.biSize = sizeof(BITMAPINFOHEADER);
+    format.bmiHeader.biWidth = record.bmWidth;
+    format.bmiHeader.biHeight = record.bmHeight;
+    format.bmiHeader.biPlanes = 1;
+    format.bmiHeader.biBitCount = 32;
+    format.bmiHeader.biCompression = BI_RGB;
+
+    for (int first = 0; first < record.bmHeight; first += rowsAtOnce) {
+        const int count = min(rowsAtOnce, record.bmHeight - first);
+        if (::GetDIBits(screen.GetSafeHdc(), bitmap, first, count, rows.data(), &format,
+                        DIB_RGB_COLORS) != count)
+            return;
+        for (DWORD& pixel : rows)
+            pixel &= 0x00FFFFFF;
+        ::SetDIBits(screen.GetSafeHdc(), bitmap, first, count, rows.data(), &format,
+                    DIB_RGB_COLORS);
+    }
+}
+
+} // namespace
+
+void BuildKeyMask(CBitmap& picture, CBitmap& mask, COLORREF key)
+{
+    mask.DeleteObject();
+    BITMAP record = {};
+    if (picture.GetSafeHandle() == NULL || picture.GetBitmap(&record) == 0)
+        return;
+    if (!mask.CreateBitmap(record.bmWidth, record.bmHeight, 1, 1, NULL))
+        return;
+    ClearFourthBytes(static_cast<HBITMAP>(picture.GetSafeHandle()), record);
+
+    CDC pictureDC, maskDC;
+    pictureDC.CreateCompatibleDC(NULL);
+    maskDC.CreateCompatibleDC(NULL);
+    const ScopedSelect pictureSelected(pictureDC, picture.GetSafeHandle());
+    const ScopedSelect maskSelected(maskDC, mask.GetSafeHandle());
+
+    // From colour to monochrome, pixels of the background colour become white.
+    pictureDC.SetBkColor(key);
+    maskDC.BitBlt(0, 0, record.bmWidth, record.bmHeight, &pictureDC, 0, 0, SRCCOPY);
+
+    // From monochrome to colour, black takes the text colour and white the background colour.
+    pictureDC.SetTextColor(RGB(255, 255, 255));
+    pictureDC.SetBkColor(RGB(0, 0, 0));
+    pictureDC.BitBlt(0, 0, record.bmWidth, record.bmHeight, &maskDC, 0, 0, SRCAND);
+}
+
+void DrawKeyedPicture(CDC& target, const CRect& place, CBitmap& mask, CBitmap& picture)
+{
+    CDC memory;
+    memory.CreateCompatibleDC(NULL);
+    {
+        const ScopedSelect selected(memory, mask.GetSafeHandle());
+        target.BitBlt(place.left, place.top, place.Width(), place.Height(), &memory, 0, 0, SRCAND);
+    }
+    if (picture.GetSafeHandle() == NULL)
+        return;
+    const ScopedSelect selected(memory, picture.GetSafeHandle());
+    target.BitBlt(place.left, place.top, place.Width(), place.Height(), &memory, 0, 0, SRCPAINT);
+}
+
+void Abandon(CBitmap& bitmap)
+{
+    bitmap.Detach();
+}

@@ -1,0 +1,20 @@
+// CNoteStatic: a label for short notes and remarks, which can have a font object of its own.
+#pragma once
+
+#include "StaticTS.h"
+
+class AFX_EXT_CLASS CNoteStatic : public CStaticTS
+{
+public:
+    CNoteStatic();
+    ~CNoteStatic() override;
+
+    /// Gives the control a font of its own, equal to its current one, which it must have. Call it
+    /// once: each call leaves one font object behind until the process ends.
+    void CopyWindowFont();
+
+protected:
+    DECLARE_MESSAGE_MAP()
+
+    virtual const AFX_MSGMAP* GetBaseMessageMap() const; ///< The map of CStaticTS.
+};

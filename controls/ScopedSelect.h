@@ -1,0 +1,28 @@
+// A graphics object selected into a device context for the length of a scope.
+#pragma once
+
+#include <afxwin.h>
+
+class ScopedSelect
+{
+public:
+    /// Selects nothing when `object` is NULL.
+    ScopedSelect(CDC& dc, HGDIOBJ object)
+        : m_dc(dc.GetSafeHdc()),
+          m_previous(object != NULL ? ::SelectObject(m_dc, object) : NULL)
+    {
+    }
+
+    ~ScopedSelect()
+    {
+        if (m_previous != NULL)
+            ::SelectObject(m_dc, m_previous);
+    }
+
+    ScopedSelect(const ScopedSelect&) = delete;
+    ScopedSelect& operator=(const ScopedSelect&) = delete;
+
+private:
+    HDC m_dc;
+    HGDIOBJ m_previous;
+};
