@@ -1,0 +1,51 @@
+# Shared by the scripts; sourced with $root set to the source folder.
+
+say() {
+    printf '%s\n' "$*"
+}
+
+fail() {
+    printf '%s: %s\n' "${0##*/}" "$*" >&2
+    exit 1
+}
+
+# Prints the comment at the head of the script, without the hashes.
+show_help() {
+    sed -n '2,/^[^#]/{/^#/!q; s/^# \{0,1\}//p}' "$0"
+}
+
+# Runs a command and keeps its output for the case that it fails.
+quietly() {
+    local log
+    log=$(mktemp)
+    if "$@" >"$log" 2>&1; then
+        rm -f "$log"
+        return 0
+    fi
+    cat "$log" >&2
+    rm -f "$log"
+    return 1
+}
+
+# The 64-bit Wine loader; the wrapper named wine complains where 32-bit Wine is missing.
+find_wine() {
+    local candidate
+    for candidate in wine64 /usr/lib/wine/wine64 wine; do
+        if command -v "$candidate" >/dev/null 2>&1; then
+            command -v "$candidate"
+            return 0
+        fi
+    done
+    return 1
+}
+
+# What every program under Wine gets: English messages and code page 1252 whatever the user's
+# language is, UTF-8 file names, no chatter, and none of the helpers that only cost time.
+export_wine_environment() {
+    export WINEPREFIX=$1
+    export WINEARCH=win64
+    export WINEDEBUG=${WINEDEBUG:--all}
+    export WINEDLLOVERRIDES='winemenubuilder.exe=d;mscoree=d;mshtml=d'
+    export LC_ALL=C.UTF-8
+    unset DISPLAY WAYLAND_DISPLAY
+}

@@ -1,0 +1,141 @@
+#include <testing/DialogTemplate.h>
+
+#include <cstring>
+
+namespace umbra::testing {
+
+namespace {
+
+struct ClassAtom
+{
+    const char* name;
+    WORD atom;
+};
+constexpr ClassAtom classAtoms[] = {{"Button", 0x0080},  {"Edit", 0x0081},
+                                    {"Static", 0x0082},  {"ListBox", 0x0083},
+                                    {"ScrollBar", 0x0084}, {"ComboBox", 0x0085}};
+
+void AppendRaw(std::vector<WORD>& memory, const void* data, size_t bytes)
+{
+    const size_t end = memory.size();
+    memory.resize(end + bytes / sizeof(WORD));
+    std::memcpy(&memory[end], data, bytes);
+}
+
+void AppendText(std::vector<WORD>& memory, const std::string& text)
+{
+    const int length = ::MultiByteToWideChar(CP_ACP, 0, text.c_str(), -1, nullptr, 0);
+    std::vector<wchar_t> wide(static_cast<size_t>(length));
+    ::MultiByteToWideChar(CP_ACP, 0, text.c_str(), -1, wide.data(), length);
+    memory.insert(memory.end(), wide.begin(), wide.end());
+}
+
+void AppendClass(std::vector<WORD>& memory, const std::string& className)
+{
+    for (const ClassAtom& known : classAtoms) {
+        if (::lstrcmpiA(known.name, className.c_str()) != 0)
+            continue;
+        memory.push_back(0xFFFF);
+        memory.push_back(known.atom);
+        return;
+    }
+    AppendText(memory, className);
+}
+
+void AlignToDword(std::vector<WORD>& memory)
+{
+    if (memory.size() % 2 != 0)
+        memory.push_back(0);
+}
+
+} // namespace
+
+DialogTemplate::DialogTemplate(int x, int y, int width, int height, DWORD style, const char* title,
+                               DWORD extendedStyle)
+    : title_(title)
+{
+    head_.style = style;
+    head_.dwExtendedStyle = extendedStyle;
+    head_.x = static_cast<short>(x);
+    head_.y = static_cast<short>(y);
+    head_.cx = static_cast<short>(width);
+    head_.cy = static_cast<short>(height);
+}
+
+DialogTemplate& DialogTemplate::Font(int points, const char* face)
+{
+    head_.style |= DS_SETFONT;
+    points_ = points;
+    face_ = face;
+    return *this;
+}
+
+DialogTemplate& DialogTemplate::Add(const char* className, int id, const char* text, int x, int y,
+                                    int width, int height, DWORD style, DWORD extendedStyle)
+{
+    Item item;
+    item.place.style = style;
+    item.place.dwExtendedStyle = extendedStyle;
+    item.place.x = static_cast<short>(x);
+    item.place.y = static_cast<short>(y);
+    item.place.cx = static_cast<short>(width);
+    item.place.cy = static_cast<short>(height);
+    item.place.id = static_cast<WORD>(id);
+    item.className = className;
+    item.text = text;
+    items_.push_back(item);
+    return *this;
+}
+
+DialogTemplate& DialogTemplate::Button(int id, const char* text, int x, int y, int width,
+                                       int height, DWORD style)
+{
+    return Add("Button", id, text, x, y, width, height, style);
+}
+
+DialogTemplate& DialogTemplate::Edit(int id, const char* text, int x, int y, int width, int height,
+                                     DWORD style)
+{
+    return Add("Edit", id, text, x, y, width, height, style);
+}
+
+DialogTemplate& DialogTemplate::Label(int id, const char* text, int x, int y, int width,
+                                      int height, DWORD style)
+{
+    return Add("Static", id, text, x, y, width, height, style);
+}
+
+DialogTemplate& DialogTemplate::ListBox(int id, int x, int y, int width, int height, DWORD style)
+{
+    return Add("ListBox", id, "", x, y, width, height, style);
+}
+
+DialogTemplate& DialogTemplate::ComboBox(int id, int x, int y, int width, int height, DWORD style)
+{
+    return Add("ComboBox", id, "", x, y, width, height, style);
+}
+
+const DLGTEMPLATE* DialogTemplate::Get() const
+{
+    memory_.clear();
+    DLGTEMPLATE head = head_;
+    head.cdit = static_cast<WORD>(items_.size());
+    AppendRaw(memory_, &head, sizeof head);
+    memory_.push_back(0); // No menu.
+    memory_.push_back(0); // The dialog class.
+    AppendText(memory_, title_);
+    if (head_.style & DS_SETFONT) {
+        memory_.push_back(static_cast<WORD>(points_));
+        AppendText(memory_, face_);
+    }
+    for (const Item& item : items_) {
+        AlignToDword(memory_);
+        AppendRaw(memory_, &item.place, sizeof item.place);
+        AppendClass(memory_, item.className);
+        AppendText(memory_, item.text);
+        memory_.push_back(0); // No creation data.
+    }
+    return reinterpret_cast<const DLGTEMPLATE*>(memory_.data());
+}
+
+} // namespace umbra::testing

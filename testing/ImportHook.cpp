@@ -1,0 +1,149 @@
+#include <testing/ImportHook.h>
+
+#include <cctype>
+
+namespace umbra::testing {
+
+namespace {
+
+const BYTE* ImageBase(HMODULE module)
+{
+    return reinterpret_cast<const BYTE*>(module);
+}
+
+const IMAGE_DATA_DIRECTORY& DirectoryOf(HMODULE module, int index)
+{
+    const BYTE* base = ImageBase(module);
+    const auto* dos = reinterpret_cast<const IMAGE_DOS_HEADER*>(base);
+    const auto* headers = reinterpret_cast<const IMAGE_NT_HEADERS*>(base + dos->e_lfanew);
+    return headers->OptionalHeader.DataDirectory[index];
+}
+
+/// One DLL's imports: two tables side by side, the names and the addresses.
+void AddImports(std::vector<Import>& imports, HMODULE module, const char* dll, DWORD names,
+                DWORD addresses, bool delayed)
+{
+    const BYTE* base = ImageBase(module);
+    const auto* name = reinterpret_cast<const IMAGE_THUNK_DATA*>(base + names);
+    auto* slot = reinterpret_cast<void**>(const_cast<BYTE*>(base) + addresses);
+    for (; name->u1.AddressOfData != 0; ++name, ++slot) {
+        Import import;
+        import.dll = dll;
+        import.delayed = delayed;
+        import.slot = slot;
+        if (IMAGE_SNAP_BY_ORDINAL(name->u1.Ordinal))
+            import.ordinal = static_cast<WORD>(IMAGE_ORDINAL(name->u1.Ordinal));
+        else
+            import.name = reinterpret_cast<const IMAGE_IMPORT_BY_NAME*>(
+                              base + name->u1.AddressOfData)
+                              ->Name;
+        imports.push_back(import);
+    }
+}
+
+std::string PlainName(std::string dll)
+{
+    for (char& character : dll)
+        character = static_cast<char>(std::tolower(static_cast<unsigned char>(character)));
+    const size_t extension = dll.rfind(".dll");
+    if (extension != std::string::npos && extension + 4 == dll.size())
+        dll.resize(extension);
+    return dll;
+}
+
+bool IsNamed(const Import& import, const char* name)
+{
+    if (IS_INTRESOURCE(name))
+        return import.name.empty() && import.ordinal == LOWORD(reinterpret_cast<ULONG_PTR>(name));
+    return import.name == name;
+}
+
+void WriteSlot(void** slot, void* address)
+{
+    DWORD protection = 0;
+    ::VirtualProtect(slot, sizeof *slot, PAGE_READWRITE, &protection);
+    *slot = address;
+    ::VirtualProtect(slot, sizeof *slot, protection, &protection);
+}
+
+} // namespace
+
+std::vector<Import> ImportsOf(HMODULE module)
+{
+    std::vector<Import> imports;
+    const BYTE* base = ImageBase(module);
+    const IMAGE_DATA_DIRECTORY& direct = DirectoryOf(module, IMAGE_DIRECTORY_ENTRY_IMPORT);
+    if (direct.VirtualAddress != 0) {
+        auto* dll = reinterpret_cast<const IMAGE_IMPORT_DESCRIPTOR*>(base + direct.VirtualAddress);
+        for (; dll->Name != 0; ++dll) {
+            if (dll->OriginalFirstThunk == 0)
+                continue; // Without a table of names the functions cannot be told apart.
+            AddImports(imports, module, reinterpret_cast<const char*>(base + dll->Name),
+                       dll->OriginalFirstThunk, dll->FirstThunk, false);
+        }
+    }
+    const IMAGE_DATA_DIRECTORY& delayed = DirectoryOf(module, IMAGE_DIRECTORY_ENTRY_DELAY_IMPORT);
+    if (delayed.VirtualAddress != 0) {
+        auto* dll =
+            reinterpret_cast<const IMAGE_DELAYLOAD_DESCRIPTOR*>(base + delayed.VirtualAddress);
+        for (; dll->DllNameRVA != 0; ++dll)
+            AddImports(imports, module, reinterpret_cast<const char*>(base + dll->DllNameRVA),
+                       dll->ImportNameTableRVA, dll->ImportAddressTableRVA, true);
+    }
+    return imports;
+}
+
+std::optional<Import> FindImport(HMODULE module, const char* dll, const char* name)
+{
+    if (module == nullptr)
+        return std::nullopt;
+    const std::string wanted = PlainName(dll);
+    for (const Import& import : ImportsOf(module)) {
+        if (PlainName(import.dll) == wanted && IsNamed(import, name))
+            return import;
+    }
+    return std::nullopt;
+}
+
+void* TargetOf(const Import& import)
+{
+    if (!import.delayed)
+        return *import.slot;
+    // The slot may still lead to a stub, which would write over a hook on its first call.
+    const char* name = import.name.empty() ? MAKEINTRESOURCEA(import.ordinal) : import.name.c_str();
+    HMODULE dll = ::LoadLibraryA(import.dll.c_str());
+    return reinterpret_cast<void*>(::GetProcAddress(dll, name));
+}
+
+HMODULE ModuleOf(const void* address)
+{
+    HMODULE module = nullptr;
+    ::GetModuleHandleExA(GET_MODULE_HANDLE_EX_FLAG_FROM_ADDRESS |
+                             GET_MODULE_HANDLE_EX_FLAG_UNCHANGED_REFCOUNT,
+                         static_cast<const char*>(address), &module);
+    return module;
+}
+
+HMODULE FindModule(const char* fileName)
+{
+    return ::GetModuleHandleA(fileName);
+}
+
+ImportHook::ImportHook(HMODULE module, const char* dll, const char* name, void* replacement)
+{
+    const std::optional<Import> import = FindImport(module, dll, name);
+    if (!import)
+        return;
+    slot_ = import->slot;
+    before_ = *import->slot;
+    original_ = TargetOf(*import);
+    WriteSlot(slot_, replacement);
+}
+
+ImportHook::~ImportHook()
+{
+    if (slot_ != nullptr)
+        WriteSlot(slot_, before_);
+}
+
+} // namespace umbra::testing

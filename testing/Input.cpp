@@ -1,0 +1,228 @@
+#include <testing/Input.h>
+#include <testing/Pump.h>
+
+#include <vector>
+
+namespace umbra::testing {
+
+namespace {
+
+constexpr auto arrivalTime = std::chrono::seconds(2);
+
+/// Counts the mouse or keyboard messages that the calling thread takes from its queue. The
+/// system calls such a hook also for messages that a nested loop takes, and before it turns them
+/// into messages of a window's frame.
+class ArrivalCounter
+{
+public:
+    explicit ArrivalCounter(int hookKind)
+        : hook_(::SetWindowsHookEx(hookKind, hookKind == WH_MOUSE ? CountMouse : CountKey, nullptr,
+                                   ::GetCurrentThreadId()))
+    {
+        buttons = moves = keys = 0;
+    }
+    ArrivalCounter(const ArrivalCounter&) = delete;
+    ArrivalCounter& operator=(const ArrivalCounter&) = delete;
+    ~ArrivalCounter() { ::UnhookWindowsHookEx(hook_); }
+
+    int Buttons() const { return buttons; }
+    int Moves() const { return moves; }
+    int Keys() const { return keys; }
+
+private:
+    static LRESULT CALLBACK CountMouse(int code, WPARAM message, LPARAM details)
+    {
+        const bool isMove = message == WM_MOUSEMOVE || message == WM_NCMOUSEMOVE;
+        if (code == HC_ACTION)
+            ++(isMove ? moves : buttons);
+        return ::CallNextHookEx(nullptr, code, message, details);
+    }
+    static LRESULT CALLBACK CountKey(int code, WPARAM key, LPARAM details)
+    {
+        if (code == HC_ACTION)
+            ++keys;
+        return ::CallNextHookEx(nullptr, code, key, details);
+    }
+
+    static inline thread_local int buttons = 0;
+    static inline thread_local int moves = 0;
+    static inline thread_local int keys = 0;
+    HHOOK hook_;
+};
+
+POINT Middle(HWND window)
+{
+    RECT client{};
+    ::GetClientRect(window, &client);
+    return {(client.left + client.right) / 2, (client.top + client.bottom) / 2};
+}
+
+bool MovePointerTo(POINT screen)
+{
+    POINT before{};
+    ::GetCursorPos(&before);
+    if (before.x == screen.x && before.y == screen.y) {
+        PumpMessages();
+        return true;
+    }
+    const ArrivalCounter arrivals(WH_MOUSE);
+    if (!::SetCursorPos(screen.x, screen.y))
+        return false;
+    return WaitUntil([&] { return arrivals.Moves() > 0; }, arrivalTime);
+}
+
+bool SendButton(DWORD flags)
+{
+    INPUT input{};
+    input.type = INPUT_MOUSE;
+    input.mi.dwFlags = flags;
+    const ArrivalCounter arrivals(WH_MOUSE);
+    if (::SendInput(1, &input, sizeof input) != 1)
+        return false;
+    return WaitUntil([&] { return arrivals.Buttons() > 0; }, arrivalTime);
+}
+
+INPUT KeyInput(WORD virtualKey, WORD scanCode, DWORD flags)
+{
+    INPUT input{};
+    input.type = INPUT_KEYBOARD;
+    input.ki.wVk = virtualKey;
+    input.ki.wScan = scanCode;
+    input.ki.dwFlags = flags;
+    return input;
+}
+
+void AddKey(std::vector<INPUT>& inputs, WORD virtualKey, DWORD flags)
+{
+    const WORD scanCode = static_cast<WORD>(::MapVirtualKey(virtualKey, MAPVK_VK_TO_VSC));
+    inputs.push_back(KeyInput(virtualKey, scanCode, flags));
+}
+
+void AddCharacter(std::vector<INPUT>& inputs, char character)
+{
+    const SHORT key = ::VkKeyScan(character);
+    const WORD virtualKey = LOBYTE(key);
+    const int modifiers = HIBYTE(key);
+    constexpr int shiftOnly = 1;
+    if (key == -1 || (modifiers & ~shiftOnly) != 0) {
+        wchar_t wide = 0;
+        ::MultiByteToWideChar(CP_ACP, 0, &character, 1, &wide, 1);
+        inputs.push_back(KeyInput(0, wide, KEYEVENTF_UNICODE));
+        inputs.push_back(KeyInput(0, wide, KEYEVENTF_UNICODE | KEYEVENTF_KEYUP));
+        return;
+    }
+    if (modifiers == shiftOnly)
+        AddKey(inputs, VK_SHIFT, 0);
+    AddKey(inputs, virtualKey, 0);
+    AddKey(inputs, virtualKey, KEYEVENTF_KEYUP);
+    if (modifiers == shiftOnly)
+        AddKey(inputs, VK_SHIFT, KEYEVENTF_KEYUP);
+}
+
+bool SendKeys(std::vector<INPUT>& inputs)
+{
+    const UINT count = static_cast<UINT>(inputs.size());
+    if (count == 0)
+        return true;
+    const ArrivalCounter arrivals(WH_KEYBOARD);
+    if (::SendInput(count, inputs.data(), sizeof(INPUT)) != count)
+        return false;
+    return WaitUntil([&] { return arrivals.Keys() >= static_cast<int>(count); }, arrivalTime);
+}
+
+} // namespace
+
+bool MovePointer(HWND window, POINT client)
+{
+    POINT screen = client;
+    return ::ClientToScreen(window, &screen) && MovePointerTo(screen);
+}
+
+bool MovePointer(HWND window)
+{
+    return MovePointer(window, Middle(window));
+}
+
+bool MovePointerAway()
+{
+    const POINT corner{::GetSystemMetrics(SM_CXSCREEN) - 1, ::GetSystemMetrics(SM_CYSCREEN) - 1};
+    if (!::SetCursorPos(corner.x, corner.y))
+        return false;
+    PumpMessages();
+    return true;
+}
+
+bool PressLeft()
+{
+    return SendButton(MOUSEEVENTF_LEFTDOWN);
+}
+
+bool ReleaseLeft()
+{
+    return SendButton(MOUSEEVENTF_LEFTUP);
+}
+
+bool PressRight()
+{
+    return SendButton(MOUSEEVENTF_RIGHTDOWN);
+}
+
+bool ReleaseRight()
+{
+    return SendButton(MOUSEEVENTF_RIGHTUP);
+}
+
+bool Click(HWND window, POINT client)
+{
+    return MovePointer(window, client) && PressLeft() && ReleaseLeft();
+}
+
+bool Click(HWND window)
+{
+    return Click(window, Middle(window));
+}
+
+bool DoubleClick(HWND window, POINT client)
+{
+    return Click(window, client) && PressLeft() && ReleaseLeft();
+}
+
+bool DoubleClick(HWND window)
+{
+    return DoubleClick(window, Middle(window));
+}
+
+bool Drag(HWND window, POINT from, POINT to)
+{
+    // A window that follows the pointer moves its client area too, so the way is measured on the
+    // screen.
+    POINT end = to;
+    ::ClientToScreen(window, &end);
+    POINT start = from;
+    ::ClientToScreen(window, &start);
+    return MovePointerTo(start) && PressLeft() &&
+           MovePointerTo({(start.x + end.x) / 2, (start.y + end.y) / 2}) && MovePointerTo(end) &&
+           ReleaseLeft();
+}
+
+bool PressKey(WORD virtualKey, WORD modifier)
+{
+    std::vector<INPUT> inputs;
+    if (modifier != 0)
+        AddKey(inputs, modifier, 0);
+    AddKey(inputs, virtualKey, 0);
+    AddKey(inputs, virtualKey, KEYEVENTF_KEYUP);
+    if (modifier != 0)
+        AddKey(inputs, modifier, KEYEVENTF_KEYUP);
+    return SendKeys(inputs);
+}
+
+bool TypeText(const char* text)
+{
+    std::vector<INPUT> inputs;
+    for (; *text != '\0'; ++text)
+        AddCharacter(inputs, *text);
+    return SendKeys(inputs);
+}
+
+} // namespace umbra::testing

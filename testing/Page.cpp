@@ -1,0 +1,107 @@
+#include <testing/Input.h>
+#include <testing/Page.h>
+#include <testing/Pump.h>
+
+namespace umbra::testing {
+
+namespace {
+
+std::string TextOf(HWND window)
+{
+    std::string text(static_cast<size_t>(::GetWindowTextLengthA(window)) + 1, '\0');
+    text.resize(static_cast<size_t>(
+        ::GetWindowTextA(window, text.data(), static_cast<int>(text.size()))));
+    return text;
+}
+
+} // namespace
+
+Page::Page(CDialog& dialog, UINT templateId, CWnd* parent) : isOwn_(true)
+{
+    if (!dialog.Create(templateId, parent))
+        return;
+    window_ = dialog.GetSafeHwnd();
+    BringToFront();
+}
+
+Page::Page(CDialog& dialog, const DialogTemplate& source, CWnd* parent) : isOwn_(true)
+{
+    if (!dialog.CreateIndirect(source.Get(), parent))
+        return;
+    window_ = dialog.GetSafeHwnd();
+    BringToFront();
+}
+
+Page::Page(HWND window) : window_(window)
+{
+    BringToFront();
+}
+
+Page::~Page()
+{
+    if (isOwn_ && IsOpen())
+        ::DestroyWindow(window_);
+}
+
+bool Page::Click(int id)
+{
+    return testing::Click(Control(id));
+}
+
+bool Page::DoubleClick(int id)
+{
+    return testing::DoubleClick(Control(id));
+}
+
+bool Page::Hover(int id)
+{
+    return MovePointer(Control(id));
+}
+
+bool Page::Type(int id, const char* text)
+{
+    ::SendMessage(window_, WM_NEXTDLGCTL, reinterpret_cast<WPARAM>(Control(id)), TRUE);
+    ::SendMessage(Control(id), EM_SETSEL, 0, -1);
+    return TypeText(text);
+}
+
+std::string Page::Text(int id) const
+{
+    return TextOf(Control(id));
+}
+
+std::string Page::Title() const
+{
+    return TextOf(window_);
+}
+
+Picture Page::Show()
+{
+    PumpMessages();
+    return Picture::OfWindow(window_);
+}
+
+Picture Page::Show(int id)
+{
+    PumpMessages();
+    return Picture::OfWindow(Control(id));
+}
+
+void Page::MoveOffScreen()
+{
+    RECT place{};
+    ::GetWindowRect(window_, &place);
+    ::SetWindowPos(window_, nullptr, place.left - place.right - 100, 0, 0, 0,
+                   SWP_NOSIZE | SWP_NOZORDER | SWP_NOACTIVATE);
+    PumpMessages();
+}
+
+void Page::BringToFront()
+{
+    ::ShowWindow(window_, SW_SHOW);
+    ::SetForegroundWindow(window_);
+    ::UpdateWindow(window_);
+    PumpMessages();
+}
+
+} // namespace umbra::testing

@@ -1,0 +1,73 @@
+// The main program of every layer's tests: an MFC application without a window of its own, around
+// the test framework.
+#define DOCTEST_CONFIG_IMPLEMENT
+#include <afxwin.h>
+
+#include <doctest/doctest.h>
+
+#include <testing/CrashReport.h>
+
+#include <cstdio>
+
+namespace {
+
+// Less than what the launcher allows, so that the report of a hanging test comes first.
+constexpr DWORD runTimeMilliseconds = 50000;
+
+class TestApp : public CWinApp
+{
+} theApp;
+
+int casesRun = 0;
+
+/// Tells a crash report which test was running, and counts.
+class CurrentTest : public doctest::IReporter
+{
+public:
+    explicit CurrentTest(const doctest::ContextOptions&) {}
+
+    void test_case_start(const doctest::TestCaseData& test) override
+    {
+        ++casesRun;
+        umbra::testing::SetCrashContext(test.m_name);
+    }
+    void test_case_end(const doctest::CurrentTestCaseStats&) override
+    {
+        umbra::testing::SetCrashContext(nullptr);
+    }
+
+    void report_query(const doctest::QueryData&) override {}
+    void test_run_start() override {}
+    void test_run_end(const doctest::TestRunStats&) override {}
+    void test_case_reenter(const doctest::TestCaseData&) override {}
+    void test_case_exception(const doctest::TestCaseException&) override {}
+    void subcase_start(const doctest::SubcaseSignature&) override {}
+    void subcase_end() override {}
+    void log_assert(const doctest::AssertData&) override {}
+    void log_message(const doctest::MessageData&) override {}
+    void test_case_skipped(const doctest::TestCaseData&) override {}
+};
+REGISTER_LISTENER("current-test", 1, CurrentTest);
+
+} // namespace
+
+int main(int argc, char** argv)
+{
+    umbra::testing::InstallCrashReport();
+    if (!AfxWinInit(::GetModuleHandle(nullptr), nullptr, ::GetCommandLine(), SW_SHOWNORMAL)) {
+        std::fputs("the class library could not be initialised\n", stderr);
+        return EXIT_FAILURE;
+    }
+    doctest::Context context(argc, argv);
+    context.setOption("no-path-filenames", true);
+    if (!::IsDebuggerPresent())
+        umbra::testing::LimitRunTime(runTimeMilliseconds);
+    const int result = context.run();
+    if (context.shouldExit())
+        return result; // A question such as --list-test-cases was answered.
+    if (casesRun == 0) {
+        std::fputs("no test case matches the filter\n", stderr);
+        return EXIT_FAILURE;
+    }
+    return result;
+}
