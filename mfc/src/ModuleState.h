@@ -24,8 +24,9 @@ public:
     HINSTANCE instance = nullptr;   ///< The program.
     HINSTANCE resource = nullptr;   ///< Where resources are looked for first.
     HINSTANCE ownLibrary = nullptr; ///< The class library itself, last in the search.
-    std::vector<Library> libraries; ///< Latest first. Guarded by librariesLock.
-    CRITICAL_SECTION librariesLock;
+    std::vector<Library> libraries; ///< In the order of their loading. Guarded by lock.
+    bool oleStarted = false;        ///< AfxOleInit was called; WinMain ends it.
+    CRITICAL_SECTION lock;          ///< For what several threads use.
 
 private:
     friend AFX_MODULE_STATE* AFXAPI AfxGetStaticModuleState();

@@ -66,7 +66,6 @@ private:
     static unsigned __stdcall Enter(void* start);
     UINT RunToEnd();
     void Delete();
-    BOOL DispatchThreadMessage(const MSG& message);
 
     AFX_THREADPROC m_pfnThreadProc; ///< NULL for a thread with a message loop.
     LPVOID m_pThreadParams;
