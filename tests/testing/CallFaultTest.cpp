@@ -1,0 +1,90 @@
+#include <testing/CallFault.h>
+
+#include <doctest/doctest.h>
+
+using namespace umbra::testing;
+
+namespace {
+
+HMODULE ThisModule()
+{
+    return ModuleOf(reinterpret_cast<const void*>(&ThisModule));
+}
+
+} // namespace
+
+TEST_CASE("calls are counted and let through, whatever their arguments")
+{
+    CountCalls counter(ThisModule(), "user32.dll", "CreateWindowExA");
+    REQUIRE(counter.IsInstalled());
+    HWND window = ::CreateWindowExA(WS_EX_TOOLWINDOW, "Static", "twelve arguments", WS_POPUP, 1, 2,
+                                    33, 44, nullptr, nullptr, ::GetModuleHandleA(nullptr), nullptr);
+    REQUIRE(window != nullptr);
+    RECT place{};
+    ::GetWindowRect(window, &place);
+    CHECK(place.left == 1);
+    CHECK(place.bottom == 46);
+    char text[32] = "";
+    ::GetWindowTextA(window, text, sizeof text);
+    CHECK(std::string(text) == "twelve arguments");
+    ::DestroyWindow(window);
+    CHECK(counter.Calls() == 1);
+    CHECK(counter.Failed() == 0);
+}
+
+TEST_CASE("only the n-th call fails, with the result and the error that were asked for")
+{
+    FailNth fault(ThisModule(), "gdi32.dll", "CreateCompatibleDC", 2, {0, 1234});
+    REQUIRE(fault.IsInstalled());
+    HDC first = ::CreateCompatibleDC(nullptr);
+    CHECK(first != nullptr);
+    ::SetLastError(0);
+    CHECK(::CreateCompatibleDC(nullptr) == nullptr);
+    CHECK(::GetLastError() == 1234);
+    CHECK(fault.Failed() == 1);
+    HDC third = ::CreateCompatibleDC(nullptr);
+    CHECK(third != nullptr);
+    CHECK(fault.Calls() == 3);
+    CHECK(fault.Failed() == 1);
+    ::DeleteDC(first);
+    ::DeleteDC(third);
+}
+
+TEST_CASE("a failing call may return any value")
+{
+    const FailAlways fault(ThisModule(), "user32.dll", "GetSystemMetrics",
+                           {static_cast<ULONG_PTR>(-5), 0});
+    CHECK(::GetSystemMetrics(SM_CXSCREEN) == -5);
+    CHECK(::GetSystemMetrics(SM_CYSCREEN) == -5);
+    CHECK(fault.Failed() == 2);
+}
+
+TEST_CASE("calls go through again when the fault has ended")
+{
+    {
+        const FailAlways fault(ThisModule(), "gdi32.dll", "CreateCompatibleDC");
+        CHECK(::CreateCompatibleDC(nullptr) == nullptr);
+        CHECK(::GetLastError() == ERROR_NOT_ENOUGH_MEMORY);
+    }
+    HDC dc = ::CreateCompatibleDC(nullptr);
+    CHECK(dc != nullptr);
+    ::DeleteDC(dc);
+}
+
+TEST_CASE("an absent import is reported and counts nothing")
+{
+    const FailAlways fault(ThisModule(), "gdi32.dll", "NoSuchFunction");
+    CHECK_FALSE(fault.IsInstalled());
+    CHECK(fault.Calls() == 0);
+    CHECK(fault.Failed() == 0);
+}
+
+TEST_CASE("the function that installs a fault may itself be the one")
+{
+    const CountCalls counter(ThisModule(), "kernel32.dll", "VirtualProtect");
+    REQUIRE(counter.IsInstalled());
+    DWORD before = 0;
+    static char memory[16];
+    CHECK(::VirtualProtect(memory, sizeof memory, PAGE_READWRITE, &before));
+    CHECK(counter.Calls() >= 1);
+}

@@ -1,0 +1,47 @@
+#include <testing/NextDialog.h>
+#include <testing/Page.h>
+#include <testing/Pump.h>
+
+#include <doctest/doctest.h>
+
+using namespace umbra::testing;
+
+TEST_CASE("a message box is answered by the real pointer")
+{
+    std::string text;
+    NextDialog answer([&](HWND box) {
+        Page page(box);
+        text = page.Title();
+        CHECK(page.Click(IDNO));
+    });
+    CHECK(::MessageBoxA(nullptr, "Go on?", "Question", MB_YESNO) == IDNO);
+    CHECK(answer.HasRun());
+    CHECK(text == "Question");
+}
+
+TEST_CASE("dialogs that were open before are not taken for the next one")
+{
+    CDialog open;
+    DialogTemplate source(0, 0, 100, 50);
+    const Page page(open, source);
+    HWND met = nullptr;
+    NextDialog answer([&](HWND box) {
+        met = box;
+        ::EndDialog(box, IDOK);
+    });
+    ::MessageBoxA(nullptr, "Text", "Title", MB_OK);
+    CHECK(answer.HasRun());
+    CHECK(met != page.Handle());
+}
+
+TEST_CASE("nothing runs when no dialog comes")
+{
+    bool hasRun = false;
+    {
+        const NextDialog answer([&](HWND) { hasRun = true; });
+        WaitUntil([] { return false; }, std::chrono::milliseconds(60));
+        CHECK_FALSE(answer.HasRun());
+    }
+    WaitUntil([] { return false; }, std::chrono::milliseconds(60));
+    CHECK_FALSE(hasRun);
+}
