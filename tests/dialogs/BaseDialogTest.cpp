@@ -1,0 +1,426 @@
+#include <dialogs/BaseDialog.h>
+#include <shell/PictureLoader.h>
+
+#include "PageTemplate.h"
+
+#include <testing/CallFault.h>
+#include <testing/Canvas.h>
+#include <testing/GdiObjects.h>
+#include <testing/ImportHook.h>
+#include <testing/Input.h>
+#include <testing/NextDialog.h>
+#include <testing/Page.h>
+#include <testing/Picture.h>
+#include <testing/Pump.h>
+
+#include <doctest/doctest.h>
+
+#include <string>
+
+using namespace umbra::testing;
+
+namespace {
+
+const COLORREF tint = RGB(180, 200, 230);
+
+/// Looks at what a button keeps to itself.
+struct ButtonProbe : CxShadeButton
+{
+    static HBITMAP Picture(const CxShadeButton& button) { return button.*(&ButtonProbe::m_hBitmap); }
+    static CRect PicturePlace(const CxShadeButton& button)
+    {
+        return button.*(&ButtonProbe::m_rcIcon);
+    }
+    static COLORREF MaskColor(const CxShadeButton& button)
+    {
+        return button.*(&ButtonProbe::m_maskColor);
+    }
+    static const PaletteDib& Face(const CxShadeButton& button)
+    {
+        return button.*(&ButtonProbe::m_dibNormal);
+    }
+};
+
+struct Flags
+{
+    bool confirm = false;
+    bool ok = false;
+    bool cancel = false;
+    bool next = false;
+    bool back = false;
+    bool closeCaption = false;
+    bool proceedCaption = false;
+    bool cancelIcon = false;
+
+    static Flags Of(int bits)
+    {
+        const auto bit = [bits](int n) { return (bits >> n & 1) != 0; };
+        return {bit(0), bit(1), bit(2), bit(3), bit(4), bit(5), bit(6), bit(7)};
+    }
+};
+
+class TestPage : public CBaseDialog
+{
+public:
+    explicit TestPage(const Flags& flags)
+        : CBaseDialog(0, NULL, flags.confirm, flags.ok, flags.cancel, flags.next, flags.back,
+                      flags.closeCaption, flags.proceedCaption, flags.cancelIcon)
+    {
+    }
+
+    using CBaseDialog::m_bBack;
+    using CBaseDialog::m_bCancel;
+    using CBaseDialog::m_bCancelIcon;
+    using CBaseDialog::m_bCloseCaption;
+    using CBaseDialog::m_bConfirm;
+    using CBaseDialog::m_bNext;
+    using CBaseDialog::m_bOk;
+    using CBaseDialog::m_bProceedCaption;
+    using CBaseDialog::m_btnBack;
+    using CBaseDialog::m_btnCancel;
+    using CBaseDialog::m_btnOk;
+    using CBaseDialog::m_picture;
+    using CBaseDialog::m_strImageDir;
+};
+
+/// What the rules ask of one button: not bound, or its caption ("" is the template's) and the name
+/// of its icon's file ("" is none).
+struct ExpectedButton
+{
+    bool bound = false;
+    std::string caption;
+    std::string icon;
+    bool shaded = false;
+};
+
+ExpectedButton ExpectCancel(const Flags& flags)
+{
+    ExpectedButton expected;
+    expected.bound = true;
+    if (flags.ok) {
+        expected.caption = "OK";
+        expected.icon = "Ok";
+    }
+    if (flags.cancel) {
+        expected.caption = flags.closeCaption ? "Close" : "Cancel";
+        if (flags.cancelIcon)
+            expected.icon = "Close";
+    }
+    expected.shaded = flags.ok || flags.cancel;
+    return expected;
+}
+
+ExpectedButton ExpectOk(const Flags& flags)
+{
+    ExpectedButton expected;
+    if (!flags.confirm && !flags.next)
+        return expected;
+    expected.bound = true;
+    expected.shaded = true;
+    expected.caption = flags.next ? flags.proceedCaption ? "Proceed" : "Next" : "Confirm";
+    expected.icon = flags.next ? "Next" : "Confirm";
+    return expected;
+}
+
+ExpectedButton ExpectBack(const Flags& flags)
+{
+    ExpectedButton expected;
+    if (!flags.back)
+        return expected;
+    return {true, "Back", "Back", true};
+}
+
+/// Compares an icon with its file by its pixels, drawn as the file's own would be.
+bool ShowsIcon(const CxShadeButton& button, const std::string& name)
+{
+    const HBITMAP shown = ButtonProbe::Picture(button);
+    if (name.empty() || shown == NULL)
+        return name.empty() && shown == NULL;
+    const CString path = ProgramFolder() + "\\images\\" + name.c_str() + ".gif";
+    const HBITMAP file = LoadPictureBitmap(path);
+    if (file == NULL)
+        return false;
+    const bool same = Picture::OfBitmap(shown) == Picture::OfBitmap(file);
+    ::DeleteObject(file);
+    return same && ButtonProbe::MaskColor(button) == 0 &&
+           ButtonProbe::PicturePlace(button).Size() == CSize(19, 19);
+}
+
+bool IsTinted(const CxShadeButton& button)
+{
+    const PaletteDib& face = ButtonProbe::Face(button);
+    if (!face.IsValid())
+        return false;
+    const RGBQUAD* palette = face.GetPalette();
+    for (int i = 0; i < 256; ++i) {
+        if (RGB(palette[i].rgbRed, palette[i].rgbGreen, palette[i].rgbBlue) != tint)
+            return false;
+    }
+    return true;
+}
+
+void CheckButton(const CxShadeButton& button, const ExpectedButton& expected,
+                 const char* templateCaption)
+{
+    CHECK((button.m_hWnd != NULL) == expected.bound);
+    if (button.m_hWnd == NULL)
+        return;
+    CString caption;
+    button.GetWindowText(caption);
+    CHECK(std::string(caption) == (expected.caption.empty() ? templateCaption : expected.caption));
+    CHECK(ShowsIcon(button, expected.icon));
+    CHECK(IsTinted(button) == expected.shaded);
+}
+
+/// The host's settings for the length of a test.
+struct HostSettings
+{
+    explicit HostSettings(const CString& folder = ProgramFolder())
+    {
+        g_strImageDir = folder;
+        g_crShade = tint;
+    }
+};
+
+/// The strip as the resource has it.
+Picture LoadStrip()
+{
+    const HBITMAP strip = ::LoadBitmap(FindModule("umbra.dll"), MAKEINTRESOURCE(IDB_STRIP));
+    const Picture picture = Picture::OfBitmap(strip);
+    ::DeleteObject(strip);
+    return picture;
+}
+
+} // namespace
+
+TEST_CASE("the flags are stored in their members, one by one")
+{
+    for (int flag = 0; flag < 8; ++flag) {
+        const TestPage page(Flags::Of(1 << flag));
+        CHECK(page.m_bConfirm == (flag == 0));
+        CHECK(page.m_bOk == (flag == 1));
+        CHECK(page.m_bCancel == (flag == 2));
+        CHECK(page.m_bNext == (flag == 3));
+        CHECK(page.m_bBack == (flag == 4));
+        CHECK(page.m_bCloseCaption == (flag == 5));
+        CHECK(page.m_bProceedCaption == (flag == 6));
+        CHECK(page.m_bCancelIcon == (flag == 7));
+    }
+}
+
+TEST_CASE("all 256 combinations of flags bind, caption, shade and decorate as the rules say")
+{
+    const HostSettings settings;
+    for (int bits = 0; bits < 256; ++bits) {
+        CAPTURE(bits);
+        const Flags flags = Flags::Of(bits);
+        TestPage dialog(flags);
+        // The template has just the controls that these flags need.
+        const Page page(dialog, MakePageTemplate(flags.confirm || flags.next, flags.back));
+        REQUIRE(page.IsOpen());
+        CheckButton(dialog.m_btnCancel, ExpectCancel(flags), "template cancel");
+        CheckButton(dialog.m_btnOk, ExpectOk(flags), "template ok");
+        CheckButton(dialog.m_btnBack, ExpectBack(flags), "template back");
+    }
+}
+
+TEST_CASE("a template that lacks a bound control fails in the exchange")
+{
+    const HostSettings settings;
+    Flags flags;
+    flags.cancel = true;
+    flags.back = true;
+    TestPage dialog(flags);
+    const DialogTemplate source = MakePageTemplate(true, false);
+    NextDialog noMessage([](HWND box) { ::EndDialog(box, IDOK); });
+    dialog.CreateIndirect(source.Get());
+    CHECK(dialog.m_btnBack.m_hWnd == NULL);
+    if (dialog.m_hWnd != NULL)
+        dialog.DestroyWindow();
+}
+
+TEST_CASE("with all flags off the template's captions stay, without shade or icon")
+{
+    const HostSettings settings;
+    TestPage dialog{Flags()};
+    const Page page(dialog, MakePageTemplate());
+    REQUIRE(page.IsOpen());
+    CHECK(dialog.m_btnCancel.m_hWnd != NULL);
+    CHECK(dialog.m_btnOk.m_hWnd == NULL);
+    CHECK(dialog.m_btnBack.m_hWnd == NULL);
+    CHECK(page.Text(IDCANCEL) == "template cancel");
+    CHECK(page.Text(IDOK) == "template ok");
+    CHECK_FALSE(ButtonProbe::Face(dialog.m_btnCancel).IsValid());
+}
+
+TEST_CASE("the image folder ends with one backslash, given or not")
+{
+    for (const char* folder : {"C:\\app", "C:\\app\\"}) {
+        const HostSettings settings(folder);
+        TestPage dialog{Flags()};
+        const Page page(dialog, MakePageTemplate());
+        REQUIRE(page.IsOpen());
+        CHECK(dialog.m_strImageDir == "C:\\app\\");
+        CHECK(g_strImageDir == folder);
+    }
+}
+
+TEST_CASE("missing images leave the buttons without icons and the picture empty")
+{
+    const HostSettings settings("C:\\no such folder");
+    Flags flags;
+    flags.confirm = flags.cancel = flags.back = flags.cancelIcon = true;
+    TestPage dialog(flags);
+    const Page page(dialog, MakePageTemplate());
+    REQUIRE(page.IsOpen());
+    CHECK(ButtonProbe::Picture(dialog.m_btnOk) == NULL);
+    CHECK(ButtonProbe::Picture(dialog.m_btnCancel) == NULL);
+    CHECK(ButtonProbe::Picture(dialog.m_btnBack) == NULL);
+    CHECK(IsTinted(dialog.m_btnOk));
+    dialog.ShowPicture(IDS_IMAGE_INFO);
+    CHECK_FALSE(dialog.m_picture.m_bHasPicture);
+    CHECK(dialog.m_picture.IsWindowVisible());
+}
+
+TEST_CASE("a shown picture is a visible child near its place, keyed black, with the working "
+          "directory put back")
+{
+    const HostSettings settings;
+    TestPage dialog{Flags()};
+    const Page page(dialog, MakePageTemplate());
+    REQUIRE(page.IsOpen());
+    const CString before = WorkingDirectory();
+    dialog.ShowPicture(IDS_IMAGE_INFO);
+    CHECK(WorkingDirectory() == before);
+
+    CHECK(dialog.m_picture.GetParent() == &dialog);
+    CHECK(dialog.m_picture.IsWindowVisible());
+    CHECK(dialog.m_picture.GetDlgCtrlID() == 0xFFFF);
+    CHECK(dialog.m_picture.m_bHasPicture);
+    CHECK(dialog.m_picture.m_crTransparent == 0);
+    CHECK((dialog.m_picture.GetStyle() & 0x1FFF) == 0);
+
+    // The label snaps to the dialog-unit grid: each value moves by less than one grid step.
+    CRect place;
+    dialog.m_picture.GetWindowRect(&place);
+    dialog.ScreenToClient(&place);
+    CHECK(abs(place.left - 540) < 4);
+    CHECK(abs(place.top - 15) < 4);
+    CHECK(abs(place.Width() - 80) < 4);
+    CHECK(abs(place.Height() - 100) < 4);
+}
+
+TEST_CASE("a second picture of one dialog window goes into the same label")
+{
+    const HostSettings settings;
+    TestPage dialog{Flags()};
+    const Page page(dialog, MakePageTemplate());
+    REQUIRE(page.IsOpen());
+    dialog.ShowPicture(IDS_IMAGE_INFO);
+    const HWND label = dialog.m_picture.m_hWnd;
+    dialog.ShowPicture(IDS_IMAGE_ERROR);
+    CHECK(dialog.m_picture.m_hWnd == label);
+}
+
+TEST_CASE("a page shows the strip at its corner, neither stretched nor tiled")
+{
+    const HostSettings settings;
+    TestPage dialog{Flags()};
+    Page page(dialog, MakePageTemplate());
+    REQUIRE(page.IsOpen());
+    const Picture strip = LoadStrip();
+    REQUIRE(strip.Width() == 72);
+    REQUIRE(strip.Height() == 367);
+
+    const Picture shown = page.Show();
+    const int height = min(strip.Height(), shown.Height());
+    CHECK(shown.Crop({0, 0, 72, height}).Compare(strip.Crop({0, 0, 72, height})) == "the same");
+    // Right of the strip there is only the system's dialog colour.
+    const COLORREF face = ::GetSysColor(COLOR_BTNFACE);
+    CHECK(shown.Crop({72, 0, 200, height}).CountOf(face) == 128 * height);
+}
+
+TEST_CASE("a page's own OnPaint is the one that runs, without a map entry of its own")
+{
+    class OwnPaint : public TestPage
+    {
+    public:
+        OwnPaint() : TestPage(Flags()) {}
+        int m_paints = 0;
+
+    protected:
+        void OnPaint() override
+        {
+            ++m_paints;
+            CPaintDC dc(this);
+            dc.FillSolidRect(0, 0, 50, 50, RGB(1, 2, 3));
+        }
+    };
+    const HostSettings settings;
+    OwnPaint dialog;
+    Page page(dialog, MakePageTemplate());
+    REQUIRE(page.IsOpen());
+    const Picture shown = page.Show();
+    CHECK(dialog.m_paints > 0);
+    CHECK(shown.At(10, 10) == RGB(1, 2, 3));
+    CHECK(shown.At(60, 10) == ::GetSysColor(COLOR_BTNFACE));
+}
+
+TEST_CASE("the strip is loaded anew at every paint and leaves nothing behind")
+{
+    const HostSettings settings;
+    TestPage dialog{Flags()};
+    Page page(dialog, MakePageTemplate());
+    REQUIRE(page.IsOpen());
+    page.Show();
+    const BalancedGdi objects;
+    for (int i = 0; i < 20; ++i) {
+        dialog.Invalidate();
+        dialog.UpdateWindow();
+    }
+    CHECK_MESSAGE(objects.IsBalanced(), objects.Describe());
+}
+
+TEST_CASE("a page shades buttons of its own like the standard ones")
+{
+    const HostSettings settings;
+    TestPage dialog{Flags()};
+    const Page page(dialog, MakePageTemplate());
+    REQUIRE(page.IsOpen());
+    CxShadeButton own;
+    REQUIRE(own.SubclassDlgItem(IDOK, &dialog));
+    dialog.ApplyButtonShade(own);
+    CHECK(IsTinted(own));
+}
+
+TEST_CASE("the standard buttons end a page as their ids say")
+{
+    const HostSettings settings;
+    Flags flags;
+    flags.next = flags.cancel = true;
+    for (const int id : {IDOK, IDCANCEL}) {
+        TestPage dialog(flags);
+        const DialogTemplate source = MakePageTemplate();
+        REQUIRE(dialog.InitModalIndirect(source.Get()));
+        NextDialog press([id](HWND box) { Page(box).Click(id); });
+        CHECK(dialog.DoModal() == id);
+        CHECK(press.HasRun());
+    }
+}
+
+TEST_CASE("a page leaves no graphics object behind")
+{
+    const HostSettings settings;
+    const auto cycle = [] {
+        Flags flags;
+        flags.confirm = flags.cancel = flags.back = flags.cancelIcon = true;
+        TestPage dialog(flags);
+        Page page(dialog, MakePageTemplate());
+        page.Show();
+    };
+    cycle();
+    const BalancedGdi objects;
+    for (int i = 0; i < 10; ++i)
+        cycle();
+    CHECK_MESSAGE(objects.IsBalanced(), objects.Describe());
+}

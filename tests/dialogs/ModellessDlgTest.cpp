@@ -1,0 +1,336 @@
+#include <dialogs/ModellessDlg.h>
+
+#include "PageTemplate.h"
+
+#include <testing/GdiObjects.h>
+#include <testing/Input.h>
+#include <testing/Page.h>
+#include <testing/Picture.h>
+#include <testing/Pump.h>
+
+#include <doctest/doctest.h>
+
+#include <memory>
+#include <vector>
+
+using namespace umbra::testing;
+
+namespace {
+
+class TestModeless : public CModellessDlg
+{
+public:
+    TestModeless() : CModellessDlg(NULL) {}
+    using CModellessDlg::m_btnBack;
+    using CModellessDlg::m_btnCancel;
+    using CModellessDlg::m_btnOk;
+    using CModellessDlg::m_picture;
+};
+
+/// Looks at what a label keeps to itself.
+struct LabelProbe : CHyperLink
+{
+    static COLORREF TextColor(const CHyperLink& label) { return label.*(&LabelProbe::m_crText); }
+    static COLORREF Key(const CHyperLink& label)
+    {
+        return label.*(&LabelProbe::m_crTransparent);
+    }
+    static BOOL HasPicture(const CHyperLink& label)
+    {
+        return label.*(&LabelProbe::m_bBitmapLoaded);
+    }
+    static CSize PictureSize(const CHyperLink& label)
+    {
+        return CSize(label.*(&LabelProbe::m_nBitmapWidth), label.*(&LabelProbe::m_nBitmapHeight));
+    }
+};
+
+/// Shows a modeless dialog as a host does, and ends it as a host does.
+class Shown
+{
+public:
+    Shown()
+    {
+        g_strImageDir = ProgramFolder();
+        g_crShade = RGB(180, 200, 230);
+        Show();
+    }
+
+    ~Shown()
+    {
+        g_pModelessDlg->DestroyWindow();
+        delete g_pModelessDlg;
+        g_pModelessDlg = NULL;
+        AfxGetApp()->EndWaitCursor();
+    }
+
+    static void Show()
+    {
+        if (g_pModelessDlg != NULL)
+            return;
+        g_pModelessDlg = new TestModeless;
+        g_pModelessDlg->Create(CModellessDlg::IDD, NULL);
+        g_pModelessDlg->ShowWindow(SW_SHOW);
+        g_pModelessDlg->InvalidateRect(NULL, TRUE);
+        g_pModelessDlg->PumpMessages();
+    }
+
+    TestModeless* operator->() const { return static_cast<TestModeless*>(g_pModelessDlg); }
+};
+
+/// A window that notes what reaches it.
+class Listener : public CWnd
+{
+public:
+    std::vector<UINT> m_seen;
+
+    Listener() { CreateEx(0, AfxRegisterWndClass(0), "", WS_POPUP, 0, 0, 10, 10, NULL, NULL); }
+    ~Listener() override { DestroyWindow(); }
+
+protected:
+    LRESULT WindowProc(UINT message, WPARAM wParam, LPARAM lParam) override
+    {
+        m_seen.push_back(message);
+        return CWnd::WindowProc(message, wParam, lParam);
+    }
+};
+
+bool Contains(const std::vector<UINT>& messages, UINT message)
+{
+    for (const UINT seen : messages) {
+        if (seen == message)
+            return true;
+    }
+    return false;
+}
+
+} // namespace
+
+TEST_CASE("the modeless page has one button, disabled, captioned Cancel")
+{
+    const Shown dialog;
+    REQUIRE(dialog->m_hWnd != NULL);
+    CHECK(dialog->IsWindowVisible());
+    CHECK(dialog->m_btnCancel.m_hWnd != NULL);
+    CHECK(dialog->m_btnOk.m_hWnd == NULL);
+    CHECK(dialog->m_btnBack.m_hWnd == NULL);
+    CString caption;
+    dialog->m_btnCancel.GetWindowText(caption);
+    CHECK(caption == "Cancel");
+    CHECK_FALSE(dialog->m_btnCancel.IsWindowEnabled());
+}
+
+TEST_CASE("its labels are blue, and one carries the information icon with black as its key")
+{
+    const Shown dialog;
+    for (const CHyperLink* label :
+         {&dialog->m_icon, &dialog->m_title, &dialog->m_detail, &dialog->m_hint}) {
+        CHECK(label->m_hWnd != NULL);
+        CHECK(LabelProbe::TextColor(*label) == 0x00FF0000);
+    }
+    CHECK(LabelProbe::Key(dialog->m_icon) == 0);
+    CHECK(LabelProbe::HasPicture(dialog->m_icon));
+    CHECK(LabelProbe::PictureSize(dialog->m_icon) == CSize(32, 32));
+    CHECK_FALSE(LabelProbe::HasPicture(dialog->m_title));
+}
+
+TEST_CASE("its picture is shown, and the working directory is the one it was")
+{
+    const CString before = WorkingDirectory();
+    const Shown dialog;
+    CHECK(dialog->m_picture.m_bHasPicture);
+    CHECK(dialog->m_picture.IsWindowVisible());
+    CHECK(WorkingDirectory() == before);
+}
+
+TEST_CASE("the first pump has painted the window before the host goes on")
+{
+    const Shown dialog;
+    CHECK_FALSE(dialog->GetUpdateRect(NULL));
+    CHECK_FALSE(dialog->m_btnCancel.GetUpdateRect(NULL));
+}
+
+TEST_CASE("missing images leave the labels without pictures")
+{
+    g_strImageDir = "C:\\no such folder";
+    TestModeless dialog;
+    REQUIRE(dialog.Create(CModellessDlg::IDD, NULL));
+    CHECK_FALSE(LabelProbe::HasPicture(dialog.m_icon));
+    CHECK_FALSE(dialog.m_picture.m_bHasPicture);
+    dialog.DestroyWindow();
+    AfxGetApp()->EndWaitCursor();
+}
+
+TEST_CASE("pumping an empty queue returns at once and only restores the wait cursor")
+{
+    const Shown dialog;
+    dialog->PumpMessages();
+    ::SetCursor(::LoadCursor(NULL, IDC_ARROW));
+    dialog->PumpMessages();
+    CHECK(::GetCursor() == ::LoadCursor(NULL, IDC_WAIT));
+}
+
+TEST_CASE("the wait cursor shows from construction on, counted once")
+{
+    ::SetCursor(::LoadCursor(NULL, IDC_ARROW));
+    TestModeless dialog;
+    CHECK(::GetCursor() == ::LoadCursor(NULL, IDC_WAIT));
+    AfxGetApp()->EndWaitCursor();
+    CHECK(::GetCursor() == ::LoadCursor(NULL, IDC_ARROW));
+}
+
+TEST_CASE("a second show request creates, shows and pumps nothing")
+{
+    const Shown dialog;
+    CModellessDlg* const first = g_pModelessDlg;
+    Listener listener;
+    listener.m_seen.clear();
+    listener.PostMessage(WM_APP + 1);
+    Shown::Show();
+    CHECK(g_pModelessDlg == first);
+    CHECK_FALSE(Contains(listener.m_seen, WM_APP + 1));
+    dialog->PumpMessages();
+    CHECK(Contains(listener.m_seen, WM_APP + 1));
+}
+
+TEST_CASE("a pump dispatches messages of the host's other windows")
+{
+    const Shown dialog;
+    Listener listener;
+    listener.PostMessage(WM_APP + 7, 1, 2);
+    dialog->PumpMessages();
+    CHECK(Contains(listener.m_seen, WM_APP + 7));
+}
+
+TEST_CASE("with nothing else to take the focus, Tab is handled and goes no further while pumping")
+{
+    const Shown dialog;
+    dialog->PostMessage(WM_KEYDOWN, VK_TAB, 0x000F0001);
+    dialog->PumpMessages();
+    CHECK_FALSE(dialog->m_btnCancel.IsWindowEnabled());
+}
+
+TEST_CASE("Tab moves the focus between the controls while the host pumps, and is not translated")
+{
+    const Shown dialog;
+    CEdit first, second;
+    REQUIRE(first.Create(WS_CHILD | WS_VISIBLE | WS_TABSTOP, CRect(100, 150, 160, 170),
+                         g_pModelessDlg, 501));
+    REQUIRE(second.Create(WS_CHILD | WS_VISIBLE | WS_TABSTOP, CRect(170, 150, 230, 170),
+                          g_pModelessDlg, 502));
+    dialog->SetForegroundWindow();
+    first.SetFocus();
+    dialog->PumpMessages();
+    REQUIRE(::GetFocus() == first.m_hWnd);
+
+    first.PostMessage(WM_KEYDOWN, VK_TAB, 0x000F0001);
+    dialog->PumpMessages();
+    CHECK(::GetFocus() == second.m_hWnd);
+    CString text;
+    first.GetWindowText(text);
+    CHECK(text.IsEmpty());
+    second.GetWindowText(text);
+    CHECK(text.IsEmpty());
+}
+
+TEST_CASE("the real Tab key moves the focus while the host pumps")
+{
+    const Shown dialog;
+    CEdit first, second;
+    REQUIRE(first.Create(WS_CHILD | WS_VISIBLE | WS_TABSTOP, CRect(100, 150, 160, 170),
+                         g_pModelessDlg, 501));
+    REQUIRE(second.Create(WS_CHILD | WS_VISIBLE | WS_TABSTOP, CRect(170, 150, 230, 170),
+                          g_pModelessDlg, 502));
+    dialog->SetForegroundWindow();
+    first.SetFocus();
+    dialog->PumpMessages();
+    INPUT keys[2] = {};
+    keys[0].type = keys[1].type = INPUT_KEYBOARD;
+    keys[0].ki.wVk = keys[1].ki.wVk = VK_TAB;
+    keys[1].ki.dwFlags = KEYEVENTF_KEYUP;
+    ::SendInput(2, keys, sizeof(INPUT));
+    CHECK(WaitUntil([&] {
+        dialog->PumpMessages();
+        return ::GetFocus() == second.m_hWnd;
+    }));
+}
+
+TEST_CASE("a typed key reaches the focused control through translation and dispatch")
+{
+    const Shown dialog;
+    CEdit edit;
+    REQUIRE(edit.Create(WS_CHILD | WS_VISIBLE | WS_TABSTOP, CRect(100, 150, 160, 170),
+                        g_pModelessDlg, 501));
+    edit.SetFocus();
+    edit.PostMessage(WM_CHAR, 'x', 1);
+    dialog->PumpMessages();
+    CString text;
+    edit.GetWindowText(text);
+    CHECK(text == "x");
+}
+
+TEST_CASE("a pump takes WM_QUIT like any other message and does not end the program")
+{
+    const Shown dialog;
+    ::PostQuitMessage(5);
+    Listener listener;
+    listener.PostMessage(WM_APP + 2);
+    dialog->PumpMessages();
+    CHECK(Contains(listener.m_seen, WM_APP + 2));
+    MSG message;
+    CHECK_FALSE(::PeekMessage(&message, NULL, WM_QUIT, WM_QUIT, PM_REMOVE));
+}
+
+TEST_CASE("a handler that runs inside a pump may end the window")
+{
+    g_strImageDir = ProgramFolder();
+    class Ender : public CWnd
+    {
+    public:
+        CModellessDlg* m_victim = NULL;
+        Ender() { CreateEx(0, AfxRegisterWndClass(0), "", WS_POPUP, 0, 0, 10, 10, NULL, NULL); }
+        ~Ender() override { DestroyWindow(); }
+
+    protected:
+        LRESULT WindowProc(UINT message, WPARAM wParam, LPARAM lParam) override
+        {
+            if (message == WM_APP + 3) {
+                m_victim->DestroyWindow();
+                delete m_victim;
+                g_pModelessDlg = NULL;
+            }
+            return CWnd::WindowProc(message, wParam, lParam);
+        }
+    };
+    Shown::Show();
+    REQUIRE(g_pModelessDlg != NULL);
+    Ender ender;
+    ender.m_victim = g_pModelessDlg;
+    ender.PostMessage(WM_APP + 3);
+    ender.PostMessage(WM_APP + 4);
+    g_pModelessDlg->PumpMessages();
+    CHECK(g_pModelessDlg == NULL);
+    AfxGetApp()->EndWaitCursor();
+}
+
+TEST_CASE("a host enables Cancel, and a real click reaches it while it pumps")
+{
+    class Cancellable : public TestModeless
+    {
+    public:
+        bool m_cancelled = false;
+
+    protected:
+        void OnCancel() override { m_cancelled = true; }
+    };
+    g_strImageDir = ProgramFolder();
+    Cancellable dialog;
+    REQUIRE(dialog.Create(CModellessDlg::IDD, NULL));
+    dialog.ShowWindow(SW_SHOW);
+    dialog.m_btnCancel.EnableWindow(TRUE);
+    dialog.PumpMessages();
+    CHECK(Click(dialog.m_btnCancel.m_hWnd));
+    CHECK(dialog.m_cancelled);
+    dialog.DestroyWindow();
+    AfxGetApp()->EndWaitCursor();
+}
