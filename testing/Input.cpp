@@ -1,6 +1,7 @@
 #include <testing/Input.h>
 #include <testing/Pump.h>
 
+#include <optional>
 #include <vector>
 
 namespace umbra::testing {
@@ -69,6 +70,23 @@ bool MovePointerTo(POINT screen)
     if (!::SetCursorPos(screen.x, screen.y))
         return false;
     return WaitUntil([&] { return arrivals.Moves() > 0; }, arrivalTime);
+}
+
+struct Press
+{
+    POINT place;
+    DWORD time;
+};
+thread_local std::optional<Press> lastPress;
+
+/// The system takes a second press at the same place for a double click, if it comes soon enough.
+void WaitOutDoubleClick()
+{
+    POINT pointer{};
+    ::GetCursorPos(&pointer);
+    if (!lastPress || lastPress->place.x != pointer.x || lastPress->place.y != pointer.y)
+        return;
+    WaitUntil([] { return ::GetTickCount() - lastPress->time > ::GetDoubleClickTime(); });
 }
 
 bool SendButton(DWORD flags)
@@ -154,6 +172,9 @@ bool MovePointerAway()
 
 bool PressLeft()
 {
+    POINT pointer{};
+    ::GetCursorPos(&pointer);
+    lastPress = Press{pointer, ::GetTickCount()};
     return SendButton(MOUSEEVENTF_LEFTDOWN);
 }
 
@@ -174,7 +195,10 @@ bool ReleaseRight()
 
 bool Click(HWND window, POINT client)
 {
-    return MovePointer(window, client) && PressLeft() && ReleaseLeft();
+    if (!MovePointer(window, client))
+        return false;
+    WaitOutDoubleClick();
+    return PressLeft() && ReleaseLeft();
 }
 
 bool Click(HWND window)

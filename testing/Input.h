@@ -23,7 +23,8 @@ bool ReleaseLeft();
 bool PressRight();
 bool ReleaseRight();
 
-/// Moves to the point, then presses and releases the left button.
+/// Moves to the point, then presses and releases the left button. Two clicks at one place stay two:
+/// the second waits until it no longer counts as the second half of a double click.
 bool Click(HWND window, POINT client);
 bool Click(HWND window);
 bool DoubleClick(HWND window, POINT client);

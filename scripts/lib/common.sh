@@ -40,12 +40,15 @@ find_wine() {
 }
 
 # What every program under Wine gets: English messages and code page 1252 whatever the user's
-# language is, UTF-8 file names, no chatter, and none of the helpers that only cost time.
+# language is, UTF-8 file names, no chatter, none of the helpers that only cost time, and personal
+# folders that are not the user's.
 export_wine_environment() {
     export WINEPREFIX=$1
+    export HOME=$1/home
     export WINEARCH=win64
     export WINEDEBUG=${WINEDEBUG:--all}
     export WINEDLLOVERRIDES='winemenubuilder.exe=d;mscoree=d;mshtml=d'
     export LC_ALL=C.UTF-8
     unset DISPLAY WAYLAND_DISPLAY
+    mkdir -p "$HOME"
 }

@@ -78,6 +78,15 @@ TEST_CASE_FIXTURE(InputFixture, "a double click is one to a window that knows th
     CHECK(log.Count(WM_LBUTTONDBLCLK) == 1);
 }
 
+TEST_CASE_FIXTURE(InputFixture, "two clicks at one place are no double click")
+{
+    MessageLog log(page.Control(labelId));
+    CHECK(Click(page.Control(labelId)));
+    CHECK(Click(page.Control(labelId)));
+    CHECK(log.Count(WM_LBUTTONDOWN) == 2);
+    CHECK(log.Count(WM_LBUTTONDBLCLK) == 0);
+}
+
 TEST_CASE_FIXTURE(InputFixture, "a drag moves the pointer while the button is down")
 {
     MessageLog log(page.Control(editId));
