@@ -199,13 +199,13 @@ void ArrayBase<TYPE, ARG_TYPE>::Reallocate(INT_PTR capacity)
     TYPE* block = nullptr;
     if (capacity > 0) {
         const std::align_val_t alignment{alignof(TYPE)};
-        block = static_cast<TYPE*>(
-            ::operator new(capacity * sizeof(TYPE), alignment, std::nothrow));
+        block =
+            static_cast<TYPE*>(::operator new(capacity * sizeof(TYPE), alignment, std::nothrow));
         if (block == nullptr)
             AfxThrowMemoryException();
     }
     Relocate(block, m_pData, m_nSize);
-    ::operator delete(m_pData, std::align_val_t{alignof(TYPE)});
+    ::operator delete (m_pData, std::align_val_t{alignof(TYPE)});
     m_pData = block;
     m_nCapacity = capacity;
 }

@@ -10,11 +10,11 @@
 
 struct CFileStatus
 {
-    CTime m_ctime;                ///< Creation.
-    CTime m_mtime;                ///< Last change.
-    CTime m_atime;                ///< Last access.
-    ULONGLONG m_size;             ///< Bytes.
-    BYTE m_attribute;             ///< A combination of CFile::Attribute.
+    CTime m_ctime;    ///< Creation.
+    CTime m_mtime;    ///< Last change.
+    CTime m_atime;    ///< Last access.
+    ULONGLONG m_size; ///< Bytes.
+    BYTE m_attribute; ///< A combination of CFile::Attribute.
     BYTE _m_padding;
     TCHAR m_szFullName[_MAX_PATH];
 };

@@ -40,8 +40,8 @@ public:
 
     BOOL GetErrorMessage(LPTSTR lpszError, UINT nMaxError, PUINT pnHelpContext = NULL) override;
 
-    int m_cause;          ///< One of the causes above.
-    LONG m_lOsError;      ///< The system's error code; -1 when there is none.
+    int m_cause;           ///< One of the causes above.
+    LONG m_lOsError;       ///< The system's error code; -1 when there is none.
     CString m_strFileName; ///< May be empty.
 };
 

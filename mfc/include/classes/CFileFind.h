@@ -53,13 +53,13 @@ protected:
 
 private:
     const WIN32_FIND_DATA& Found() const;
-    BOOL GetTime(FILETIME WIN32_FIND_DATA::* which, FILETIME* result) const;
-    BOOL GetTime(FILETIME WIN32_FIND_DATA::* which, CTime& result) const;
+    BOOL GetTime(FILETIME WIN32_FIND_DATA::*which, FILETIME* result) const;
+    BOOL GetTime(FILETIME WIN32_FIND_DATA::*which, CTime& result) const;
 
     HANDLE m_hContext;
-    BOOL m_bHasFound;           ///< FindNextFile has been called.
+    BOOL m_bHasFound; ///< FindNextFile has been called.
     BOOL m_bHasNext;
     WIN32_FIND_DATA m_found;
     WIN32_FIND_DATA m_next;
-    CString m_strRoot;          ///< The directory of the search, with its backslash.
+    CString m_strRoot; ///< The directory of the search, with its backslash.
 };

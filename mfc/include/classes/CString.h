@@ -18,10 +18,8 @@ using EnableIfCharacter =
     std::enable_if_t<std::is_same_v<T, char> || std::is_same_v<T, wchar_t>, int>;
 
 template <class T>
-using EnableIfCharacterOrByte =
-    std::enable_if_t<std::is_same_v<T, char> || std::is_same_v<T, wchar_t> ||
-                         std::is_same_v<T, unsigned char>,
-                     int>;
+using EnableIfCharacterOrByte = std::enable_if_t<
+    std::is_same_v<T, char> || std::is_same_v<T, wchar_t> || std::is_same_v<T, unsigned char>, int>;
 
 /// Characters of text that is converted, or taken over from unsigned bytes.
 template <class T>

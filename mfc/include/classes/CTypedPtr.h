@@ -63,10 +63,7 @@ public:
     {
         return static_cast<TYPE>(BASE_CLASS::GetPrev(rPosition));
     }
-    TYPE& GetAt(POSITION position)
-    {
-        return reinterpret_cast<TYPE&>(BASE_CLASS::GetAt(position));
-    }
+    TYPE& GetAt(POSITION position) { return reinterpret_cast<TYPE&>(BASE_CLASS::GetAt(position)); }
     TYPE GetAt(POSITION position) const { return static_cast<TYPE>(BASE_CLASS::GetAt(position)); }
     void SetAt(POSITION pos, TYPE newElement) { BASE_CLASS::SetAt(pos, newElement); }
 };

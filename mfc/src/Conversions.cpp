@@ -1,0 +1,136 @@
+#include <classes/CException.h>
+#include <classes/Conversions.h>
+
+namespace afxint {
+
+namespace {
+
+/// The buffer when it has room for so many characters, else new memory.
+template <class Char>
+Char* RoomFor(size_t characters, Char* buffer, int bufferLength)
+{
+    if (characters <= static_cast<size_t>(bufferLength))
+        return buffer;
+    void* memory = malloc(characters * sizeof(Char));
+    if (memory == nullptr)
+        AfxThrowMemoryException();
+    return static_cast<Char*>(memory);
+}
+
+} // namespace
+
+LPWSTR Widen(LPCSTR text, UINT codePage, LPWSTR buffer, int bufferLength)
+{
+    if (text == nullptr)
+        return nullptr;
+    const int needed = ::MultiByteToWideChar(codePage, 0, text, -1, nullptr, 0);
+    if (needed <= 0)
+        AfxThrowInvalidArgException();
+    LPWSTR wide = RoomFor(needed, buffer, bufferLength);
+    ::MultiByteToWideChar(codePage, 0, text, -1, wide, needed);
+    return wide;
+}
+
+LPSTR Narrow(LPCWSTR text, UINT codePage, LPSTR buffer, int bufferLength)
+{
+    if (text == nullptr)
+        return nullptr;
+    const int needed = ::WideCharToMultiByte(codePage, 0, text, -1, nullptr, 0, nullptr, nullptr);
+    if (needed <= 0)
+        AfxThrowInvalidArgException();
+    LPSTR narrow = RoomFor(needed, buffer, bufferLength);
+    ::WideCharToMultiByte(codePage, 0, text, -1, narrow, needed, nullptr, nullptr);
+    return narrow;
+}
+
+LPSTR Copy(LPCSTR text, LPSTR buffer, int bufferLength)
+{
+    if (text == nullptr)
+        return nullptr;
+    const size_t characters = strlen(text) + 1;
+    LPSTR copy = RoomFor(characters, buffer, bufferLength);
+    memcpy(copy, text, characters);
+    return copy;
+}
+
+LPWSTR Copy(LPCWSTR text, LPWSTR buffer, int bufferLength)
+{
+    if (text == nullptr)
+        return nullptr;
+    const size_t characters = wcslen(text) + 1;
+    LPWSTR copy = RoomFor(characters, buffer, bufferLength);
+    memcpy(copy, text, characters * sizeof(wchar_t));
+    return copy;
+}
+
+void ReleaseConverted(void* converted, const void* buffer)
+{
+    if (converted != buffer)
+        free(converted);
+}
+
+/// What stands before each result of a scope.
+struct ConversionScope::Block
+{
+    Block* older;
+};
+
+ConversionScope::~ConversionScope()
+{
+    while (newest_ != nullptr) {
+        Block* older = newest_->older;
+        free(newest_);
+        newest_ = older;
+    }
+}
+
+LPWSTR ConversionScope::Widen(LPCSTR text)
+{
+    if (text == nullptr)
+        return nullptr;
+    // No text has more UTF-16 units than bytes.
+    const int room = static_cast<int>(strlen(text)) + 1;
+    auto* wide = static_cast<LPWSTR>(Allocate(room * sizeof(wchar_t)));
+    if (::MultiByteToWideChar(CP_ACP, 0, text, -1, wide, room) == 0)
+        AfxThrowInvalidArgException();
+    return wide;
+}
+
+LPSTR ConversionScope::Narrow(LPCWSTR text)
+{
+    if (text == nullptr)
+        return nullptr;
+    const int room = ::WideCharToMultiByte(CP_ACP, 0, text, -1, nullptr, 0, nullptr, nullptr);
+    if (room <= 0)
+        AfxThrowInvalidArgException();
+    auto* narrow = static_cast<LPSTR>(Allocate(room));
+    ::WideCharToMultiByte(CP_ACP, 0, text, -1, narrow, room, nullptr, nullptr);
+    return narrow;
+}
+
+void* ConversionScope::Allocate(size_t bytes)
+{
+    auto* block = static_cast<Block*>(malloc(sizeof(Block) + bytes));
+    if (block == nullptr)
+        AfxThrowMemoryException();
+    block->older = newest_;
+    newest_ = block;
+    return block + 1;
+}
+
+} // namespace afxint
+
+BSTR A2BSTR(LPCSTR lp)
+{
+    return lp == nullptr ? nullptr : W2BSTR(CA2W(lp));
+}
+
+BSTR W2BSTR(LPCWSTR lp)
+{
+    if (lp == nullptr)
+        return nullptr;
+    BSTR result = ::SysAllocString(lp);
+    if (result == nullptr)
+        AfxThrowMemoryException();
+    return result;
+}
