@@ -7,7 +7,8 @@ namespace afxint {
 struct CommonDialogHook;
 }
 
-/// What the dialogs for files, colours and fonts share.
+/// What the dialogs for files, colours and fonts share. The object is put around the system's
+/// dialog when that is about to appear; OnInitDialog is called then.
 class CCommonDialog : public CDialog
 {
     DECLARE_DYNAMIC(CCommonDialog)
@@ -19,4 +20,13 @@ protected:
     // The system's dialog ends by itself.
     void OnOK() override;
     void OnCancel() override;
+
+private:
+    friend class CColorDialog;
+    friend class CFileDialog;
+    friend class CFontDialog;
+    friend struct afxint::CommonDialogHook;
+
+    /// Shows the system's dialog with what a modal dialog covers disabled.
+    INT_PTR ShowSystemDialog(BOOL (*show)(CCommonDialog* dialog, HWND owner));
 };

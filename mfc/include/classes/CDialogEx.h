@@ -10,7 +10,6 @@ class CDialogEx : public CDialog
     DECLARE_DYNAMIC(CDialogEx)
 
 public:
-    CDialogEx();
     explicit CDialogEx(UINT nIDTemplate, CWnd* pParent = NULL);
     explicit CDialogEx(LPCTSTR lpszTemplateName, CWnd* pParentWnd = NULL);
     ~CDialogEx() override;

@@ -59,7 +59,7 @@ private:
     CString AskDialog(UINT message) const;
 
     BOOL opens_;
-    CString filter_;
+    CString filter_; ///< Its parts end with zeros, as the system wants them.
     CString defaultExtension_;
     TCHAR fileName_[MAX_PATH];
     TCHAR fileTitle_[MAX_PATH];

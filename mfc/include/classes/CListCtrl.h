@@ -1,6 +1,7 @@
 // A list of items with pictures, in columns or as icons.
 #pragma once
 
+#include <atltypes.h>
 #include <classes/CWnd.h>
 
 class CEdit;

@@ -3,7 +3,14 @@
 
 #include <classes/CDialog.h>
 
+#include <memory>
+
 class CPropertySheet;
+
+namespace afxint {
+class WindowCreation;
+struct PropertyPageHook;
+} // namespace afxint
 
 /// A dialog that a property sheet shows as one of its pages.
 class CPropertyPage : public CDialog
@@ -17,6 +24,7 @@ public:
                            DWORD dwSize = sizeof(PROPSHEETPAGE));
     explicit CPropertyPage(LPCTSTR lpszTemplateName, UINT nIDCaption = 0,
                            DWORD dwSize = sizeof(PROPSHEETPAGE));
+    ~CPropertyPage() override;
     void Construct(UINT nIDTemplate, UINT nIDCaption = 0);
     void Construct(LPCTSTR lpszTemplateName, UINT nIDCaption = 0);
 
@@ -48,13 +56,17 @@ public:
 
 protected:
     BOOL OnNotify(WPARAM wParam, LPARAM lParam, LRESULT* pResult) override;
+    LRESULT WindowProc(UINT message, WPARAM wParam, LPARAM lParam) override;
 
 private:
     friend class CPropertySheet;
+    friend struct afxint::PropertyPageHook;
 
     void Construct(LPCTSTR templateName, UINT captionId, DWORD size);
-    PROPSHEETPAGE PreparePage();
+    HPROPSHEETPAGE MakeSystemPage();
+    bool AnswerSheet(UINT code, LRESULT& answer);
 
     CString caption_;
-    bool firstActivation_ = true;
+    bool firstActivation_ = true; ///< The controls are filled by OnInitDialog then.
+    std::unique_ptr<afxint::WindowCreation> creation_; ///< From the sheet's call to the window.
 };

@@ -8,6 +8,16 @@
 class CPropertyPage;
 class CTabCtrl;
 
+namespace afxint {
+struct PropertySheetHook;
+}
+
+// The buttons of a sheet and of a wizard, besides IDOK and IDCANCEL.
+#define ID_APPLY_NOW 0x3021
+#define ID_WIZBACK 0x3023
+#define ID_WIZNEXT 0x3024
+#define ID_WIZFINISH 0x3025
+
 /// The system's property sheet. The pages stay the caller's and must outlive the sheet's window.
 class CPropertySheet : public CWnd
 {
@@ -51,6 +61,7 @@ public:
     void MapDialogRect(LPRECT lpRect) const;
 
     virtual BOOL OnInitDialog();
+    BOOL ContinueModal() override;
     BOOL PreTranslateMessage(MSG* pMsg) override;
 
 protected:
@@ -59,14 +70,19 @@ protected:
     BOOL OnCommand(WPARAM wParam, LPARAM lParam) override;
 
 private:
-    LRESULT HandleInitDialog(WPARAM wParam, LPARAM lParam);
+    friend struct afxint::PropertySheetHook;
+
+    LRESULT OnInitDialogMessage(WPARAM wParam, LPARAM lParam);
     afx_msg void OnClose();
-    bool ShowSheet(CWnd* owner, bool modeless);
-    void EndModal(int result);
+    bool ShowSheet(HWND owner);
+    void HideButtons();
 
     std::vector<CPropertyPage*> pages_;
     CString caption_;
-    CWnd* parent_ = nullptr;
+    CWnd* parent_ = NULL;
+    DWORD style_ = (DWORD)-1; ///< Of a modeless sheet; all bits set leave it to the system.
+    DWORD exStyle_ = 0;
+    int lastButton_ = IDCANCEL; ///< What a modal sheet answers when it has ended.
     bool modal_ = false;
     bool stacked_ = true;
 };

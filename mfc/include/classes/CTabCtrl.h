@@ -1,6 +1,7 @@
 // A row of tabs.
 #pragma once
 
+#include <atltypes.h>
 #include <classes/CWnd.h>
 
 class CImageList;

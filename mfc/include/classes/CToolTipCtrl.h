@@ -1,6 +1,7 @@
 // Short texts that pop up beside a control while the mouse rests over it.
 #pragma once
 
+#include <atltypes.h>
 #include <classes/CWnd.h>
 
 /// A tool with room for its text.

@@ -1,0 +1,14 @@
+// How the system's common dialogs are tied to their objects.
+#pragma once
+
+#include <classes/CCommonDialog.h>
+
+namespace afxint {
+
+struct CommonDialogHook
+{
+    /// The hook of all common dialogs: puts the object that is being shown around the window.
+    static UINT_PTR CALLBACK Procedure(HWND window, UINT message, WPARAM wParam, LPARAM lParam);
+};
+
+} // namespace afxint
