@@ -54,13 +54,13 @@ int LineLength(int side, int border)
     return length > INT_MAX ? INT_MAX : static_cast<int>(length);
 }
 
-void FillFace(PaletteDib& face, const ShadeLook& look, ShadeRandom& random)
+void FillFace(PaletteDib& face, const ShadeLook& look, ShadeRandom& random, ShadeEngine engine)
 {
     if (!face.IsValid())
         return;
     const ShadeSurface surface = {face.GetBits(), face.GetWidth(), face.GetHeight(),
                                   face.GetStride()};
-    if (!FillShadePixels(surface, look.style, look.granularity, random))
+    if (!FillShadePixels(surface, look.style, look.granularity, random, engine))
         face.Destroy();
 }
 
@@ -73,7 +73,8 @@ ShadeColors ShadeColors::OfSystem()
 }
 
 void FillShadeFaces(const ShadeFaces& faces, int width, int height, int border,
-                    const ShadeLook& look, const ShadeColors& colors, ShadeRandom& random)
+                    const ShadeLook& look, const ShadeColors& colors, ShadeRandom& random,
+                    ShadeEngine engine)
 {
     faces.focusH.Create(LineLength(width, border), 1, 8);
     faces.focusV.Create(1, LineLength(height, border), 8);
@@ -89,7 +90,7 @@ void FillShadeFaces(const ShadeFaces& faces, int width, int height, int border,
     DotLine(faces.focusH, faces.focusH.GetWidth(), 1);
     DotLine(faces.focusV, faces.focusV.GetHeight(), faces.focusV.GetStride());
 
-    FillFace(faces.normal, look, random);
+    FillFace(faces.normal, look, random, engine);
 
     faces.disabled.Clone(faces.normal);
     faces.over.Clone(faces.normal);

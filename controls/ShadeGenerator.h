@@ -38,4 +38,5 @@ struct ShadeFaces
 // Makes all six bitmaps for a button of width x height pixels with its focus lines border pixels
 // inside its edges. Bitmaps that cannot be made are left empty.
 void FillShadeFaces(const ShadeFaces& faces, int width, int height, int border,
-                    const ShadeLook& look, const ShadeColors& colors, ShadeRandom& random);
+                    const ShadeLook& look, const ShadeColors& colors, ShadeRandom& random,
+                    ShadeEngine engine = BestShadeEngine());

@@ -5,15 +5,20 @@
 #include <cstddef>
 #include <cstdint>
 
-// Division of random numbers (0 to 32767) by a fixed divisor (1 to 32767), made of a
-// multiplication and a shift: number / divisor = (2 * number * factor >> 16) >> shift.
+// Division of random numbers (0 to 32767) by a fixed divisor, made of a multiplication and a shift:
+// number / divisor = number * factor >> shift.
 struct GrainDivider
 {
-    std::uint16_t factor;
-    std::uint16_t shift;
+    std::uint32_t factor; // below 2^16 for all divisors but 1
+    int shift;            // 16 or more for all divisors but 1
+
+    int Divide(int number) const
+    {
+        return static_cast<int>(static_cast<std::uint32_t>(number) * factor >> shift);
+    }
 };
 
-// Exact for every number.
+// Exact for every number; the divisor is 1 to 32767.
 GrainDivider DividerOf(int divisor);
 
 // What the grain of some rows is made of. Every pixel is base[x] + add[row] + number / divisor, the
@@ -26,7 +31,7 @@ struct GrainJob
     int rows;
     const std::uint8_t* base; // readable up to width rounded up to kGrainBlock
     const std::uint8_t* add;  // one a row
-    GrainDivider divider;
+    GrainDivider divider; // of 2 or more
     std::uint32_t state; // of the stream, before the first pixel's number
     RandomLeap lineLeap; // the steps of one row, or of one column where columns go first
 };
@@ -34,17 +39,16 @@ struct GrainJob
 // Widths of row buffers are rounded up to a multiple of this.
 constexpr int kGrainBlock = 32;
 
-// What the profile of one row of crossing bumps is made of: (column[x] + row) * scale / 128 + 128,
-// kept at or above low first, at or below high then.
+// What the profile of one row of crossing bumps is made of: (columns[x] + row) / 128 + 128, kept at
+// or above low first, at or below high then.
 struct CrossBumpJob
 {
     std::uint8_t* bits; // writable up to width rounded up to kGrainBlock
     int width;
-    const std::int16_t* columns; // readable as far; -125 to 125
-    std::int16_t row;            // -125 to 125
-    std::int16_t scale;          // -127 to 128
-    std::int16_t low;            // 0 to 255
-    std::int16_t high;           // 0 to 255
+    const std::int16_t* columns; // readable as far; no sum with row may leave 16 bits
+    std::int16_t row;
+    std::uint8_t low;
+    std::uint8_t high;
 };
 
 // The inner loops, one set for each instruction set.

@@ -29,11 +29,22 @@ struct Avx2Lanes
     {
         explicit Divider(GrainDivider divider)
             : factor(_mm256_set1_epi16(static_cast<short>(divider.factor))),
-              shift(_mm_cvtsi32_si128(divider.shift))
+              shift(_mm_cvtsi32_si128(divider.shift - 16))
         {
         }
         __m256i factor;
         __m128i shift;
+    };
+
+    struct BumpTerms
+    {
+        explicit BumpTerms(const CrossBumpJob& job)
+            : row(_mm256_set1_epi16(job.row)), low(Spread(job.low)), high(Spread(job.high))
+        {
+        }
+        __m256i row;
+        __m256i low;
+        __m256i high;
     };
 
     // Each vector takes every fourth pixel, so that numbers fall into place without crossing over.
@@ -67,19 +78,22 @@ struct Avx2Lanes
 
     __m256i Pixels(const Divider& divider, const std::uint8_t* base, __m256i add) const
     {
-        const __m256i even = Divide(UpperWords(states[0], states[2]), divider);
-        const __m256i odd = Divide(UpperWords(states[1], states[3]), divider);
+        const __m256i even = Divide(states[0], states[2], divider);
+        const __m256i odd = Divide(states[1], states[3], divider);
         const __m256i grain = _mm256_or_si256(_mm256_and_si256(even, _mm256_set1_epi16(0xFF)),
                                               _mm256_slli_epi16(odd, 8));
         return _mm256_add_epi8(_mm256_add_epi8(Load(base), add), grain);
     }
 
-    static __m256i CrossBumpPixels(const CrossBumpJob& job, const std::int16_t* columns)
+    static __m256i CrossBumpPixels(const BumpTerms& terms, const std::int16_t* columns)
     {
-        // Packing works within the halves; the permutation puts their quarters in order.
-        return _mm256_permute4x64_epi64(_mm256_packus_epi16(CrossBumpWords(job, columns),
-                                                            CrossBumpWords(job, columns + 16)),
-                                        _MM_SHUFFLE(3, 1, 2, 0));
+        // Packing keeps the sums within a byte, which the bounds are, too. It works within the
+        // halves; the permutation puts their quarters in order.
+        const __m256i packed = _mm256_permute4x64_epi64(
+            _mm256_packs_epi16(CrossBumpWords(terms, columns), CrossBumpWords(terms, columns + 16)),
+            _MM_SHUFFLE(3, 1, 2, 0));
+        const __m256i value = _mm256_add_epi8(packed, Spread(128));
+        return _mm256_min_epu8(_mm256_max_epu8(value, terms.low), terms.high);
     }
 
     static __m256i Spread(std::uint8_t value) { return _mm256_set1_epi8(static_cast<char>(value)); }
@@ -130,29 +144,20 @@ private:
         std::memcpy(target, &word, sizeof(word));
     }
 
-    // The upper 16 bits of the states of two vectors, taken in turn.
-    static __m256i UpperWords(__m256i first, __m256i second)
+    // The quotients of the numbers of two vectors, taken in turn.
+    static __m256i Divide(__m256i first, __m256i second, const Divider& divider)
     {
-        return _mm256_blend_epi16(_mm256_srli_epi32(first, 16), second, 0xAA);
+        const __m256i numbers =
+            _mm256_blend_epi16(_mm256_srli_epi32(first, 17), _mm256_srli_epi32(second, 1), 0xAA);
+        return _mm256_srl_epi16(_mm256_mulhi_epu16(numbers, divider.factor), divider.shift);
     }
 
-    // The lowest bit is not the number's.
-    static __m256i Divide(__m256i doubled, const Divider& divider)
+    static __m256i CrossBumpWords(const BumpTerms& terms, const std::int16_t* columns)
     {
-        const __m256i number = _mm256_and_si256(doubled, _mm256_set1_epi16(-2));
-        return _mm256_srl_epi16(_mm256_mulhi_epu16(number, divider.factor), divider.shift);
-    }
-
-    static __m256i CrossBumpWords(const CrossBumpJob& job, const std::int16_t* columns)
-    {
-        const __m256i sum = _mm256_add_epi16(Load(columns), _mm256_set1_epi16(job.row));
-        const __m256i product = _mm256_mullo_epi16(sum, _mm256_set1_epi16(job.scale));
+        const __m256i sum = _mm256_add_epi16(Load(columns), terms.row);
         // Adding 127 to negative ones makes the shift a division that rounds toward zero.
-        const __m256i rounding = _mm256_srli_epi16(_mm256_srai_epi16(product, 15), 9);
-        const __m256i quotient = _mm256_srai_epi16(_mm256_add_epi16(product, rounding), 7);
-        const __m256i value = _mm256_add_epi16(quotient, _mm256_set1_epi16(128));
-        return _mm256_min_epi16(_mm256_max_epi16(value, _mm256_set1_epi16(job.low)),
-                                _mm256_set1_epi16(job.high));
+        const __m256i rounding = _mm256_srli_epi16(_mm256_srai_epi16(sum, 15), 9);
+        return _mm256_srai_epi16(_mm256_add_epi16(sum, rounding), 7);
     }
 
     __m256i states[kVectors];

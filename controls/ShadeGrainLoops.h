@@ -6,6 +6,9 @@
 // Lanes keep the states of a block of pixels that lie side by side, each state being the one whose
 // upper bits are the pixel's number. States are kept doubled, which puts the 15 bits of the number
 // at the top of the word and leaves the bit that no number needs outside.
+//
+// What a loop needs of its job is read before it: the compiler has to take it that stored bytes may
+// belong to the job.
 #pragma once
 
 #include "controls/ShadeGrain.h"
@@ -52,6 +55,8 @@ std::uint32_t GrainRows(const GrainJob& job)
     constexpr RandomLeap kBlock = Repeat(kOneStep, Lanes::kPixels);
     const typename Lanes::Leap blockLeap(kBlock);
     const typename Lanes::Divider divider(job.divider);
+    const std::uint8_t* const base = job.base;
+    const int width = job.width;
 
     std::uint32_t state = job.state;
     std::uint8_t* row = job.bits;
@@ -59,12 +64,12 @@ std::uint32_t GrainRows(const GrainJob& job)
         const auto add = Lanes::Spread(job.add[r]);
         Lanes lanes(state, kStart.factors, kStart.offsets);
         int x = 0;
-        for (; x + Lanes::kPixels <= job.width; x += Lanes::kPixels) {
-            Lanes::Store(row + x, lanes.Pixels(divider, job.base + x, add));
+        for (; x + Lanes::kPixels <= width; x += Lanes::kPixels) {
+            Lanes::Store(row + x, lanes.Pixels(divider, base + x, add));
             lanes.Advance(blockLeap);
         }
-        if (x < job.width)
-            Lanes::StorePart(row + x, lanes.Pixels(divider, job.base + x, add), job.width - x);
+        if (x < width)
+            Lanes::StorePart(row + x, lanes.Pixels(divider, base + x, add), width - x);
         state = state * job.lineLeap.factor + job.lineLeap.offset;
     }
     return state;
@@ -120,8 +125,12 @@ void GrainColumns(const GrainJob& job, std::uint32_t* states)
 template <class Lanes>
 void CrossBump(const CrossBumpJob& job)
 {
-    for (int x = 0; x < job.width; x += Lanes::kPixels)
-        Lanes::Store(job.bits + x, Lanes::CrossBumpPixels(job, job.columns + x));
+    const typename Lanes::BumpTerms terms(job);
+    const std::int16_t* const columns = job.columns;
+    std::uint8_t* const bits = job.bits;
+    const int width = job.width;
+    for (int x = 0; x < width; x += Lanes::kPixels)
+        Lanes::Store(bits + x, Lanes::CrossBumpPixels(terms, columns + x));
 }
 
 template <class Lanes>

@@ -28,11 +28,22 @@ struct Sse2Lanes
     {
         explicit Divider(GrainDivider divider)
             : factor(_mm_set1_epi16(static_cast<short>(divider.factor))),
-              shift(_mm_cvtsi32_si128(divider.shift))
+              shift(_mm_cvtsi32_si128(divider.shift - 16))
         {
         }
         __m128i factor;
         __m128i shift;
+    };
+
+    struct BumpTerms
+    {
+        explicit BumpTerms(const CrossBumpJob& job)
+            : row(_mm_set1_epi16(job.row)), low(Spread(job.low)), high(Spread(job.high))
+        {
+        }
+        __m128i row;
+        __m128i low;
+        __m128i high;
     };
 
     // Even pixels lie in the first four vectors, odd ones in the others.
@@ -69,16 +80,20 @@ struct Sse2Lanes
 
     __m128i Pixels(const Divider& divider, const std::uint8_t* base, __m128i add) const
     {
-        const __m128i even = Divide(UpperWords(states), divider);
-        const __m128i odd = Divide(UpperWords(states + 4), divider);
+        const __m128i even = Divide(states, divider);
+        const __m128i odd = Divide(states + 4, divider);
         const __m128i grain =
             _mm_or_si128(_mm_and_si128(even, _mm_set1_epi16(0xFF)), _mm_slli_epi16(odd, 8));
         return _mm_add_epi8(_mm_add_epi8(grain, add), Load(base));
     }
 
-    static __m128i CrossBumpPixels(const CrossBumpJob& job, const std::int16_t* columns)
+    static __m128i CrossBumpPixels(const BumpTerms& terms, const std::int16_t* columns)
     {
-        return _mm_packus_epi16(CrossBumpWords(job, columns), CrossBumpWords(job, columns + 8));
+        // Packing keeps the sums within a byte, which the bounds are, too.
+        const __m128i packed =
+            _mm_packs_epi16(CrossBumpWords(terms, columns), CrossBumpWords(terms, columns + 8));
+        const __m128i value = _mm_add_epi8(packed, Spread(128));
+        return _mm_min_epu8(_mm_max_epu8(value, terms.low), terms.high);
     }
 
     static __m128i Spread(std::uint8_t value) { return _mm_set1_epi8(static_cast<char>(value)); }
@@ -130,30 +145,20 @@ private:
                                                _MM_SHUFFLE(2, 0, 2, 0)));
     }
 
-    // The upper 16 bits of eight states.
-    static __m128i UpperWords(const __m128i* four)
+    // The quotients of eight states' numbers.
+    static __m128i Divide(const __m128i* four, const Divider& divider)
     {
-        return _mm_packs_epi32(_mm_srai_epi32(LowWords(four[0], four[1]), 16),
-                               _mm_srai_epi32(LowWords(four[2], four[3]), 16));
+        const __m128i numbers = _mm_packs_epi32(_mm_srli_epi32(LowWords(four[0], four[1]), 17),
+                                                _mm_srli_epi32(LowWords(four[2], four[3]), 17));
+        return _mm_srl_epi16(_mm_mulhi_epu16(numbers, divider.factor), divider.shift);
     }
 
-    // The lowest bit is not the number's.
-    static __m128i Divide(__m128i doubled, const Divider& divider)
+    static __m128i CrossBumpWords(const BumpTerms& terms, const std::int16_t* columns)
     {
-        const __m128i number = _mm_and_si128(doubled, _mm_set1_epi16(-2));
-        return _mm_srl_epi16(_mm_mulhi_epu16(number, divider.factor), divider.shift);
-    }
-
-    static __m128i CrossBumpWords(const CrossBumpJob& job, const std::int16_t* columns)
-    {
-        const __m128i sum = _mm_add_epi16(Load(columns), _mm_set1_epi16(job.row));
-        const __m128i product = _mm_mullo_epi16(sum, _mm_set1_epi16(job.scale));
+        const __m128i sum = _mm_add_epi16(Load(columns), terms.row);
         // Adding 127 to negative ones makes the shift a division that rounds toward zero.
-        const __m128i rounding = _mm_srli_epi16(_mm_srai_epi16(product, 15), 9);
-        const __m128i quotient = _mm_srai_epi16(_mm_add_epi16(product, rounding), 7);
-        const __m128i value = _mm_add_epi16(quotient, _mm_set1_epi16(128));
-        return _mm_min_epi16(_mm_max_epi16(value, _mm_set1_epi16(job.low)),
-                             _mm_set1_epi16(job.high));
+        const __m128i rounding = _mm_srli_epi16(_mm_srai_epi16(sum, 15), 9);
+        return _mm_srai_epi16(_mm_add_epi16(sum, rounding), 7);
     }
 
     __m128i states[kVectors];

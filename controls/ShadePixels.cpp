@@ -10,12 +10,15 @@
 
 namespace {
 
+using std::int16_t;
 using std::int64_t;
+using std::uint64_t;
 using std::uint8_t;
 
 constexpr int kScratchCount = 200;
 constexpr int kScratchDivisor = 819; // gives indices 0 to 40
 constexpr int kScratchRoom = 40;     // what the ramp of a scratched face leaves for them
+constexpr int kScratchBand = 32768;  // bytes of a face that stay near at hand
 constexpr int kMaxRamp = 16;         // columns of the side ramps of a rounded bump
 
 // Rows to work in, rounded up as the kernels need it.
@@ -27,7 +30,7 @@ public:
         const std::size_t rounded =
             (static_cast<std::size_t>(width) + kGrainBlock - 1) / kGrainBlock * kGrainBlock;
         m_states.reset(new (std::nothrow) std::uint32_t[rounded * 2]);
-        m_columns.reset(new (std::nothrow) std::int16_t[rounded]());
+        m_columns.reset(new (std::nothrow) int16_t[rounded]());
         m_bytes.reset(new (std::nothrow) uint8_t[rounded * 2 + height]());
         base = m_bytes.get();
         row = base + rounded;
@@ -41,26 +44,60 @@ public:
     uint8_t* base;         // per column, zeros at first
     uint8_t* row;          // one row on its way to the surface
     uint8_t* add;          // per row, zeros at first
-    std::int16_t* columns; // per column
+    int16_t* columns; // per column
     std::uint32_t* states; // of the grain of columns
 
 private:
     std::unique_ptr<uint8_t[]> m_bytes;
-    std::unique_ptr<std::int16_t[]> m_columns;
+    std::unique_ptr<int16_t[]> m_columns;
     std::unique_ptr<std::uint32_t[]> m_states;
 };
 
-// The position along a side, -127 to 127.
-int ProfilePosition(int64_t position, int length)
+// rise * i / length for i = 0, 1, 2, ... length, rounded toward zero, without dividing each time.
+//
+// The step is a little too large, by less than 2^-52; after `length` steps that is less than
+// 1 / length as long as length < 2^26, too little to reach the next whole number. With |rise| below
+// 2^10 the sum stays within 63 bits.
+class Ramp
 {
-    return static_cast<int>(255 * position / length - 127);
+public:
+    static constexpr int kMaxLength = 1 << 26;
+
+    Ramp(int rise, int length)
+        : m_step((static_cast<uint64_t>(rise < 0 ? -rise : rise) << kFraction) / length + 1),
+          m_negative(rise < 0)
+    {
+    }
+
+    void Advance() { m_sum += m_step; }
+    int Value() const
+    {
+        const int value = static_cast<int>(m_sum >> kFraction);
+        return m_negative ? -value : value;
+    }
+
+private:
+    static constexpr int kFraction = 52;
+
+    uint64_t m_sum = 0;
+    uint64_t m_step;
+    bool m_negative;
+};
+
+// The cubic profile over a ramp of 0 to 255: -125 to 125.
+int CubicProfile(int ramp)
+{
+    const int t = ramp - 127;
+    return t * t * t / 128 / 128;
 }
 
-// The cubic profile of that position, -125 to 125.
-int CubicProfile(int64_t position, int length)
+constexpr int kProfileRise = 255;
+
+// Written over plain pointers for the compiler to make vectors of it.
+void AddBytes(const uint8_t* first, const uint8_t* second, uint8_t* sum, int count)
 {
-    const int t = ProfilePosition(position, length);
-    return t * t * t / 128 / 128;
+    for (int i = 0; i < count; ++i)
+        sum[i] = static_cast<uint8_t>(first[i] + second[i]);
 }
 
 // One fill of one surface.
@@ -103,58 +140,63 @@ public:
 private:
     void FillNoise()
     {
-        SetRows([](int) { return 128; });
+        SetRows(0, [](int) { return 128; });
         GrainAlongRows();
     }
 
     void FillDiagonal()
     {
-        const int64_t rise = (m_high - m_low) / 2;
-        SetColumns([&](int x) { return m_low + rise * (m_width - x) / m_width; });
-        SetRows([&](int r) { return rise * r / m_height; });
+        const int rise = (m_high - m_low) / 2;
+        SetColumns(rise, [&](int ramp) { return m_low + ramp; });
+        SetRows(rise, [](int ramp) { return ramp; });
         GrainAlongRows();
     }
 
     void FillRows()
     {
-        const int64_t rise = m_high - m_low;
-        SetRows([&](int r) { return m_low + r * rise / m_height; });
+        SetRows(m_high - m_low, [&](int ramp) { return m_low + ramp; });
         GrainAlongRows();
     }
 
     void FillColumns()
     {
-        const int64_t rise = m_high - m_low;
-        SetColumns([&](int x) { return m_low + rise * (m_width - x) / m_width; });
+        SetColumns(m_high - m_low, [&](int ramp) { return m_low + ramp; });
         GrainAlongColumns();
     }
 
     void FillRowBump()
     {
-        SetRows([&](int r) { return BumpOf(CubicProfile(r, m_height)); });
+        SetRows(kProfileRise, [&](int ramp) { return BumpOf(ramp); });
         GrainAlongRows();
     }
 
     void FillColumnBump()
     {
-        SetColumns([&](int x) { return BumpOf(CubicProfile(m_width - x, m_width)); });
+        SetColumns(kProfileRise, [&](int ramp) { return BumpOf(ramp); });
         GrainAlongColumns();
     }
 
     // Neighbouring rows often have the same profile; each run of them is one job.
     void FillCrossBump()
     {
-        for (int x = 0; x < m_width; ++x)
-            m_rows.columns[x] = static_cast<std::int16_t>(CubicProfile(m_width - x, m_width));
-        SetRows([](int) { return 0; });
+        const int scale = 128 - m_grain;
+        Ramp column(kProfileRise, m_width);
+        for (int x = m_width - 1; x >= 0; --x) {
+            column.Advance();
+            m_rows.columns[x] = static_cast<int16_t>(CubicProfile(column.Value()) * scale);
+        }
+        SetRows(0, [](int) { return 0; });
 
         GrainJob job = JobOf(m_random.GetState());
+        Ramp row(kProfileRise, m_height);
         for (int r = 0; r < m_height; r += job.rows) {
-            const int profile = CubicProfile(r, m_height);
-            job.rows = 1;
-            while (r + job.rows < m_height && CubicProfile(r + job.rows, m_height) == profile)
+            const int profile = CubicProfile(row.Value());
+            job.rows = 0;
+            do {
+                row.Advance();
                 ++job.rows;
-            BuildCrossBumpRow(profile);
+            } while (r + job.rows < m_height && CubicProfile(row.Value()) == profile);
+            BuildCrossBumpRow(profile * scale);
             job.bits = RowOf(r);
             job.add = m_rows.add + r;
             job.state = m_kernels.grainRows(job);
@@ -162,16 +204,15 @@ private:
         m_random.Skip(PixelCount());
     }
 
-    void BuildCrossBumpRow(int profile)
+    void BuildCrossBumpRow(int scaledProfile)
     {
         CrossBumpJob job;
         job.bits = m_rows.base;
         job.width = m_width;
         job.columns = m_rows.columns;
-        job.row = static_cast<std::int16_t>(profile);
-        job.scale = static_cast<std::int16_t>(128 - m_grain);
-        job.low = static_cast<std::int16_t>(m_low);
-        job.high = static_cast<std::int16_t>(m_high);
+        job.row = static_cast<int16_t>(scaledProfile);
+        job.low = static_cast<uint8_t>(m_low);
+        job.high = static_cast<uint8_t>(m_high);
         m_kernels.crossBump(job);
     }
 
@@ -179,8 +220,8 @@ private:
     // draw if the whole first pass had gone before.
     void FillRoundedBump()
     {
-        SetRows([&](int r) {
-            return 2 * (CubicProfile(r, m_height) * (64 - m_grain)) / 128 + 128;
+        SetRows(kProfileRise, [&](int ramp) {
+            return 2 * (CubicProfile(ramp) * (64 - m_grain)) / 128 + 128;
         });
         const int64_t divisor = int64_t{m_height} * m_height / 4;
         if (divisor == 0)
@@ -229,92 +270,129 @@ private:
             m_rows.row[x] = m_leftRamp[x];
     }
 
+    // Scratches are drawn band by band, while a band's rows are near at hand, and the ramp and the
+    // grain are added to a band as soon as its scratches are in.
     void FillScratched()
     {
-        for (int r = 0; r < m_height; ++r)
-            std::memset(RowOf(r), 0, m_width);
-        DrawScratches();
+        Scratch scratches[kScratchCount * 2];
+        const int count = ChooseScratches(scratches);
 
-        const int64_t rise = (m_high - m_low - kScratchRoom) / 2;
+        const int rise = (m_high - m_low - kScratchRoom) / 2;
+        SetColumns(rise, [](int ramp) { return ramp; });
         // Kept: the grain of a scratched face is not centred; it goes from 0 to about twice g.
-        for (int r = 0; r < m_height; ++r)
-            m_rows.add[r] = static_cast<uint8_t>(rise * r / m_height);
-        SetColumns([&](int x) { return rise * (m_width - x) / m_width; });
+        SetRows(rise, [&](int ramp) { return ramp + m_grain; });
 
+        const int bandRows = static_cast<int>(std::max<std::ptrdiff_t>(
+            1, kScratchBand / std::max<std::ptrdiff_t>(m_surface.stride, 1)));
         GrainJob job = JobOf(m_random.GetState());
         job.rows = 1;
         job.base = m_rows.row;
-        for (int r = 0; r < m_height; ++r) {
-            job.bits = RowOf(r);
-            for (int x = 0; x < m_width; ++x)
-                m_rows.row[x] = static_cast<uint8_t>(job.bits[x] + m_rows.base[x]);
-            job.add = m_rows.add + r;
-            job.state = m_kernels.grainRows(job);
+        for (int first = 0; first < m_height; first += std::min(bandRows, m_height - first)) {
+            const int end = first + std::min(bandRows, m_height - first);
+            for (int r = first; r < end; ++r)
+                std::memset(RowOf(r), 0, m_width);
+            for (int i = 0; i < count; ++i)
+                DrawScratch(scratches[i], first, end);
+            for (int r = first; r < end; ++r) {
+                job.bits = RowOf(r);
+                AddBytes(job.bits, m_rows.base, m_rows.row, m_width);
+                job.add = m_rows.add + r;
+                job.state = m_kernels.grainRows(job);
+            }
         }
         m_random.Skip(PixelCount());
     }
 
-    void DrawScratches()
+    // A run of pixels along a diagonal, on which the column is the row plus a fixed number.
+    struct Scratch
     {
-        const int divisorX = ShadeRandom::kMax / m_width;
-        const int divisorY = ShadeRandom::kMax / m_height;
-        const int divisorLength = ShadeRandom::kMax / std::min(m_width, m_height);
-        if (divisorX == 0 || divisorY == 0)
-            return;
+        int first; // rows, in storage order
+        int end;
+        int diagonal;
+        uint8_t index;
+    };
+
+    int ChooseScratches(Scratch* scratches)
+    {
+        const int maxX = ShadeRandom::kMax / m_width;
+        const int maxY = ShadeRandom::kMax / m_height;
+        if (maxX == 0 || maxY == 0)
+            return 0;
+        const GrainDivider dividerX = DividerOf(maxX);
+        const GrainDivider dividerY = DividerOf(maxY);
+        const GrainDivider dividerLength = DividerOf(std::max(maxX, maxY));
         for (int i = 0; i < kScratchCount; ++i) {
-            const int x = m_random.Next() / divisorX;
-            const int y = m_random.Next() / divisorY;
-            const int length = m_random.Next() / divisorLength;
-            const int index = m_random.Next() / kScratchDivisor;
-            DrawScratch(x, y, length / 2, static_cast<uint8_t>(index));
+            const int x = dividerX.Divide(m_random.Next());
+            const int y = dividerY.Divide(m_random.Next());
+            const int half = dividerLength.Divide(m_random.Next()) / 2;
+            const auto index = static_cast<uint8_t>(m_random.Next() / kScratchDivisor);
+            scratches[i * 2] = LeftHalf(x, y, half, index);
+            scratches[i * 2 + 1] = RightHalf(x, y, half, index);
+        }
+        return kScratchCount * 2;
+    }
+
+    // The pixels (x - i, y + i), y from the top, for which 0 < x - i < width and y + i < height.
+    // x and y may lie just outside the face.
+    Scratch LeftHalf(int x, int y, int half, uint8_t index) const
+    {
+        const int first = std::max(0, x - m_width + 1);
+        const int end = std::min({half, x, m_height - y});
+        const int row = m_height - 1 - y;
+        return {row - end + 1, row - first + 1, x - row, index};
+    }
+
+    // The pixels (width - x + i, y - i).
+    // Kept: the half starts at the mirrored column, while its bounds are tested without mirroring
+    // (x + i < width, y - i > 0), which scatters it to the other side. What is outside the face all
+    // the same is dropped: i < x, and at the start what is left of it or below it.
+    Scratch RightHalf(int x, int y, int half, uint8_t index) const
+    {
+        const int first = std::max({0, x - m_width, y - m_height + 1});
+        const int end = std::min({half, x, m_width - x, y});
+        const int row = m_height - 1 - y;
+        return {row + first, row + end, m_width - x - row, index};
+    }
+
+    // The part within the rows first to end - 1. Pixels are set eight at a time, the last one more
+    // than once if need be: most scratches of a button are no longer, and a loop whose length cannot
+    // be foreseen costs more than the pixels.
+    void DrawScratch(const Scratch& scratch, int first, int end) const
+    {
+        constexpr int kAtOnce = 8;
+        first = std::max(first, scratch.first);
+        end = std::min(end, scratch.end);
+        const std::ptrdiff_t step = m_surface.stride + 1;
+        for (int r = first; r < end; r += kAtOnce) {
+            uint8_t* pixel = RowOf(r) + r + scratch.diagonal;
+            const int last = end - 1 - r;
+            for (int i = 0; i < kAtOnce; ++i)
+                pixel[std::min(i, last) * step] = scratch.index;
         }
     }
 
-    // y counts from the top. x and y may lie just outside the face.
-    void DrawScratch(int x, int y, int half, uint8_t index)
-    {
-        // To the left and down from (x, y): the steps for which 0 < x - i < width and
-        // y + i < height.
-        const int leftFirst = std::max(0, x - m_width + 1);
-        const int leftEnd = std::min({half, x, m_height - y});
-        DrawLine(x, y, -1, leftFirst, leftEnd, index);
+    // The cubic profile lessened by the grain and set on mid-grey.
+    int BumpOf(int ramp) const { return CubicProfile(ramp) * (128 - m_grain) / 128 + 128; }
 
-        // Kept: the other half starts at the mirrored column, while its bounds are tested without
-        // the mirroring (x + i < width), which scatters it to the other side. Here too the column
-        // itself must be inside: i < x.
-        const int rightFirst = std::max({0, x - m_width, y - m_height + 1});
-        const int rightEnd = std::min({half, x, m_width - x, y});
-        DrawLine(m_width - x, y, 1, rightFirst, rightEnd, index);
-    }
-
-    // Steps first to end - 1 of the line from (x, y): to the right and up, or to the left and down.
-    void DrawLine(int x, int y, int direction, int first, int end, uint8_t index)
-    {
-        if (first >= end)
-            return;
-        uint8_t* pixel = RowOf(m_height - 1 - y + direction * first) + x + direction * first;
-        const std::ptrdiff_t step = direction * (m_surface.stride + 1);
-        for (int i = first; i < end - 1; ++i, pixel += step)
-            *pixel = index;
-        *pixel = index;
-    }
-
-    // A profile lessened by the grain and set on mid-grey.
-    int BumpOf(int profile) const { return profile * (128 - m_grain) / 128 + 128; }
-
+    // The terms of the columns, over a ramp that is full at the left.
     template <class Term>
-    void SetColumns(Term term)
+    void SetColumns(int rise, Term term)
     {
-        for (int x = 0; x < m_width; ++x)
-            m_rows.base[x] = static_cast<uint8_t>(term(x));
+        Ramp ramp(rise, m_width);
+        for (int x = m_width - 1; x >= 0; --x) {
+            ramp.Advance();
+            m_rows.base[x] = static_cast<uint8_t>(term(ramp.Value()));
+        }
     }
 
-    // Takes in that grain reaches as far down as up.
+    // The terms of the rows, over a ramp that begins at the bottom. They take in that grain reaches
+    // as far down as up.
     template <class Term>
-    void SetRows(Term term)
+    void SetRows(int rise, Term term)
     {
-        for (int r = 0; r < m_height; ++r)
-            m_rows.add[r] = static_cast<uint8_t>(term(r) - m_grain);
+        Ramp ramp(rise, m_height);
+        for (int r = 0; r < m_height; ++r, ramp.Advance())
+            m_rows.add[r] = static_cast<uint8_t>(term(ramp.Value()) - m_grain);
     }
 
     void GrainAlongRows()
@@ -325,7 +403,7 @@ private:
 
     void GrainAlongColumns()
     {
-        SetRows([](int) { return 0; });
+        SetRows(0, [](int) { return 0; });
         GrainJob job = JobOf(m_random.GetState());
         job.lineLeap = LeapOf(m_height);
         m_kernels.grainColumns(job, m_rows.states);
@@ -348,7 +426,7 @@ private:
     }
 
     uint8_t* RowOf(int r) const { return m_surface.bits + r * m_surface.stride; }
-    std::uint64_t PixelCount() const { return std::uint64_t(m_width) * m_height; }
+    uint64_t PixelCount() const { return uint64_t(m_width) * m_height; }
 
     const ShadeSurface& m_surface;
     const int m_width;
@@ -384,6 +462,8 @@ bool FillShadePixels(const ShadeSurface& surface, unsigned style, std::uint8_t g
 {
     if (surface.bits == nullptr || surface.width <= 0 || surface.height <= 0)
         return true;
+    if (surface.width >= Ramp::kMaxLength || surface.height >= Ramp::kMaxLength)
+        return false;
     WorkRows rows(surface.width, surface.height);
     if (!rows.IsValid())
         return false;

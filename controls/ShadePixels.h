@@ -41,7 +41,8 @@ bool HasShadeEngine(ShadeEngine engine);
 
 // Writes the palette index of every pixel, one or two random numbers a pixel. Bytes between the
 // rows stay as they are. A style other than those above acts as SHADE_NOISE. False, with nothing
-// written or drawn from the stream, when there is no memory for the working rows.
+// written or drawn from the stream, when there is no memory for the working rows or a side has
+// 2^26 pixels or more.
 //
 // Where a side is too short (or, for scratches, too long) for a divisor of the style to be other
 // than zero, only what that divisor is needed for is left out:

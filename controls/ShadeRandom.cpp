@@ -23,12 +23,6 @@ ShadeRandom& ShadeRandom::OfProcess()
     return processStream;
 }
 
-int ShadeRandom::Next()
-{
-    m_state = m_state * kFactor + kOffset;
-    return static_cast<int>(m_state >> 16 & kMax);
-}
-
 void ShadeRandom::Skip(std::uint64_t count)
 {
     const RandomLeap leap = LeapOf(count);

@@ -28,7 +28,11 @@ public:
     // The process's stream, which all faces draw from.
     static ShadeRandom& OfProcess();
 
-    int Next();
+    int Next()
+    {
+        m_state = m_state * kFactor + kOffset;
+        return static_cast<int>(m_state >> 16 & kMax);
+    }
     // Passes over the next numbers.
     void Skip(std::uint64_t count);
 

@@ -1,0 +1,57 @@
+#include "bench/Race.h"
+
+#include <algorithm>
+#include <chrono>
+#include <utility>
+
+namespace {
+
+using Clock = std::chrono::steady_clock;
+
+double TimeOnce(const Race::Work& work, int repetitions)
+{
+    const auto start = Clock::now();
+    for (int i = 0; i < repetitions; ++i)
+        work();
+    const std::chrono::duration<double, std::nano> time = Clock::now() - start;
+    return time.count() / repetitions;
+}
+
+int ChooseRepetitions(const Race::Work& work)
+{
+    constexpr double kLeastNanoseconds = 200'000;
+    int repetitions = 1;
+    while (repetitions < 1'000'000 && TimeOnce(work, repetitions) * repetitions < kLeastNanoseconds)
+        repetitions *= 2;
+    return repetitions;
+}
+
+} // namespace
+
+void Race::Add(std::string name, Work work)
+{
+    m_entries.push_back({std::move(name), std::move(work), 1, {}});
+}
+
+void Race::Run(int rounds)
+{
+    for (Entry& entry : m_entries)
+        entry.repetitions = ChooseRepetitions(entry.work);
+    for (int round = 0; round < rounds; ++round) {
+        for (Entry& entry : m_entries)
+            entry.times.push_back(TimeOnce(entry.work, entry.repetitions));
+    }
+}
+
+double Race::NanosecondsOf(const std::string& name) const
+{
+    for (const Entry& entry : m_entries) {
+        if (entry.name != name || entry.times.empty())
+            continue;
+        std::vector<double> times = entry.times;
+        const auto middle = times.begin() + times.size() / 2;
+        std::nth_element(times.begin(), middle, times.end());
+        return *middle;
+    }
+    return 0;
+}

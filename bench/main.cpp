@@ -1,0 +1,44 @@
+// Prints the tables of docs/performance.md, or those named on the command line.
+
+#include "bench/Tables.h"
+
+#include <cstdio>
+#include <cstring>
+
+namespace {
+
+struct Table
+{
+    const char* name;
+    const char* title;
+    void (*print)();
+};
+
+constexpr Table kTables[] = {
+    {"pixels", "Pixels of a face", PrintPixelTable},
+    {"faces", "All bitmaps of a button", PrintFacesTable},
+};
+
+bool IsWanted(const Table& table, int count, char** names)
+{
+    for (int i = 1; i < count; ++i) {
+        if (std::strcmp(names[i], table.name) == 0)
+            return true;
+    }
+    return count == 1;
+}
+
+} // namespace
+
+int main(int argc, char** argv)
+{
+    for (const Table& table : kTables) {
+        if (!IsWanted(table, argc, argv))
+            continue;
+        std::printf("### %s\n\n", table.title);
+        table.print();
+        std::printf("\n");
+        std::fflush(stdout);
+    }
+    return 0;
+}
