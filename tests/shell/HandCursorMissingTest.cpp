@@ -1,0 +1,20 @@
+#include <shell/HandCursor.h>
+
+#include "../programs/HelpProgram.h"
+
+#include <testing/CallFault.h>
+#include <testing/ImportHook.h>
+
+#include <doctest/doctest.h>
+
+using namespace umbra::testing;
+
+TEST_CASE("without the help program there is no hand, and it is looked for only once")
+{
+    REQUIRE(::GetFileAttributesA(HelpProgram::Path().c_str()) == INVALID_FILE_ATTRIBUTES);
+    const CountCalls libraries(FindModule("umbra.dll"), "kernel32", "LoadLibraryA");
+    REQUIRE(libraries.IsInstalled());
+    for (int i = 0; i < 100; ++i)
+        CHECK(LoadHandCursor() == NULL);
+    CHECK(libraries.Calls() == 1);
+}

@@ -1,0 +1,48 @@
+#include <shell/HandCursor.h>
+
+#include "../programs/HelpProgram.h"
+
+#include <testing/CallFault.h>
+#include <testing/ImportHook.h>
+
+#include <doctest/doctest.h>
+
+using namespace umbra::testing;
+
+// The toolkit loads the hand once for the whole process, so one case tells the story of one
+// process; that of a system without the help program is HandCursorMissingTest.cpp.
+
+TEST_CASE("the hand is borrowed from the help program once, and every link shares it")
+{
+    const HelpProgram help;
+    REQUIRE(help.IsInstalled());
+    const HMODULE umbra = FindModule("umbra.dll");
+    const CountCalls libraries(umbra, "kernel32", "LoadLibraryA");
+    const CountCalls copies(umbra, "user32", "CopyIcon");
+    REQUIRE(libraries.IsInstalled());
+    REQUIRE(copies.IsInstalled());
+
+    HCURSOR hand;
+    {
+        // Short of memory once, the next time may be better.
+        const FailNth noCopy(umbra, "user32", "CopyIcon", 1);
+        CHECK(LoadHandCursor() == NULL);
+    }
+    hand = LoadHandCursor();
+    REQUIRE(hand != NULL);
+    const long long loaded = libraries.Calls();
+    for (int i = 0; i < 1000; ++i)
+        CHECK(LoadHandCursor() == hand);
+    CHECK(libraries.Calls() == loaded);
+
+    // A copy: the help program's module is not needed any more.
+    CHECK(::GetModuleHandleA(HelpProgram::Path().c_str()) == NULL);
+    ICONINFO info;
+    REQUIRE(::GetIconInfo(hand, &info));
+    CHECK_FALSE(info.fIcon);
+    CHECK(info.xHotspot == 6);
+    CHECK(info.yHotspot == 0);
+    ::DeleteObject(info.hbmMask);
+    if (info.hbmColor != NULL)
+        ::DeleteObject(info.hbmColor);
+}

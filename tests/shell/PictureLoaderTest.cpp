@@ -1,0 +1,296 @@
+#include <shell/PictureLoader.h>
+
+#include <testing/CallFault.h>
+#include <testing/GdiObjects.h>
+#include <testing/ImportHook.h>
+#include <testing/Picture.h>
+
+#include <doctest/doctest.h>
+
+#include <stdio.h>
+#include <string.h>
+#include <string>
+#include <vector>
+
+using namespace umbra::testing;
+
+namespace {
+
+std::string ProgramFolder()
+{
+    char path[MAX_PATH] = "";
+    ::GetModuleFileNameA(nullptr, path, MAX_PATH);
+    *strrchr(path, '\\') = '\0';
+    return path;
+}
+
+std::string ImagePath(const char* name)
+{
+    return ProgramFolder() + "\\images\\" + name;
+}
+
+std::string TempFile(const char* name)
+{
+    char folder[MAX_PATH];
+    ::GetTempPathA(MAX_PATH, folder);
+    return std::string(folder) + name;
+}
+
+void WriteFile(const std::string& path, const std::vector<BYTE>& bytes)
+{
+    FILE* file = fopen(path.c_str(), "wb");
+    REQUIRE(file != nullptr);
+    fwrite(bytes.data(), 1, bytes.size(), file);
+    fclose(file);
+}
+
+std::vector<BYTE> ReadFile(const std::string& path)
+{
+    std::vector<BYTE> bytes;
+    if (FILE* file = fopen(path.c_str(), "rb")) {
+        BYTE buffer[4096];
+        size_t count;
+        while ((count = fread(buffer, 1, sizeof(buffer), file)) > 0)
+            bytes.insert(bytes.end(), buffer, buffer + count);
+        fclose(file);
+    }
+    return bytes;
+}
+
+/// A 24-bit BMP of one colour; `present` of its rows are really written.
+std::vector<BYTE> MakeBmp(int width, int height, COLORREF color, int present)
+{
+    const int stride = (width * 3 + 3) / 4 * 4;
+    BITMAPFILEHEADER file = {};
+    BITMAPINFOHEADER info = {};
+    file.bfType = 0x4D42;
+    file.bfOffBits = sizeof(file) + sizeof(info);
+    file.bfSize = file.bfOffBits + stride * height;
+    info.biSize = sizeof(info);
+    info.biWidth = width;
+    info.biHeight = height;
+    info.biPlanes = 1;
+    info.biBitCount = 24;
+    std::vector<BYTE> bytes(sizeof(file) + sizeof(info) + static_cast<size_t>(stride) * present);
+    memcpy(bytes.data(), &file, sizeof(file));
+    memcpy(bytes.data() + sizeof(file), &info, sizeof(info));
+    for (int row = 0; row < present; ++row) {
+        BYTE* pixel = bytes.data() + file.bfOffBits + static_cast<size_t>(row) * stride;
+        for (int x = 0; x < width; ++x) {
+            *pixel++ = GetBValue(color);
+            *pixel++ = GetGValue(color);
+            *pixel++ = GetRValue(color);
+        }
+    }
+    return bytes;
+}
+
+CSize SizeOf(HBITMAP bitmap)
+{
+    BITMAP record = {};
+    ::GetObject(bitmap, sizeof(record), &record);
+    return CSize(record.bmWidth, record.bmHeight);
+}
+
+/// Loads and deletes; tells whether a bitmap came, and that it was a good one.
+bool Loads(const std::string& path)
+{
+    const HBITMAP bitmap = LoadPictureBitmap(path.c_str());
+    if (bitmap == NULL)
+        return false;
+    CHECK(SizeOf(bitmap).cx > 0);
+    CHECK(::DeleteObject(bitmap));
+    return true;
+}
+
+/// The working directory for the length of a scope.
+struct InFolder
+{
+    explicit InFolder(const std::string& folder)
+    {
+        ::GetCurrentDirectoryA(MAX_PATH, former);
+        REQUIRE(::SetCurrentDirectoryA(folder.c_str()));
+    }
+    ~InFolder() { ::SetCurrentDirectoryA(former); }
+    char former[MAX_PATH];
+};
+
+} // namespace
+
+TEST_CASE("a GIF by its absolute path comes as a bitmap of its size, owned by the caller")
+{
+    const HBITMAP bitmap = LoadPictureBitmap(ImagePath("Next.gif").c_str());
+    REQUIRE(bitmap != NULL);
+    CHECK(SizeOf(bitmap) == CSize(19, 19));
+    CHECK(::DeleteObject(bitmap));
+}
+
+TEST_CASE("an absolute path that loads does not ask for the working directory")
+{
+    const CountCalls loads(FindModule("umbra.dll"), "oleaut32", "OleLoadPicturePath");
+    REQUIRE(loads.IsInstalled());
+    CHECK(Loads(ImagePath("Next.gif")));
+    CHECK(loads.Calls() == 1);
+}
+
+TEST_CASE("a relative path is tried as it is and then below the working directory")
+{
+    const InFolder folder(ProgramFolder());
+    CHECK(Loads("images\\Next.gif"));
+    CHECK(Loads("\\images\\InfoIcon1.gif"));
+    const CountCalls loads(FindModule("umbra.dll"), "oleaut32", "OleLoadPicturePath");
+    CHECK_FALSE(Loads("images\\no such file.gif"));
+    CHECK(loads.Calls() == 2);
+}
+
+TEST_CASE("directory and path are joined by two slashes, within the room there is")
+{
+    char out[16 + 4];
+    memset(out, '#', sizeof(out));
+    CHECK(JoinPicturePath("C:\\dir", "a.gif", out, 16));
+    CHECK(std::string(out) == "C:\\dir//a.gif");
+    CHECK(JoinPicturePath("C:\\dir", "abc.gif", out, 16)); // Fifteen characters.
+    CHECK(std::string(out) == "C:\\dir//abc.gif");
+    CHECK_FALSE(JoinPicturePath("C:\\dir", "abcd.gif", out, 16));
+    CHECK(std::string(out).empty());
+    for (size_t i = 16; i < sizeof(out); ++i)
+        CHECK(out[i] == '#');
+}
+
+TEST_CASE("a joined path longer than 255 characters gives no picture, and no second attempt")
+{
+    const InFolder folder(ProgramFolder());
+    const size_t room = 255 - ProgramFolder().size() - 2;
+    const CountCalls loads(FindModule("umbra.dll"), "oleaut32", "OleLoadPicturePath");
+    CHECK_FALSE(Loads(std::string(room, 'x')));
+    CHECK(loads.Calls() == 2);
+    CHECK_FALSE(Loads(std::string(room + 1, 'x')));
+    CHECK(loads.Calls() == 3);
+}
+
+TEST_CASE("no path, an empty one, a huge one, a folder and a missing file give no picture")
+{
+    CHECK(LoadPictureBitmap(NULL) == NULL);
+    CHECK_FALSE(Loads(""));
+    CHECK_FALSE(Loads(std::string(10000, 'p')));
+    CHECK_FALSE(Loads(ProgramFolder()));
+    CHECK_FALSE(Loads(ProgramFolder() + "\\"));
+    CHECK_FALSE(Loads(ImagePath("Missing.gif")));
+}
+
+TEST_CASE("a null path does not even try")
+{
+    const CountCalls loads(FindModule("umbra.dll"), "oleaut32", "OleLoadPicturePath");
+    CHECK(LoadPictureBitmap(NULL) == NULL);
+    CHECK(loads.Calls() == 0);
+}
+
+TEST_CASE("broken files give no picture or a good one, and never more")
+{
+    const std::vector<BYTE> whole = ReadFile(ImagePath("Next.gif"));
+    REQUIRE(whole.size() > 50);
+    const std::string path = TempFile("umbra-broken.gif");
+    for (size_t length = 0; length < whole.size(); length += 7) {
+        WriteFile(path, std::vector<BYTE>(whole.begin(), whole.begin() + length));
+        Loads(path); // Checks what comes.
+    }
+    const char text[] = "This is no picture, whatever its name says.";
+    WriteFile(path, std::vector<BYTE>(text, text + sizeof(text)));
+    CHECK_FALSE(Loads(path));
+    WriteFile(path, {});
+    CHECK_FALSE(Loads(path));
+    ::DeleteFileA(path.c_str());
+}
+
+TEST_CASE("a picture of one pixel loads")
+{
+    const std::string path = TempFile("umbra-one.bmp");
+    WriteFile(path, MakeBmp(1, 1, RGB(10, 20, 30), 1));
+    const HBITMAP bitmap = LoadPictureBitmap(path.c_str());
+    REQUIRE(bitmap != NULL);
+    CHECK(SizeOf(bitmap) == CSize(1, 1));
+    CHECK(Picture::OfBitmap(bitmap).At(0, 0) == RGB(10, 20, 30));
+    ::DeleteObject(bitmap);
+    ::DeleteFileA(path.c_str());
+}
+
+TEST_CASE("a picture of 10,000 by 10,000 pixels gives no picture or a good one")
+{
+    const std::string path = TempFile("umbra-huge.bmp");
+    WriteFile(path, MakeBmp(10000, 10000, RGB(10, 20, 30), 2));
+    const HBITMAP bitmap = LoadPictureBitmap(path.c_str());
+    if (bitmap != NULL) {
+        CHECK(SizeOf(bitmap) == CSize(10000, 10000));
+        ::DeleteObject(bitmap);
+    }
+    ::DeleteFileA(path.c_str());
+}
+
+TEST_CASE("an icon gives no picture")
+{
+    // One image of 16 x 16 pixels in two colours.
+    std::vector<BYTE> icon = {0, 0, 1, 0, 1, 0, 16, 16, 2, 0, 1, 0, 1, 0, 176, 0, 0, 0, 22, 0, 0, 0};
+    BITMAPINFOHEADER info = {};
+    info.biSize = sizeof(info);
+    info.biWidth = 16;
+    info.biHeight = 32;
+    info.biPlanes = 1;
+    info.biBitCount = 1;
+    const BYTE* header = reinterpret_cast<const BYTE*>(&info);
+    icon.insert(icon.end(), header, header + sizeof(info));
+    icon.insert(icon.end(), {0, 0, 0, 0, 255, 255, 255, 0});
+    icon.resize(icon.size() + 128, 0x55);
+    const std::string path = TempFile("umbra-icon.ico");
+    WriteFile(path, icon);
+    CHECK_FALSE(Loads(path));
+    ::DeleteFileA(path.c_str());
+}
+
+TEST_CASE("the bitmap outlives the picture object and is no copy in name only")
+{
+    const std::string path = TempFile("umbra-copy.bmp");
+    WriteFile(path, MakeBmp(40, 30, RGB(200, 100, 50), 30));
+    std::vector<HBITMAP> bitmaps;
+    for (int i = 0; i < 8; ++i) {
+        bitmaps.push_back(LoadPictureBitmap(path.c_str()));
+        REQUIRE(bitmaps.back() != NULL);
+    }
+    ::DeleteFileA(path.c_str());
+    for (const HBITMAP bitmap : bitmaps) {
+        const Picture picture = Picture::OfBitmap(bitmap);
+        CHECK(picture.CountOf(RGB(200, 100, 50)) == 40 * 30);
+    }
+    for (const HBITMAP bitmap : bitmaps)
+        CHECK(::DeleteObject(bitmap));
+}
+
+TEST_CASE("no road leaves a graphics object behind")
+{
+    Loads(ImagePath("Next.gif"));
+    const BalancedGdi objects;
+    for (int i = 0; i < 50; ++i) {
+        Loads(ImagePath("Next.gif"));
+        Loads(ImagePath("Missing.gif"));
+    }
+    CHECK_MESSAGE(objects.IsBalanced(), objects.Describe());
+}
+
+TEST_CASE("a failed copy gives no picture and leaves nothing behind")
+{
+    Loads(ImagePath("Next.gif"));
+    const BalancedGdi objects;
+    {
+        const FailAlways copy(FindModule("umbra.dll"), "user32", "CopyImage");
+        REQUIRE(copy.IsInstalled());
+        CHECK_FALSE(Loads(ImagePath("Next.gif")));
+        CHECK(copy.Failed() > 0);
+    }
+    CHECK_MESSAGE(objects.IsBalanced(), objects.Describe());
+}
+
+TEST_CASE("a path that cannot be converted gives no picture")
+{
+    const FailAlways conversion(FindModule("umbra.dll"), "kernel32", "MultiByteToWideChar");
+    REQUIRE(conversion.IsInstalled());
+    CHECK_FALSE(Loads(ImagePath("Next.gif")));
+}
