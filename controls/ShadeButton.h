@@ -10,6 +10,7 @@
 #pragma once
 
 #include "PaletteDib.h"
+#include "ShadeStyle.h"
 
 #include <afxcmn.h>
 #include <afxwin.h>
