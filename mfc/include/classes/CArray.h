@@ -103,7 +103,9 @@ void ArrayBase<TYPE, ARG_TYPE>::SetSize(INT_PTR nNewSize, INT_PTR nGrowBy)
 template <class TYPE, class ARG_TYPE>
 void ArrayBase<TYPE, ARG_TYPE>::FreeExtra()
 {
-    if (m_nSize < m_nCapacity)
+    if (m_nSize == 0)
+        FreeAll();
+    else if (m_nSize < m_nCapacity)
         Reallocate(m_nSize);
 }
 
@@ -196,17 +198,13 @@ void ArrayBase<TYPE, ARG_TYPE>::Reallocate(INT_PTR capacity)
 {
     if (capacity > PTRDIFF_MAX / static_cast<INT_PTR>(sizeof(TYPE)))
         AfxThrowMemoryException();
-    TYPE* block = nullptr;
-    if (capacity > 0) {
-        const std::align_val_t alignment{alignof(TYPE)};
-        block =
-            static_cast<TYPE*>(::operator new(capacity * sizeof(TYPE), alignment, std::nothrow));
-        if (block == nullptr)
-            AfxThrowMemoryException();
-    }
-    Relocate(block, m_pData, m_nSize);
-    ::operator delete (m_pData, std::align_val_t{alignof(TYPE)});
-    m_pData = block;
+    void* block = ::operator new(static_cast<size_t>(capacity) * sizeof(TYPE),
+                                 std::align_val_t{alignof(TYPE)}, std::nothrow);
+    if (block == nullptr)
+        AfxThrowMemoryException();
+    Relocate(static_cast<TYPE*>(block), m_pData, m_nSize);
+    ::operator delete(m_pData, std::align_val_t{alignof(TYPE)});
+    m_pData = static_cast<TYPE*>(block);
     m_nCapacity = capacity;
 }
 
@@ -232,7 +230,9 @@ void ArrayBase<TYPE, ARG_TYPE>::FreeAll()
         --m_nSize;
         m_pData[m_nSize].~TYPE();
     }
-    Reallocate(0);
+    ::operator delete(m_pData, std::align_val_t{alignof(TYPE)});
+    m_pData = nullptr;
+    m_nCapacity = 0;
 }
 
 /// Moves elements to raw memory, which may overlap their old place.
