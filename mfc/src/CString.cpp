@@ -161,6 +161,14 @@ std::string_view ViewOf(const CString& string)
     return {string.GetString(), static_cast<size_t>(string.GetLength())};
 }
 
+/// Whether the C library's code page is one of those whose characters may have two bytes.
+bool HasDoubleBytes()
+{
+    const int codePage = _getmbcp();
+    return codePage == 932 || codePage == 936 || codePage == 949 || codePage == 950 ||
+           codePage == 1361;
+}
+
 /// Bytes of the character at the start of the text.
 int CharacterBytes(std::string_view text)
 {
@@ -208,7 +216,7 @@ int FindText(std::string_view text, std::string_view needle, int start)
 {
     if (start < 0 || static_cast<size_t>(start) > text.size())
         return -1;
-    if (_getmbcp() == 0 || needle.empty()) {
+    if (!HasDoubleBytes() || needle.empty()) {
         const size_t found = text.find(needle, start);
         return found == std::string_view::npos ? -1 : static_cast<int>(found);
     }
@@ -254,7 +262,7 @@ int LengthWithoutTail(std::string_view text, Predicate accepts)
 void ChangeCase(char* text, int length, unsigned (*change)(unsigned),
                 DWORD(WINAPI* changeBytes)(LPSTR, DWORD))
 {
-    if (_getmbcp() == 0) {
+    if (!HasDoubleBytes()) {
         changeBytes(text, length);
         return;
     }
