@@ -5,7 +5,6 @@
 
 #include <afxres.h>
 
-#include "MessageFilter.h"
 #include "MessageMap.h"
 #include "ModuleState.h"
 #include "ThreadState.h"
@@ -167,7 +166,15 @@ BOOL CWinThread::PreTranslateMessage(MSG* pMsg)
     if (pMsg->hwnd == NULL)
         return afxint::DispatchThreadMessage(this, GetMessageMap(), *pMsg);
     CWnd* mainWindow = GetMainWnd();
-    return afxint::PreTranslateUpTo(mainWindow == NULL ? NULL : mainWindow->m_hWnd, pMsg);
+    const HWND last = mainWindow == NULL ? NULL : mainWindow->m_hWnd;
+    for (HWND window = pMsg->hwnd; window != NULL; window = ::GetParent(window)) {
+        CWnd* object = CWnd::FromHandlePermanent(window);
+        if (object != NULL && object->PreTranslateMessage(pMsg))
+            return TRUE;
+        if (window == last)
+            break;
+    }
+    return FALSE;
 }
 
 BOOL CWinThread::PumpMessage()

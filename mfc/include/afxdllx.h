@@ -1,0 +1,3 @@
+// What the source with DllMain of an extension DLL includes.
+#pragma once
+#include <afxwin.h>

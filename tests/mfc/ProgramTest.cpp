@@ -1,0 +1,191 @@
+// A program as the wizard leaves it, started as a process and driven from outside.
+#include <afxwin.h>
+
+#include <doctest/doctest.h>
+
+#include "MessageBoxText.h"
+#include "programs/Wizard/resource.h"
+
+#include <functional>
+#include <string>
+
+namespace {
+
+constexpr char settingsKey[] = "Software\\Umbra Wizard Test";
+
+bool WaitFor(const std::function<bool()>& predicate)
+{
+    for (const DWORD end = ::GetTickCount() + 8000; ::GetTickCount() < end; ::Sleep(10)) {
+        if (predicate())
+            return true;
+    }
+    return false;
+}
+
+/// The wizard's program, which runs with settings of its own.
+class Program
+{
+public:
+    Program()
+    {
+        char path[MAX_PATH];
+        ::GetModuleFileNameA(nullptr, path, MAX_PATH);
+        ::PathRemoveFileSpecA(path);
+        ::PathAppendA(path, "mfc-test-wizard.exe");
+        STARTUPINFOA startup{};
+        startup.cb = sizeof(startup);
+        REQUIRE(::CreateProcessA(path, nullptr, nullptr, nullptr, FALSE, 0, nullptr, nullptr,
+                                 &startup, &process_));
+        window = Find("Wizard");
+        REQUIRE(window != nullptr);
+    }
+    ~Program()
+    {
+        if (::WaitForSingleObject(process_.hProcess, 0) == WAIT_TIMEOUT)
+            ::TerminateProcess(process_.hProcess, 99);
+        ::CloseHandle(process_.hProcess);
+        ::CloseHandle(process_.hThread);
+    }
+    Program(const Program&) = delete;
+    Program& operator=(const Program&) = delete;
+
+    /// Waits for a visible dialog of the program.
+    HWND Find(const char* title)
+    {
+        HWND found = nullptr;
+        WaitFor([&] {
+            for (HWND at = nullptr; (at = ::FindWindowExA(nullptr, at, "#32770", title));) {
+                DWORD process = 0;
+                ::GetWindowThreadProcessId(at, &process);
+                if (process == process_.dwProcessId && at != window && ::IsWindowVisible(at)) {
+                    found = at;
+                    return true;
+                }
+            }
+            return false;
+        });
+        return found;
+    }
+    DWORD ExitCode()
+    {
+        DWORD code = STILL_ACTIVE;
+        if (::WaitForSingleObject(process_.hProcess, 8000) == WAIT_OBJECT_0)
+            ::GetExitCodeProcess(process_.hProcess, &code);
+        return code;
+    }
+
+    void SetText(int id, const char* text)
+    {
+        ::SendDlgItemMessageA(window, id, WM_SETTEXT, 0, reinterpret_cast<LPARAM>(text));
+    }
+    std::string Text(int id)
+    {
+        char text[200] = "";
+        ::SendDlgItemMessageA(window, id, WM_GETTEXT, sizeof(text), reinterpret_cast<LPARAM>(text));
+        return text;
+    }
+    LRESULT Click(int id) { return ::SendDlgItemMessageA(window, id, BM_CLICK, 0, 0); }
+    /// For buttons that lead to a box, which keeps their click waiting.
+    void PostClick(int id) { ::PostMessageA(::GetDlgItem(window, id), BM_CLICK, 0, 0); }
+
+    HWND window = nullptr;
+
+private:
+    PROCESS_INFORMATION process_{};
+};
+
+struct CleanSettings
+{
+    CleanSettings() { ::SHDeleteKeyA(HKEY_CURRENT_USER, settingsKey); }
+    ~CleanSettings() { ::SHDeleteKeyA(HKEY_CURRENT_USER, settingsKey); }
+};
+
+} // namespace
+
+TEST_CASE("a wizard's program shows its data, runs its handlers and keeps its settings")
+{
+    const CleanSettings settings;
+    {
+        Program program;
+        CHECK(program.Text(IDC_NAME) == "World");
+        CHECK(program.Text(IDC_COUNT) == "1");
+        program.Click(IDC_GREET);
+        CHECK(program.Text(IDC_RESULT) == "Hello World");
+        program.SetText(IDC_NAME, "Umbra");
+        program.SetText(IDC_COUNT, "2");
+        program.Click(IDC_LOUD);
+        program.Click(IDC_GREET);
+        CHECK(program.Text(IDC_RESULT) == "HELLO HELLO UMBRA");
+        program.PostClick(IDOK);
+        CHECK(program.ExitCode() == 40 + IDOK);
+    }
+    DWORD count = 0;
+    DWORD size = sizeof(count);
+    CHECK(::SHGetValueA(HKEY_CURRENT_USER,
+                        (settingsKey + std::string("\\mfc-test-wizard\\Greeting")).c_str(), "Count",
+                        nullptr, &count, &size)
+          == ERROR_SUCCESS);
+    CHECK(count == 2);
+    Program again;
+    CHECK(again.Text(IDC_NAME) == "Umbra");
+    CHECK(again.Text(IDC_COUNT) == "2");
+}
+
+TEST_CASE("the wizard's program refuses wrong data and stays open")
+{
+    const CleanSettings settings;
+    Program program;
+    const auto complaintAbout = [&](const char* count) {
+        program.SetText(IDC_COUNT, count);
+        program.PostClick(IDOK);
+        const HWND box = program.Find("mfc-test-wizard");
+        REQUIRE(box != nullptr);
+        const std::string text = MessageBoxText(box);
+        CHECK_FALSE(::IsWindowEnabled(program.window));
+        ::PostMessage(box, WM_COMMAND, IDOK, 0);
+        CHECK(WaitFor([&] { return !::IsWindow(box); }));
+        CHECK(WaitFor([&] { return ::IsWindowEnabled(program.window) != FALSE; }));
+        return text;
+    };
+    CHECK(complaintAbout("two") == "Please enter a whole number.");
+    CHECK(complaintAbout("4") == "Please enter a whole number from 1 to 3.");
+    CHECK(::SendDlgItemMessage(program.window, IDC_COUNT, EM_GETSEL, 0, 0) == MAKELRESULT(0, 1));
+    CHECK(::SendDlgItemMessage(program.window, IDC_NAME, EM_GETLIMITTEXT, 0, 0) == 20);
+    ::PostMessage(program.window, WM_COMMAND, IDCANCEL, 0);
+    CHECK(program.ExitCode() == 40 + IDCANCEL);
+}
+
+TEST_CASE("the system menu of the wizard's program opens the about box, which is modal")
+{
+    const CleanSettings settings;
+    Program program;
+    const HMENU menu = ::GetSystemMenu(program.window, FALSE);
+    CHECK(::GetMenuState(menu, IDM_ABOUTBOX, MF_BYCOMMAND) != UINT(-1));
+    ::PostMessage(program.window, WM_SYSCOMMAND, IDM_ABOUTBOX, 0);
+    const HWND about = program.Find("About Wizard");
+    REQUIRE(about != nullptr);
+    CHECK(::GetWindow(about, GW_OWNER) == program.window);
+    CHECK_FALSE(::IsWindowEnabled(program.window));
+    ::PostMessage(about, WM_COMMAND, IDOK, 0);
+    CHECK(WaitFor([&] { return !::IsWindow(about); }));
+    CHECK(WaitFor([&] { return ::IsWindowEnabled(program.window) != FALSE; }));
+
+    ::PostMessage(program.window, WM_SYSCOMMAND, SC_CLOSE, 0);
+    CHECK(program.ExitCode() == 40 + IDCANCEL);
+}
+
+TEST_CASE("the wizard's program paints itself as an icon and gives its icon for dragging")
+{
+    const CleanSettings settings;
+    Program program;
+    CHECK(::SendMessage(program.window, WM_QUERYDRAGICON, 0, 0) != 0);
+    CHECK(::SendMessage(program.window, WM_GETICON, ICON_BIG, 0)
+          == ::SendMessage(program.window, WM_QUERYDRAGICON, 0, 0));
+    ::ShowWindow(program.window, SW_MINIMIZE);
+    CHECK(WaitFor([&] { return ::IsIconic(program.window) != FALSE; }));
+    ::SendMessage(program.window, WM_PAINT, 0, 0);
+    ::ShowWindow(program.window, SW_RESTORE);
+    CHECK(WaitFor([&] { return ::IsIconic(program.window) == FALSE; }));
+    ::PostMessage(program.window, WM_COMMAND, IDCANCEL, 0);
+    CHECK(program.ExitCode() == 40 + IDCANCEL);
+}

@@ -1,0 +1,58 @@
+// The debug form of the macros, whatever the test program itself is built as.
+#include <afxwin.h>
+
+#include <doctest/doctest.h>
+
+#include <string>
+
+namespace {
+
+/// What a TRACE call hands to the debugger. The system raises this exception for each line.
+std::string lastLine;
+
+LONG CALLBACK CatchLine(EXCEPTION_POINTERS* exception)
+{
+    constexpr DWORD debugText = 0x40010006; // DBG_PRINTEXCEPTION_C: length and address follow.
+    const EXCEPTION_RECORD& record = *exception->ExceptionRecord;
+    if (record.ExceptionCode != debugText || record.NumberParameters < 2)
+        return EXCEPTION_CONTINUE_SEARCH;
+    lastLine = reinterpret_cast<const char*>(record.ExceptionInformation[1]);
+    return EXCEPTION_CONTINUE_EXECUTION;
+}
+
+template <class... Arguments>
+std::string TextOf(const Arguments&... arguments)
+{
+    void* handler = ::AddVectoredExceptionHandler(1, &CatchLine);
+    lastLine.clear();
+    afxint::Trace(arguments...);
+    ::RemoveVectoredExceptionHandler(handler);
+    return lastLine;
+}
+
+} // namespace
+
+TEST_CASE("a traced line carries its values")
+{
+    CHECK(TextOf("%d and %s\n", 5, "five") == "5 and five\n");
+}
+
+TEST_CASE("a string object can be traced as it stands")
+{
+    const CString name = "object";
+    CHECK(TextOf("%s %d", name, 7) == "object 7");
+    CHECK(TextOf("%s", name + "s") == "objects");
+}
+
+TEST_CASE("a category and a level may come first")
+{
+    CHECK(TextOf(traceAppMsg, 0, "%d", 3) == "3");
+}
+
+TEST_CASE("a line that is too long is cut")
+{
+    const CString longText('x', 5000);
+    const std::string line = TextOf("%s", longText);
+    CHECK(line.size() == 1023);
+    CHECK(line.find_first_not_of('x') == std::string::npos);
+}

@@ -1,0 +1,46 @@
+// An extension DLL as programs have them: it enters the search for resources when it is loaded.
+#include <afxwin.h>
+#include <afxdllx.h>
+
+class CExtensionObject : public CCmdTarget
+{
+    DECLARE_DYNCREATE(CExtensionObject)
+};
+IMPLEMENT_DYNCREATE(CExtensionObject, CCmdTarget)
+
+static AFX_EXTENSION_MODULE extensionDLL = {FALSE, NULL};
+
+extern "C" int APIENTRY DllMain(HINSTANCE hInstance, DWORD dwReason, LPVOID)
+{
+    if (dwReason == DLL_PROCESS_ATTACH) {
+        if (!AfxInitExtensionModule(extensionDLL, hInstance))
+            return 0;
+        new CDynLinkLibrary(extensionDLL);
+    } else if (dwReason == DLL_PROCESS_DETACH) {
+        AfxTermExtensionModule(extensionDLL);
+    }
+    return 1;
+}
+
+extern "C" __declspec(dllexport) void WINAPI AskForProgram(CWinApp** app, HINSTANCE* instance)
+{
+    AFX_MANAGE_STATE(AfxGetStaticModuleState());
+    *app = AfxGetApp();
+    *instance = AfxGetInstanceHandle();
+}
+
+extern "C" __declspec(dllexport) bool WINAPI CallAndCatch(void (*function)())
+{
+    try {
+        function();
+    } catch (CUserException* e) {
+        e->Delete();
+        return true;
+    }
+    return false;
+}
+
+extern "C" __declspec(dllexport) void WINAPI ThrowUser()
+{
+    throw new CUserException;
+}

@@ -1,0 +1,10 @@
+#define IDM_ABOUTBOX                    0x0010
+#define IDD_ABOUTBOX                    100
+#define IDS_ABOUTBOX                    101
+#define IDD_WIZARD_DIALOG               102
+#define IDR_MAINFRAME                   128
+#define IDC_NAME                        1000
+#define IDC_COUNT                       1001
+#define IDC_GREET                       1002
+#define IDC_RESULT                      1003
+#define IDC_LOUD                        1004
