@@ -1,0 +1,148 @@
+#include "GalleryPage.h"
+
+#include "Images.h"
+
+BEGIN_MESSAGE_MAP(CGalleryPage, CBaseDialog)
+    ON_WM_ERASEBKGND()
+    ON_WM_CTLCOLOR()
+END_MESSAGE_MAP()
+
+namespace {
+
+// The background strip, in pixels, and how its last row goes on.
+const int stripWidth = 72;
+const int stripHeight = 367;
+const COLORREF stripFoot = RGB(37, 48, 72);
+const COLORREF stripFootEdge = RGB(32, 42, 65);
+
+// The line under the head of a page, in dialog units.
+const int ruleLeft = 58;
+const int ruleTop = 47;
+const int ruleWidth = 362;
+
+} // namespace
+
+CGalleryPage::CGalleryPage(UINT templateId, CWnd* parent)
+    : CBaseDialog(templateId, parent, false, false, true, false, false, true, false, true)
+{
+    Prepare();
+}
+
+CGalleryPage::CGalleryPage(UINT templateId, CWnd* parent, bool confirm, bool ok, bool cancel,
+                           bool next, bool back, bool closeCaption, bool proceedCaption,
+                           bool cancelIcon)
+    : CBaseDialog(templateId, parent, confirm, ok, cancel, next, back, closeCaption,
+                  proceedCaption, cancelIcon)
+{
+    Prepare();
+}
+
+BOOL CGalleryPage::OnInitDialog()
+{
+    CBaseDialog::OnInitDialog();
+    const HICON icon = AfxGetApp()->LoadIcon(IDI_GALLERY);
+    SetIcon(icon, TRUE);
+    SetIcon(icon, FALSE);
+
+    LOGFONT description = {};
+    GetFont()->GetLogFont(&description);
+    description.lfHeight = description.lfHeight * 3 / 2;
+    description.lfWeight = FW_BOLD;
+    m_titleFont.CreateFontIndirect(&description);
+    m_title.SetFont(&m_titleFont);
+    m_title.SetLabelTextColor(palette::title);
+    m_intro.SetLabelTextColor(palette::muted);
+    m_footnote.SetLabelTextColor(palette::muted);
+    if (!HasImages()) {
+        m_footnote.SetLabelTextColor(palette::ember);
+        SetLabelText(m_footnote, "The image folder " + ImageFolder() +
+                                     " is missing: pictures and icons are left out.");
+    }
+    return TRUE;
+}
+
+void CGalleryPage::DoDataExchange(CDataExchange* pDX)
+{
+    CBaseDialog::DoDataExchange(pDX);
+    DDX_Control(pDX, IDC_TITLE, m_title);
+    DDX_Control(pDX, IDC_INTRO, m_intro);
+    DDX_Control(pDX, IDC_FOOTNOTE, m_footnote);
+}
+
+void CGalleryPage::OnOK()
+{
+    if (m_bConfirm || m_bNext)
+        CBaseDialog::OnOK();
+}
+
+void CGalleryPage::DrawBackdrop(CDC& dc)
+{
+    const CRect rule = Pixels(ruleLeft, ruleTop, ruleWidth, 0);
+    dc.FillSolidRect(rule.left, rule.top, rule.Width(), 1, palette::line);
+}
+
+void CGalleryPage::SetLabelText(CWnd& label, const CString& text)
+{
+    CString before;
+    label.GetWindowText(before);
+    if (text == before)
+        return;
+    label.SetWindowText(text);
+    InvalidateRect(PlaceOf(label), TRUE);
+}
+
+CRect CGalleryPage::PlaceOf(const CWnd& control) const
+{
+    CRect place;
+    control.GetWindowRect(&place);
+    ScreenToClient(&place);
+    return place;
+}
+
+CRect CGalleryPage::PlaceOf(int controlId) const
+{
+    return PlaceOf(*GetDlgItem(controlId));
+}
+
+CRect CGalleryPage::Pixels(int x, int y, int width, int height)
+{
+    CRect place(x, y, x + width, y + height);
+    MapDialogRect(&place);
+    return place;
+}
+
+BOOL CGalleryPage::OnEraseBkgnd(CDC* pDC)
+{
+    const BOOL answer = CBaseDialog::OnEraseBkgnd(pDC);
+    DrawStripFoot(*pDC);
+    DrawBackdrop(*pDC);
+    return answer;
+}
+
+HBRUSH CGalleryPage::OnCtlColor(CDC* pDC, CWnd* pWnd, UINT nCtlColor)
+{
+    const HBRUSH brush = CBaseDialog::OnCtlColor(pDC, pWnd, nCtlColor);
+    if (nCtlColor != CTLCOLOR_STATIC && nCtlColor != CTLCOLOR_BTN)
+        return brush;
+    pDC->SetBkColor(palette::page);
+    pDC->SetTextColor(palette::text);
+    return m_pageBrush;
+}
+
+void CGalleryPage::Prepare()
+{
+    m_bSolidFill = TRUE;
+    m_crFill = palette::page;
+    m_pageBrush.CreateSolidBrush(palette::page);
+}
+
+void CGalleryPage::DrawStripFoot(CDC& dc)
+{
+    CRect client;
+    GetClientRect(&client);
+    const int height = client.Height() - stripHeight;
+    if (height <= 0)
+        return;
+    dc.FillSolidRect(0, stripHeight, stripWidth - 1, height, stripFoot);
+    dc.FillSolidRect(stripWidth - 1, stripHeight, 1, height, stripFootEdge);
+}

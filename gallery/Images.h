@@ -1,0 +1,16 @@
+// Where the program's picture files are: in the folder images beside it.
+#pragma once
+
+#include <umbra.h>
+
+/// The folder of the program file, with a backslash at its end.
+CString ProgramFolder();
+
+/// The toolkit's image folder, with a backslash at its end.
+CString ImageFolder();
+
+/// Whether the picture files can be had.
+bool HasImages();
+
+/// The full path of a picture file, "badge.gif".
+CString PictureFile(const char* fileName);

@@ -1,0 +1,190 @@
+#include "SampleDialog.h"
+
+#include "GalleryPage.h"
+#include "Images.h"
+
+#include <vector>
+
+BEGIN_MESSAGE_MAP(CSampleDialog, CDialogTS)
+    ON_BN_CLICKED(IDC_SAMPLE_COLOUR, &CSampleDialog::OnNextColour)
+END_MESSAGE_MAP()
+
+namespace {
+
+const char* const titles[] = {"Plain dialog", "Solid fill", "Bitmap with a caption line", "Shape"};
+const char* const texts[] = {
+    "A dialog with every mode off: the system erases it.",
+    "The client area is filled with one colour, and with another one at a press of the button.",
+    "A bitmap is the background, and the window text is its caption line. It is neither "
+    "stretched nor tiled.",
+    "An image seen through a mask.",
+};
+
+const COLORREF fills[] = {RGB(214, 226, 242), RGB(246, 236, 214), RGB(220, 236, 222),
+                          RGB(236, 224, 238)};
+
+// Places on the two pictures, in pixels.
+const RECT textOnBitmap = {24, 48, 300, 120};
+const RECT closeOnBitmap = {24, 206, 124, 234};
+const RECT textOnShape = {244, 68, 336, 112};
+const RECT closeOnShape = {244, 136, 324, 162};
+
+CSize SizeOf(HBITMAP bitmap)
+{
+    BITMAP record = {};
+    ::GetObject(bitmap, sizeof record, &record);
+    return CSize(record.bmWidth, record.bmHeight);
+}
+
+// The pixels of a bitmap, rows from the top, without the fourth byte.
+std::vector<DWORD> PixelsOf(HBITMAP bitmap, CSize size)
+{
+    BITMAPINFO info = {};
+    info.bmiHeader.biSize = sizeof info.bmiHeader;
+    info.bmiHeader.biWidth = size.cx;
+    info.bmiHeader.biHeight = -size.cy;
+    info.bmiHeader.biPlanes = 1;
+    info.bmiHeader.biBitCount = 32;
+    std::vector<DWORD> pixels(static_cast<size_t>(size.cx) * size.cy);
+    CClientDC screen(NULL);
+    ::GetDIBits(screen, bitmap, 0, size.cy, pixels.data(), &info, DIB_RGB_COLORS);
+    for (DWORD& pixel : pixels)
+        pixel &= 0xFFFFFF;
+    return pixels;
+}
+
+} // namespace
+
+CSampleDialog::CSampleDialog(Kind kind)
+    : CDialogTS(kind == bitmap || kind == shaped ? IDD_SAMPLE_BARE : IDD_SAMPLE_FRAMED),
+      m_kind(kind)
+{
+}
+
+CSampleDialog::~CSampleDialog()
+{
+    FreeBitmaps(); // They are ours: the dialog only lets go of them.
+    if (m_image != NULL)
+        ::DeleteObject(m_image);
+    if (m_mask != NULL)
+        ::DeleteObject(m_mask);
+}
+
+void CSampleDialog::Open(CWnd* parent, CPoint screen)
+{
+    if (GetSafeHwnd() == NULL) {
+        const bool bare = m_kind == bitmap || m_kind == shaped;
+        if (!Create(bare ? IDD_SAMPLE_BARE : IDD_SAMPLE_FRAMED, parent))
+            return;
+        SetWindowPos(NULL, screen.x, screen.y, 0, 0, SWP_NOSIZE | SWP_NOZORDER);
+    }
+    ShowWindow(SW_SHOW);
+    SetActiveWindow();
+}
+
+BOOL CSampleDialog::OnInitDialog()
+{
+    CDialogTS::OnInitDialog();
+    SetWindowText(titles[m_kind]);
+    m_text.SetWindowText(texts[m_kind]);
+    m_text.SetLabelTextColor(palette::text);
+    m_btnColour.ShowWindow(m_kind == solidFill ? SW_SHOW : SW_HIDE);
+
+    if (m_kind == solidFill) {
+        m_bSolidFill = TRUE;
+        m_crFill = fills[m_colour];
+    } else if (m_kind == bitmap) {
+        PrepareBitmap();
+    } else if (m_kind == shaped) {
+        PrepareShape();
+    }
+    for (CxShadeButton* button : {&m_btnClose, &m_btnColour})
+        button->SetShade(SHADE_DIAGONAL, 0, 0, 100, g_crShade);
+    return TRUE;
+}
+
+void CSampleDialog::DoDataExchange(CDataExchange* pDX)
+{
+    CDialogTS::DoDataExchange(pDX);
+    DDX_Control(pDX, IDC_SAMPLE_TEXT, m_text);
+    DDX_Control(pDX, IDC_SAMPLE_COLOUR, m_btnColour);
+    DDX_Control(pDX, IDCANCEL, m_btnClose);
+}
+
+void CSampleDialog::OnOK() {}
+
+void CSampleDialog::OnCancel()
+{
+    DestroyWindow();
+}
+
+void CSampleDialog::OnNextColour()
+{
+    m_colour = (m_colour + 1) % _countof(fills);
+    m_crFill = fills[m_colour];
+    Invalidate();
+}
+
+void CSampleDialog::PrepareBitmap()
+{
+    if (m_image == NULL)
+        m_image = LoadPictureBitmap(PictureFile("panel.bmp"));
+    if (m_image == NULL)
+        return;
+    SetClientSize(SizeOf(m_image));
+    m_bmpBack.Attach(m_image);
+    m_bHasBitmap = TRUE;
+    m_bCaptionText = TRUE;
+    m_text.MoveWindow(&textOnBitmap);
+    m_btnClose.MoveWindow(&closeOnBitmap);
+}
+
+void CSampleDialog::PrepareShape()
+{
+    if (m_image == NULL) {
+        m_image = LoadPictureBitmap(PictureFile("shape.bmp"));
+        m_mask = LoadPictureBitmap(PictureFile("shape-mask.bmp"));
+    }
+    if (m_image == NULL || m_mask == NULL)
+        return;
+    SetClientSize(SizeOf(m_image));
+    CutOutShape();
+    m_bmpBack.Attach(m_image);
+    m_bmpMask.Attach(m_mask);
+    m_bHasBitmap = TRUE; // So that both are let go in the end.
+    m_bShaped = TRUE;
+    m_text.MoveWindow(&textOnShape);
+    m_btnClose.MoveWindow(&closeOnShape);
+}
+
+void CSampleDialog::SetClientSize(CSize size)
+{
+    CRect window(CPoint(0, 0), size);
+    ::AdjustWindowRectEx(&window, GetStyle(), FALSE, GetExStyle());
+    SetWindowPos(NULL, 0, 0, window.Width(), window.Height(), SWP_NOMOVE | SWP_NOZORDER);
+}
+
+// Without it the window would keep what was on the screen when it was opened.
+void CSampleDialog::CutOutShape()
+{
+    const CSize size = SizeOf(m_mask);
+    const std::vector<DWORD> pixels = PixelsOf(m_mask, size);
+    CRgn shape;
+    shape.CreateRectRgn(0, 0, 0, 0);
+    for (int y = 0; y < size.cy; ++y) {
+        const DWORD* row = &pixels[static_cast<size_t>(y) * size.cx];
+        for (int x = 0; x < size.cx;) {
+            const int start = x;
+            while (x < size.cx && row[x] == 0)
+                ++x;
+            if (x > start) {
+                CRgn run;
+                run.CreateRectRgn(start, y, x, y + 1);
+                shape.CombineRgn(&shape, &run, RGN_OR);
+            }
+            while (x < size.cx && row[x] != 0)
+                ++x;
+        }
+    }
+    SetWindowRgn(static_cast<HRGN>(shape.Detach()), TRUE); // The window owns it from here on.
+}

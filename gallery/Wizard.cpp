@@ -1,0 +1,138 @@
+#include "Wizard.h"
+
+#include "Images.h"
+#include "WizardPages.h"
+
+#include <algorithm>
+
+#include <ctype.h>
+#include <string.h>
+
+namespace {
+
+const char indexName[] = "pictures.html";
+
+bool IsPicture(const CString& fileName)
+{
+    const CString extension = fileName.Mid(fileName.ReverseFind('.') + 1);
+    for (const char* known : {"bmp", "gif", "jpg", "jpeg"}) {
+        if (extension.CompareNoCase(known) == 0)
+            return true;
+    }
+    return false;
+}
+
+CString EscapeHtml(CString text)
+{
+    text.Replace("&", "&amp;");
+    text.Replace("<", "&lt;");
+    text.Replace("\"", "&quot;");
+    return text;
+}
+
+// A file name as part of an address.
+CString EscapeAddress(const CString& name)
+{
+    CString address;
+    for (int i = 0; i < name.GetLength(); ++i) {
+        const unsigned char c = static_cast<unsigned char>(name[i]);
+        if (isalnum(c) || strchr("-_.~", c) != NULL)
+            address += static_cast<char>(c);
+        else
+            address.AppendFormat("%%%02X", c);
+    }
+    return address;
+}
+
+CString IndexPage(const WizardTask& task)
+{
+    const CString heading = EscapeHtml(task.heading);
+    CString page = "<!DOCTYPE html>\r\n<html lang=\"en\">\r\n<head>\r\n"
+                   "<meta charset=\"windows-1252\">\r\n<title>" +
+                   heading +
+                   "</title>\r\n<style>\r\n"
+                   "body { font-family: sans-serif; background: #f0f3f8; color: #2b3852; }\r\n"
+                   "figure { display: inline-block; margin: 12px; vertical-align: top; }\r\n"
+                   "img { max-width: 320px; border: 1px solid #beCADB; }\r\n"
+                   "</style>\r\n</head>\r\n<body>\r\n<h1>" +
+                   heading + "</h1>\r\n";
+    for (const CString& picture : task.pictures) {
+        const CString name = EscapeHtml(picture);
+        page += "<figure><img src=\"" + EscapeAddress(picture) + "\" alt=\"" + name +
+                "\"><figcaption>" + name + "</figcaption></figure>\r\n";
+    }
+    return page + "</body>\r\n</html>\r\n";
+}
+
+// The pages in their order; each answers as DoModal does.
+INT_PTR ShowStep(int step, WizardTask& task, CWnd* parent)
+{
+    switch (step) {
+    case 0:
+        return CWizardFolderPage(task, parent).DoModal();
+    case 1:
+        return CWizardPicturesPage(task, parent).DoModal();
+    case 2:
+        return CWizardConfirmPage(task, parent).DoModal();
+    default:
+        return CWizardResultPage(task, parent).DoModal();
+    }
+}
+
+} // namespace
+
+void RunWizard(CWnd* parent)
+{
+    const int resultStep = 3;
+    WizardTask task;
+    task.folder = ImageFolder();
+    int step = 0;
+    while (step <= resultStep) {
+        const INT_PTR answer = ShowStep(step, task, parent);
+        if (answer == IDOK) {
+            ++step;
+            if (step == resultStep)
+                WriteIndex(task);
+        } else if (answer == IDC_BACK && step > 0) {
+            --step;
+        } else {
+            return;
+        }
+    }
+}
+
+std::vector<CString> FindPictures(const CString& folder)
+{
+    std::vector<CString> names;
+    CFileFind finder;
+    BOOL more = finder.FindFile(folder + "*.*");
+    while (more) {
+        more = finder.FindNextFile();
+        if (!finder.IsDirectory() && IsPicture(finder.GetFileName()))
+            names.push_back(finder.GetFileName());
+    }
+    std::sort(names.begin(), names.end(), [](const CString& a, const CString& b) {
+        return a.CompareNoCase(b) < 0;
+    });
+    return names;
+}
+
+BOOL WriteIndex(WizardTask& task)
+{
+    task.indexFile.Empty();
+    const CString path = task.folder + indexName;
+    CFile file;
+    if (!file.Open(path, CFile::modeCreate | CFile::modeWrite))
+        return FALSE;
+    try {
+        const CString page = IndexPage(task);
+        file.Write(static_cast<LPCTSTR>(page), page.GetLength());
+        file.Close();
+    } catch (CFileException* exception) {
+        exception->Delete();
+        file.Abort();
+        return FALSE;
+    }
+    task.indexFile = path;
+    return TRUE;
+}
