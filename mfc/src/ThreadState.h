@@ -12,6 +12,8 @@ class CWnd;
 
 namespace afxint {
 
+class WindowCreation;
+
 // Wrap and Unwrap of each kind stand in the source of the class.
 struct WindowTraits
 {
@@ -54,8 +56,8 @@ struct ThreadState
     CWinThread* thread = nullptr;        ///< What AfxGetThread answers; not owned.
     int handlerDepth = 0;                ///< Message handlers on the stack.
     MSG currentMessage{};                ///< The message that Default() hands on.
-    CWnd* windowInCreation = nullptr;    ///< To be attached to the next window that is created.
-    HHOOK creationHook = nullptr;        ///< Set while windowInCreation waits for its window.
+    WindowCreation* creation = nullptr;  ///< Waits for the next window that is created.
+    HMENU openedMenu = nullptr;          ///< The menu whose items may be measured next.
 
     HandleMap<WindowTraits> windows;
     HandleMap<GdiObjectTraits> gdiObjects;

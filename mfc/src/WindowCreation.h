@@ -17,14 +17,18 @@ public:
     WindowCreation(const WindowCreation&) = delete;
     WindowCreation& operator=(const WindowCreation&) = delete;
 
-    /// Stops waiting. False when no window came; the object's PostNcDestroy is then still to be
-    /// called, while after true it may have been called, and the object be gone.
-    bool Finish();
+    /// Stops waiting; `window` is what the system's function returned. False when the object has no
+    /// window and nobody has called its PostNcDestroy yet. The object may be gone otherwise.
+    bool Finish(HWND window);
 
 private:
-    CWnd* outerObject_;
-    HHOOK outerHook_;
-    bool finished_ = false;
+    static LRESULT CALLBACK OnHook(int code, WPARAM wParam, LPARAM lParam);
+    void StopWaiting();
+
+    CWnd* object_;
+    HWND window_ = NULL; ///< The window that came.
+    HHOOK hook_;
+    WindowCreation* outer_;
 };
 
 /// The dialog procedure of every dialog with an object. It leaves all to the object, which sees

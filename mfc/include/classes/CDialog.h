@@ -63,9 +63,7 @@ private:
     friend class CPropertyPage;
     friend class CPropertySheet;
 
-    BOOL CreateNamed(LPCTSTR templateName, CWnd* parent);
     BOOL CreateFromTemplate(LPCDLGTEMPLATE dialogTemplate, CWnd* parent, HINSTANCE module);
-    void ShowModal();
     /// Disables what a modal dialog covers and returns its owner; PostModal undoes it.
     HWND PreModal();
     void PostModal();
@@ -81,5 +79,5 @@ private:
     CWnd* parent_ = NULL;                  ///< The constructor's; may be NULL.
     HWND disabledTop_ = NULL;              ///< Disabled by PreModal besides the owner.
     UINT helpId_ = 0;
-    bool centred_ = false;
+    bool centred_ = false; ///< The template leaves the place open.
 };

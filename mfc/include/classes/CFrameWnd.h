@@ -5,6 +5,8 @@
 #include <classes/CString.h>
 #include <classes/CWnd.h>
 
+#include <vector>
+
 // Styles of frame windows.
 #define FWS_ADDTOTITLE 0x00008000L
 #define FWS_PREFIXTITLE 0x00004000L
@@ -52,10 +54,11 @@ public:
     /// Fills the client area with the child AFX_IDW_PANE_FIRST, if there is one.
     virtual void RecalcLayout(BOOL bNotify = TRUE);
 
-    // Disables the other windows of the program's thread that this frame owns, and enables them.
+    // Disables the frame and the windows it owns, and enables them again; the calls nest.
     void BeginModalState() override;
     void EndModalState() override;
     BOOL InModalState() const;
+    /// Hides the windows that the frame owns, or shows those again that it hid.
     void ShowOwnedWindows(BOOL bShow);
 
     BOOL PreCreateWindow(CREATESTRUCT& cs) override;
@@ -69,16 +72,18 @@ protected:
 
     afx_msg int OnCreate(LPCREATESTRUCT lpCreateStruct);
     afx_msg void OnDestroy();
-    afx_msg void OnEnable(BOOL bEnable);
     afx_msg void OnInitMenuPopup(CMenu* pPopupMenu, UINT nIndex, BOOL bSysMenu);
     afx_msg void OnSize(UINT nType, int cx, int cy);
 
     DECLARE_MESSAGE_MAP()
 
 private:
+    void StateItem(CMenu& menu, UINT index);
+
     CString title_;
     HACCEL accelerators_ = NULL;
-    HMENU menu_ = NULL; ///< The menu the frame was made with, destroyed with it.
+    HMENU menu_ = NULL; ///< The menu the frame was made with.
     int modalDepth_ = 0;
-    HWND* disabled_ = NULL; ///< Windows that BeginModalState disabled, ended by NULL.
+    std::vector<HWND> disabled_; ///< By BeginModalState.
+    std::vector<HWND> hidden_;   ///< By ShowOwnedWindows.
 };
