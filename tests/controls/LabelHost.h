@@ -1,0 +1,81 @@
+// A window over which labels are drawn, with what tests of labels need around it.
+#pragma once
+
+#include <testing/Picture.h>
+#include <testing/Pump.h>
+
+#include <afxwin.h>
+
+#include <string.h>
+#include <string>
+
+/// A visible window filled with one colour.
+class LabelHost : public CWnd
+{
+public:
+    explicit LabelHost(COLORREF background = RGB(20, 160, 60))
+    {
+        m_brush.CreateSolidBrush(background);
+        CreateEx(WS_EX_TOPMOST, AfxRegisterWndClass(0, ::LoadCursor(NULL, IDC_ARROW), m_brush), "",
+                 WS_POPUP | WS_VISIBLE | WS_CLIPCHILDREN, 40, 40, 500, 400, NULL, NULL);
+        m_font.CreateFont(-13, 0, 0, 0, FW_NORMAL, FALSE, FALSE, FALSE, ANSI_CHARSET, 0, 0, 0, 0,
+                          "Arial");
+        UpdateWindow();
+    }
+    ~LabelHost() override { DestroyWindow(); }
+
+    /// A plain static control with the host's font, to be subclassed by a label.
+    HWND AddStatic(const CRect& place, const char* text, DWORD style = SS_NOTIFY, int id = 100)
+    {
+        const HWND window =
+            ::CreateWindow("Static", text, WS_CHILD | WS_VISIBLE | style, place.left, place.top,
+                           place.Width(), place.Height(), m_hWnd,
+                           reinterpret_cast<HMENU>(static_cast<INT_PTR>(id)), NULL, NULL);
+        ::SendMessage(window, WM_SETFONT, reinterpret_cast<WPARAM>(m_font.GetSafeHandle()), FALSE);
+        return window;
+    }
+
+    /// What the screen shows of the host's client area, everything painted.
+    umbra::testing::Picture Show()
+    {
+        RedrawWindow(NULL, NULL, RDW_INVALIDATE | RDW_ERASE | RDW_UPDATENOW | RDW_ALLCHILDREN);
+        umbra::testing::PumpMessages();
+        return umbra::testing::Picture::OfWindow(m_hWnd);
+    }
+
+    CFont m_font;
+
+private:
+    CBrush m_brush;
+};
+
+inline std::string ImagePath(const char* name)
+{
+    char path[MAX_PATH] = "";
+    ::GetModuleFileNameA(NULL, path, MAX_PATH);
+    *strrchr(path, '\\') = '\0';
+    return std::string(path) + "\\images\\" + name;
+}
+
+/// Sets the default value of a class in the registry; removes the class at its end.
+class RegisteredClass
+{
+public:
+    RegisteredClass(const char* key, const std::string& value) : m_root(key)
+    {
+        m_root = m_root.substr(0, m_root.find('\\'));
+        HKEY opened;
+        if (::RegCreateKeyExA(HKEY_CLASSES_ROOT, key, 0, NULL, 0, KEY_ALL_ACCESS, NULL, &opened,
+                              NULL) != ERROR_SUCCESS)
+            return;
+        ::RegSetValueExA(opened, NULL, 0, REG_SZ, reinterpret_cast<const BYTE*>(value.c_str()),
+                         static_cast<DWORD>(value.size() + 1));
+        ::RegCloseKey(opened);
+    }
+    ~RegisteredClass() { ::RegDeleteTreeA(HKEY_CLASSES_ROOT, m_root.c_str()); }
+    RegisteredClass(const RegisteredClass&) = delete;
+    RegisteredClass& operator=(const RegisteredClass&) = delete;
+
+private:
+    std::string m_root;
+};

@@ -1,0 +1,601 @@
+#include <controls/StaticTS.h>
+
+#include "../programs/HelpProgram.h"
+#include "LabelHost.h"
+#include "ShellSpy.h"
+
+#include <dialogs/DialogUnits.h>
+#include <shell/HandCursor.h>
+#include <shell/PictureLoader.h>
+
+#include <testing/GdiObjects.h>
+#include <testing/Input.h>
+#include <testing/MessageLog.h>
+#include <testing/Picture.h>
+#include <testing/Pump.h>
+
+#include <doctest/doctest.h>
+
+#include <stdlib.h>
+
+using namespace umbra::testing;
+
+namespace {
+
+const COLORREF green = RGB(20, 160, 60); // What the host is filled with.
+const COLORREF red = RGB(200, 30, 40);
+const COLORREF blue = RGB(0, 0, 255);
+const COLORREF black = RGB(0, 0, 0);
+
+const CRect labelPlace(50, 60, 250, 100);
+
+/// A label over a control that exists already, as in a dialog template.
+struct Label
+{
+    explicit Label(const char* text, DWORD style = SS_NOTIFY, const CRect& place = labelPlace)
+    {
+        control.SubclassWindow(host.AddStatic(place, text, style));
+    }
+
+    LabelHost host;
+    CStaticTS control;
+};
+
+LONG Underline(HFONT font)
+{
+    LOGFONT description = {};
+    ::GetObject(font, sizeof(description), &description);
+    return description.lfUnderline;
+}
+
+HFONT FontOf(CWnd& window)
+{
+    return reinterpret_cast<HFONT>(window.SendMessage(WM_GETFONT));
+}
+
+LOGFONT DescribeFont(CWnd& window)
+{
+    LOGFONT description = {};
+    ::GetObject(FontOf(window), sizeof(description), &description);
+    return description;
+}
+
+/// A 24-bit BMP file of `width` by `height` pixels; the left half black, the right half red.
+std::string WriteHalfBlackBmp(const char* name, int width, int height)
+{
+    char folder[MAX_PATH];
+    ::GetTempPathA(MAX_PATH, folder);
+    const std::string path = std::string(folder) + name;
+    const int stride = (width * 3 + 3) / 4 * 4;
+    BITMAPFILEHEADER file = {};
+    BITMAPINFOHEADER info = {};
+    file.bfType = 0x4D42;
+    file.bfOffBits = sizeof(file) + sizeof(info);
+    file.bfSize = file.bfOffBits + stride * height;
+    info.biSize = sizeof(info);
+    info.biWidth = width;
+    info.biHeight = height;
+    info.biPlanes = 1;
+    info.biBitCount = 24;
+    std::vector<BYTE> rows(static_cast<size_t>(stride) * height);
+    for (int y = 0; y < height; ++y) {
+        for (int x = width / 2; x < width; ++x) {
+            BYTE* pixel = rows.data() + y * stride + x * 3;
+            pixel[0] = GetBValue(red);
+            pixel[1] = GetGValue(red);
+            pixel[2] = GetRValue(red);
+        }
+    }
+    FILE* out = fopen(path.c_str(), "wb");
+    fwrite(&file, sizeof(file), 1, out);
+    fwrite(&info, sizeof(info), 1, out);
+    fwrite(rows.data(), 1, rows.size(), out);
+    fclose(out);
+    return path;
+}
+
+/// The host as it looks without any label text in the given colour: how many pixels have it.
+int CountIn(const Picture& picture, COLORREF color, const CRect& area)
+{
+    return picture.Crop(area).CountOf(color);
+}
+
+} // namespace
+
+TEST_CASE("a new label is plain: black centred text, no link, no picture, no colours of its own")
+{
+    const CStaticTS label;
+    CHECK(label.m_strLinkTarget.IsEmpty());
+    CHECK_FALSE(label.m_bTransparent);
+    CHECK_FALSE(label.m_bHasPicture);
+    CHECK_FALSE(label.m_bEmbossed);
+    CHECK(label.m_bOwnFont == 1);
+    CHECK(label.m_bStyleAlign == 1);
+    CHECK(label.m_crText == RGB(0, 0, 0));
+    CHECK(label.m_crBack == 0xFFFFFFFF);
+    CHECK(label.m_crTransparent == 0xFFFFFFFF);
+    CHECK(label.m_brBack.GetSafeHandle() == NULL);
+    CHECK(label.m_bmpPicture.GetSafeHandle() == NULL);
+    CHECK(label.m_bmpMask.GetSafeHandle() == NULL);
+    CHECK(label.m_nTextFormat == 1);
+    CHECK_FALSE(label.m_bLink);
+    CHECK_FALSE(label.m_bUseLinkTarget);
+}
+
+TEST_CASE("text is drawn in its colour over what the parent drew")
+{
+    Label label("Hello there");
+    label.control.SetLabelTextColor(red);
+    const Picture shown = label.host.Show();
+    CHECK(CountIn(shown, red, labelPlace) > 20);
+    CHECK(CountIn(shown, green, labelPlace) > labelPlace.Width() * labelPlace.Height() / 2);
+    CHECK(CountIn(shown, red, CRect(0, 0, 500, 400)) == CountIn(shown, red, labelPlace));
+}
+
+TEST_CASE("an empty label paints nothing")
+{
+    Label label("");
+    const Picture shown = label.host.Show();
+    CHECK(shown.CountOf(green) == shown.Width() * shown.Height());
+}
+
+TEST_CASE("text starts one pixel right of and below the label's corner")
+{
+    // A letter without side bearing trouble: the same text drawn by hand where it is expected.
+    Label label("Left text", SS_NOTIFY | SS_LEFT);
+    label.control.SetLabelTextColor(red);
+    const Picture shown = label.host.Show();
+
+    CClientDC dc(&label.host);
+    label.control.ShowWindow(SW_HIDE);
+    label.host.Show();
+    CFont* former = dc.SelectObject(&label.host.m_font);
+    dc.SetBkMode(TRANSPARENT);
+    dc.SetTextColor(red);
+    CRect area = labelPlace;
+    area.OffsetRect(1, 1);
+    dc.DrawText("Left text", -1, &area, DT_LEFT | DT_WORDBREAK);
+    dc.SelectObject(former);
+    CHECK(Picture::OfWindow(label.host.m_hWnd).Compare(shown) == "the same");
+}
+
+TEST_CASE("the alignment follows the style, bit by bit")
+{
+    struct Case
+    {
+        DWORD style;
+        UINT format;
+    };
+    for (const Case& expected : {Case{SS_LEFT, DT_LEFT}, Case{SS_CENTER, DT_CENTER},
+                                 Case{SS_RIGHT, DT_RIGHT}, Case{SS_ICON, DT_CENTER},
+                                 Case{0xE, DT_RIGHT}, Case{SS_LEFTNOWORDWRAP, DT_LEFT}}) {
+        CAPTURE(expected.style);
+        Label label("Text", SS_NOTIFY);
+        label.control.ModifyStyle(SS_TYPEMASK, expected.style);
+        label.control.SetWindowText("Text");
+        label.host.Show();
+        CString text;
+        label.control.GetWindowText(text);
+        if (text.IsEmpty())
+            continue; // The system's own icon control keeps no text.
+        CHECK(label.control.m_nTextFormat == expected.format);
+    }
+}
+
+TEST_CASE("left, centred and right text stand at their sides")
+{
+    const auto bounds = [](DWORD style) {
+        Label label("Text", SS_NOTIFY | style);
+        const Picture shown = label.host.Show();
+        return CRect(shown.BoundsOfOthers(green));
+    };
+    const CRect left = bounds(SS_LEFT), centre = bounds(SS_CENTER), right = bounds(SS_RIGHT);
+    CHECK(left.left - labelPlace.left < 6);
+    CHECK(labelPlace.right + 1 - right.right < 6);
+    CHECK(abs((centre.left + centre.right) - (labelPlace.left + labelPlace.right + 2)) < 6);
+}
+
+TEST_CASE("an alignment that was set by hand stays when the style is not to decide")
+{
+    Label label("Text", SS_NOTIFY | SS_LEFT);
+    label.control.m_bStyleAlign = FALSE;
+    label.control.m_nTextFormat = DT_RIGHT;
+    const CRect text = CRect(label.host.Show().BoundsOfOthers(green));
+    CHECK(labelPlace.right + 1 - text.right < 6);
+}
+
+TEST_CASE("etched text is a shadow with a light copy one pixel right of and below it")
+{
+    Label label("I", SS_NOTIFY | SS_LEFT);
+    label.control.SetEmbossed(TRUE);
+    label.control.SetLabelTextColor(red);
+    const Picture shown = label.host.Show();
+    const COLORREF light = ::GetSysColor(COLOR_BTNHIGHLIGHT);
+    const COLORREF shadow = ::GetSysColor(COLOR_BTNSHADOW);
+    CHECK_FALSE(shown.Contains(red));
+    REQUIRE(shown.Contains(shadow));
+    REQUIRE(shown.Contains(light));
+    for (int y = 0; y + 1 < shown.Height(); ++y) {
+        for (int x = 0; x + 1 < shown.Width(); ++x) {
+            if (shown.At(x, y) != shadow)
+                continue;
+            const COLORREF behind = shown.At(x + 1, y + 1);
+            CHECK((behind == light || behind == shadow));
+        }
+    }
+}
+
+TEST_CASE("etched text ignores the text colour, for a link as well")
+{
+    Label label("Etched", SS_NOTIFY);
+    label.control.SetLink(TRUE);
+    label.control.SetEmbossed(TRUE);
+    CHECK_FALSE(label.host.Show().Contains(blue));
+}
+
+TEST_CASE("a link is underlined and blue; made plain again it stays blue")
+{
+    Label label("Link");
+    const HFONT before = FontOf(label.control);
+    label.control.SetLink(TRUE);
+    CHECK(label.control.m_bLink);
+    CHECK(FontOf(label.control) != before);
+    CHECK(Underline(FontOf(label.control)) != 0);
+    CHECK(label.control.m_crText == blue);
+    CHECK(label.host.Show().Contains(blue));
+
+    label.control.SetLink(FALSE);
+    CHECK_FALSE(label.control.m_bLink);
+    CHECK(Underline(FontOf(label.control)) == 0);
+    CHECK(label.control.m_crText == blue);
+}
+
+TEST_CASE("making a link changes nothing but the underline of the font")
+{
+    Label label("Link");
+    LOGFONT before = DescribeFont(label.control);
+    label.control.SetLink(TRUE);
+    LOGFONT after = DescribeFont(label.control);
+    before.lfUnderline = after.lfUnderline = 0;
+    CHECK(memcmp(&before, &after, sizeof(LOGFONT)) == 0);
+}
+
+TEST_CASE("a font given to a label is copied with the label's underline, and paints derive theirs")
+{
+    Label label("Text");
+    label.control.SetLink(TRUE);
+    CFont font;
+    font.CreateFont(-20, 0, 0, 0, FW_BOLD, FALSE, FALSE, FALSE, ANSI_CHARSET, 0, 0, 0, 0, "Arial");
+    label.control.SetLabelFont(font);
+    CHECK_FALSE(label.control.m_bOwnFont);
+    const LOGFONT shown = DescribeFont(label.control);
+    CHECK(shown.lfHeight == -20);
+    CHECK(shown.lfWeight == FW_BOLD);
+    CHECK(shown.lfUnderline != 0);
+    CHECK(FontOf(label.control) != static_cast<HFONT>(font));
+}
+
+TEST_CASE("each paint of a label with a given font leaves one font behind, others leave nothing")
+{
+    Label label("Text");
+    label.host.Show();
+    {
+        const BalancedGdi objects;
+        for (int i = 0; i < 10; ++i) {
+            label.control.Invalidate();
+            label.control.UpdateWindow();
+        }
+        CHECK_MESSAGE(objects.IsBalanced(), objects.Describe());
+    }
+    label.control.SetLabelFont(label.host.m_font);
+    label.host.Show();
+    const BalancedGdi objects;
+    for (int i = 0; i < 10; ++i) {
+        label.control.Invalidate();
+        label.control.UpdateWindow();
+    }
+    CHECK(objects.Growth() == 10);
+    CHECK(objects.Describe() == "fonts +10");
+}
+
+TEST_CASE("setting the text colour repaints the parent under the label, without erasing")
+{
+    Label label("Text");
+    label.host.Show();
+    REQUIRE_FALSE(label.host.GetUpdateRect(NULL));
+    label.control.SetLabelTextColor(red);
+    CRect update;
+    CHECK(label.host.GetUpdateRect(&update));
+    CHECK(labelPlace.PtInRect(update.TopLeft()));
+}
+
+TEST_CASE("an opaque picture is copied unscaled into the label, with the text over it")
+{
+    const std::string path = WriteHalfBlackBmp("umbra-label.bmp", 60, 300);
+    Label label("Text", SS_NOTIFY | SS_RIGHT);
+    label.control.SetLabelTextColor(blue);
+    CHECK(label.control.LoadPicture(path.c_str()) == TRUE);
+    CHECK(label.control.m_bHasPicture);
+    CHECK(label.control.m_bmpMask.GetSafeHandle() == NULL);
+    const Picture shown = label.host.Show().Crop(labelPlace);
+    CHECK(shown.Crop(CRect(0, 0, 30, 40)).CountOf(black) == 30 * 40);
+    CHECK(shown.Crop(CRect(30, 0, 60, 40)).CountOf(red) == 30 * 40);
+    CHECK(shown.Contains(blue));
+    ::DeleteFileA(path.c_str());
+}
+
+TEST_CASE("a keyed picture lets the parent show through its key colour")
+{
+    const std::string path = WriteHalfBlackBmp("umbra-label.bmp", 48, 30);
+    Label label("");
+    label.control.SetTransparentColor(black);
+    CHECK(label.control.LoadPicture(path.c_str()) == TRUE);
+    CHECK(label.control.m_bmpMask.GetSafeHandle() != NULL);
+    const Picture shown = label.host.Show().Crop(labelPlace);
+    CHECK(shown.CountOf(red) == 24 * 30);
+    CHECK(shown.Crop(CRect(0, 0, 24, 30)).CountOf(green) == 24 * 30);
+    ::DeleteFileA(path.c_str());
+}
+
+TEST_CASE("a keyed picture larger than 200 pixels is cut there")
+{
+    const std::string path = WriteHalfBlackBmp("umbra-label.bmp", 260, 240);
+    Label label("", SS_NOTIFY, CRect(10, 10, 310, 310));
+    label.control.SetTransparentColor(black);
+    label.control.LoadPicture(path.c_str());
+    const Picture shown = label.host.Show().Crop(CRect(10, 10, 310, 310));
+    CHECK(shown.CountOf(red) == (200 - 130) * 200);
+    CHECK(shown.At(199, 199) == red);
+    CHECK(shown.At(200, 0) == green);
+    CHECK(shown.At(199, 200) == green);
+    ::DeleteFileA(path.c_str());
+}
+
+TEST_CASE("a key colour set after the picture waits for the next picture")
+{
+    const std::string path = WriteHalfBlackBmp("umbra-label.bmp", 48, 30);
+    Label label("");
+    label.control.LoadPicture(path.c_str());
+    label.control.SetTransparentColor(black);
+    CHECK(label.control.m_bmpMask.GetSafeHandle() == NULL);
+    label.control.LoadPicture(path.c_str());
+    CHECK(label.control.m_bmpMask.GetSafeHandle() != NULL);
+    ::DeleteFileA(path.c_str());
+}
+
+TEST_CASE("a picture that does not load changes nothing and still answers TRUE")
+{
+    const std::string path = WriteHalfBlackBmp("umbra-label.bmp", 48, 30);
+    Label label("");
+    label.control.LoadPicture(path.c_str());
+    const HGDIOBJ before = label.control.m_bmpPicture.GetSafeHandle();
+    CHECK(label.control.LoadPicture("no such picture.gif") == TRUE);
+    CHECK(label.control.m_bmpPicture.GetSafeHandle() == before);
+    CHECK(label.control.m_bHasPicture);
+    ::DeleteFileA(path.c_str());
+    // The file is gone; what was loaded still shows.
+    CHECK(label.host.Show().Contains(red));
+}
+
+TEST_CASE("bitmaps outlive their label, replaced ones too")
+{
+    const std::string path = WriteHalfBlackBmp("umbra-label.bmp", 48, 30);
+    HGDIOBJ first, second, mask;
+    {
+        Label label("");
+        label.control.SetTransparentColor(black);
+        label.control.LoadPicture(path.c_str());
+        first = label.control.m_bmpPicture.GetSafeHandle();
+        label.control.LoadPicture(path.c_str());
+        second = label.control.m_bmpPicture.GetSafeHandle();
+        mask = label.control.m_bmpMask.GetSafeHandle();
+        CHECK(first != second);
+    }
+    for (const HGDIOBJ bitmap : {first, second, mask}) {
+        CHECK(::GetObjectType(bitmap) == OBJ_BITMAP);
+        ::DeleteObject(bitmap);
+    }
+    ::DeleteFileA(path.c_str());
+}
+
+TEST_CASE("colour requests are answered with the null brush, a solid one, or nothing")
+{
+    Label label("Text");
+    CClientDC dc(&label.host);
+    const auto ask = [&] {
+        return reinterpret_cast<HBRUSH>(
+            label.host.SendMessage(WM_CTLCOLORSTATIC, reinterpret_cast<WPARAM>(dc.GetSafeHdc()),
+                                   reinterpret_cast<LPARAM>(label.control.m_hWnd)));
+    };
+    const HBRUSH parents = ask();
+    CHECK(label.control.m_brBack.GetSafeHandle() == NULL);
+    CHECK(parents != NULL);
+
+    label.control.SetBackColor(red);
+    const HBRUSH solid = ask();
+    LOGBRUSH description = {};
+    ::GetObject(solid, sizeof(description), &description);
+    CHECK(description.lbStyle == BS_SOLID);
+    CHECK(description.lbColor == red);
+    CHECK(dc.GetBkColor() == red);
+
+    label.control.SetTransparent(TRUE);
+    CHECK(ask() == ::GetStockObject(NULL_BRUSH));
+    CHECK(dc.GetBkMode() == TRANSPARENT);
+    CHECK(::GetObjectType(solid) != OBJ_BRUSH); // The former brush is gone.
+
+    label.control.SetLink(TRUE);
+    ask();
+    CHECK(dc.GetTextColor() == blue);
+}
+
+TEST_CASE("erasing is claimed done without drawing")
+{
+    Label label("Text");
+    CClientDC dc(&label.host);
+    CHECK(label.control.SendMessage(WM_ERASEBKGND, reinterpret_cast<WPARAM>(dc.GetSafeHdc())) == 1);
+}
+
+TEST_CASE("a click on a link opens its trimmed text, shown normally")
+{
+    const ShellSpy shell;
+    REQUIRE(shell.IsInstalled());
+    Label label("  http://example.invalid/a b \t");
+    label.control.SetLink(TRUE);
+    label.host.Show();
+    CHECK(Click(label.control.m_hWnd));
+    REQUIRE(shell.Asked().size() == 1);
+    CHECK(shell.Asked()[0].target == "http://example.invalid/a b");
+    CHECK(shell.Asked()[0].show == SW_SHOWNORMAL);
+}
+
+TEST_CASE("a stored target is opened instead of the text once it is to be used")
+{
+    const ShellSpy shell;
+    Label label("The text");
+    label.control.SetLink(TRUE);
+    label.control.m_strLinkTarget = "stored";
+    label.control.SendMessage(WM_LBUTTONDOWN, MK_LBUTTON, MAKELPARAM(3, 3));
+    label.control.SetLinkTarget(" the target ");
+    label.control.SendMessage(WM_LBUTTONDOWN, MK_LBUTTON, MAKELPARAM(3, 3));
+    REQUIRE(shell.Asked().size() == 2);
+    CHECK(shell.Asked()[0].target == "The text");
+    CHECK(shell.Asked()[1].target == "the target");
+}
+
+TEST_CASE("a plain label and a link without text open nothing; the parent is repainted all the same")
+{
+    const ShellSpy shell;
+    Label plain("Text");
+    plain.host.Show();
+    plain.control.SendMessage(WM_LBUTTONDOWN, MK_LBUTTON, MAKELPARAM(3, 3));
+    CHECK(plain.host.GetUpdateRect(NULL));
+
+    Label empty("");
+    empty.control.SetLink(TRUE);
+    empty.host.Show();
+    empty.control.SendMessage(WM_LBUTTONDOWN, MK_LBUTTON, MAKELPARAM(3, 3));
+    CHECK(empty.host.GetUpdateRect(NULL));
+    CHECK(shell.Asked().empty());
+}
+
+TEST_CASE("what the shell cannot open goes to the toolkit's own document type, web addresses too")
+{
+    const RegisteredClass extension(".QVXLog", "umbra.log");
+    const RegisteredClass command("umbra.log\\shell\\open\\command", "viewer.exe \"%1\" /x");
+    const ShellSpy shell(32);
+    Label label("http://example.invalid/");
+    label.control.SetLink(TRUE);
+    label.control.SendMessage(WM_LBUTTONDOWN, MK_LBUTTON, MAKELPARAM(3, 3));
+    REQUIRE(shell.Run().size() == 1);
+    CHECK(shell.Run()[0].target == "viewer.exe  http://example.invalid/");
+    CHECK(shell.Run()[0].show == SW_SHOWNORMAL);
+}
+
+TEST_CASE("a control without SS_NOTIFY is transparent to the real pointer")
+{
+    const ShellSpy shell;
+    Label label("Text", 0);
+    label.control.SetLink(TRUE);
+    label.host.Show();
+    Click(label.host.m_hWnd, {labelPlace.left + 5, labelPlace.top + 5});
+    CHECK(shell.Asked().empty());
+}
+
+TEST_CASE("the hand shows over a link with text; elsewhere the handler leaves the cursor alone")
+{
+    const HelpProgram help;
+    REQUIRE(help.IsInstalled());
+    const HCURSOR arrow = ::LoadCursor(NULL, IDC_ARROW);
+    const auto ask = [&](Label& label) {
+        ::SetCursor(arrow);
+        return label.control.SendMessage(WM_SETCURSOR,
+                                         reinterpret_cast<WPARAM>(label.control.m_hWnd),
+                                         MAKELPARAM(HTCLIENT, WM_MOUSEMOVE));
+    };
+    Label plain("Text");
+    CHECK(ask(plain) == FALSE);
+    CHECK(::GetCursor() == arrow);
+
+    Label empty("");
+    empty.control.SetLink(TRUE);
+    empty.control.SetLinkTarget("somewhere");
+    CHECK(ask(empty) == FALSE);
+    CHECK(::GetCursor() == arrow);
+
+    Label link("Text");
+    link.control.SetLink(TRUE);
+    CHECK(ask(link) == TRUE);
+    REQUIRE(LoadHandCursor() != NULL);
+    CHECK(::GetCursor() == LoadHandCursor());
+}
+
+TEST_CASE("10,000 pointer moves over a link leave nothing behind")
+{
+    const HelpProgram help;
+    Label link("Text");
+    link.control.SetLink(TRUE);
+    link.host.Show();
+    const auto move = [&] {
+        link.control.SendMessage(WM_SETCURSOR, reinterpret_cast<WPARAM>(link.control.m_hWnd),
+                                 MAKELPARAM(HTCLIENT, WM_MOUSEMOVE));
+        link.control.SendMessage(WM_MOUSEMOVE, 0, MAKELPARAM(5, 5));
+    };
+    move();
+    const BalancedGdi objects;
+    for (int i = 0; i < 10000; ++i)
+        move();
+    CHECK_MESSAGE(objects.IsBalanced(), objects.Describe());
+}
+
+TEST_CASE("a label made through its class lies on the dialog-unit grid")
+{
+    LabelHost host;
+    CStaticTS label;
+    REQUIRE(label.Create("Text", WS_VISIBLE, CRect(103, 59, 314, 156), &host, 7));
+    int x, y, cx, cy;
+    PixelsToDialogUnits(103, 59, 211, 97, &x, &y, &cx, &cy);
+    DialogUnitsToPixels(x, y, cx, cy, &x, &y, &cx, &cy);
+    CRect place;
+    label.GetWindowRect(&place);
+    host.ScreenToClient(&place);
+    CHECK(place == CRect(x, y, x + cx, y + cy));
+    CHECK(host.GetTopWindow() == &label);
+}
+
+TEST_CASE("a label over a control of a template keeps its place")
+{
+    Label label("Text", SS_NOTIFY, CRect(103, 59, 314, 156));
+    CRect place;
+    label.control.GetWindowRect(&place);
+    label.host.ScreenToClient(&place);
+    CHECK(place == CRect(103, 59, 314, 156));
+}
+
+TEST_CASE("long texts and odd targets do no harm")
+{
+    const ShellSpy shell(2);
+    Label label("");
+    label.control.SetLink(TRUE);
+    for (const std::string& text :
+         {std::string(65536, 'w'), std::string("a\x01\x02\r\n\tb"), std::string("\x83\x25\x83"),
+          std::string(300, '%'), std::string("   ")}) {
+        label.control.SetWindowText(text.c_str());
+        label.host.Show();
+        label.control.SendMessage(WM_LBUTTONDOWN, MK_LBUTTON, MAKELPARAM(3, 3));
+    }
+    CHECK(shell.Asked().size() == 5);
+    CHECK(shell.Asked()[0].target.size() == 65536);
+    CHECK(shell.Asked()[4].target.empty());
+    CHECK(shell.Run().empty());
+}
+
+TEST_CASE("a control without a font can be made a link and painted")
+{
+    LabelHost host;
+    CStaticTS label;
+    REQUIRE(label.SubclassWindow(host.AddStatic(labelPlace, "Text")));
+    label.SendMessage(WM_SETFONT, 0, FALSE);
+    label.SetLink(TRUE);
+    CHECK(host.Show().Contains(blue));
+}
