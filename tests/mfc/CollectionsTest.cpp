@@ -1,0 +1,194 @@
+#include <afxtempl.h>
+
+#include <doctest/doctest.h>
+
+#include <memory>
+
+namespace {
+
+class Thing : public CObject
+{
+public:
+    explicit Thing(int number) : value(number) {}
+    int value;
+};
+
+} // namespace
+
+TEST_CASE("arrays of fixed types hold their values")
+{
+    CStringArray texts;
+    texts.Add("one");
+    texts.Add(CString("two"));
+    texts.InsertAt(1, "middle");
+    texts.SetAtGrow(4, "five");
+    CHECK(texts.GetSize() == 5);
+    CHECK(texts[1] == "middle");
+    CHECK(texts[3].IsEmpty());
+    texts[0] += "!";
+    CHECK(texts.GetAt(0) == "one!");
+    CStringArray copy;
+    copy.Copy(texts);
+    texts.RemoveAll();
+    CHECK(copy.GetSize() == 5);
+    CHECK(copy[4] == "five");
+
+    CByteArray bytes;
+    bytes.Add(200);
+    CWordArray words;
+    words.Add(60000);
+    CDWordArray doubleWords;
+    doubleWords.Add(4000000000u);
+    CUIntArray numbers;
+    numbers.SetSize(2);
+    CHECK(bytes[0] == 200);
+    CHECK(words[0] == 60000);
+    CHECK(doubleWords[0] == 4000000000u);
+    CHECK(numbers[1] == 0);
+    CPtrArray pointers;
+    pointers.Add(&numbers);
+    CHECK(pointers[0] == &numbers);
+    CObArray objects;
+    objects.Add(&numbers);
+    CHECK(objects.GetAt(0)->IsKindOf(RUNTIME_CLASS(CUIntArray)));
+}
+
+TEST_CASE("lists of fixed types hold their values")
+{
+    CStringList texts;
+    texts.AddTail("one");
+    texts.AddHead("zero");
+    CHECK(texts.GetHead() == "zero");
+    CHECK(texts.Find("one") == texts.GetTailPosition());
+    POSITION position = texts.GetHeadPosition();
+    CString both = texts.GetNext(position);
+    both += texts.GetNext(position);
+    CHECK(both == "zeroone");
+    CHECK(position == NULL);
+    CHECK(texts.RemoveTail() == "one");
+
+    int number = 0;
+    CPtrList pointers;
+    pointers.AddTail(&number);
+    CHECK(pointers.Find(&number) != NULL);
+    CHECK(pointers.RemoveHead() == &number);
+
+    Thing first(1);
+    Thing second(2);
+    CObList objects;
+    objects.AddTail(&first);
+    objects.InsertBefore(objects.GetHeadPosition(), &second);
+    CHECK(static_cast<Thing*>(objects.GetHead())->value == 2);
+    objects.RemoveAt(objects.Find(&second));
+    CHECK(objects.GetTail() == &first);
+}
+
+TEST_CASE("maps of fixed types hold their values")
+{
+    CMapStringToString texts;
+    texts["key"] = "value";
+    texts.SetAt("other", CString("thing"));
+    CString value;
+    CHECK(texts.Lookup("key", value));
+    CHECK(value == "value");
+    LPCTSTR key = NULL;
+    CString wanted("other");
+    REQUIRE(texts.LookupKey(wanted, key));
+    CHECK(CString(key) == "other");
+    CHECK(key != wanted.GetString());
+    CHECK_FALSE(texts.LookupKey("missing", key));
+    CHECK(texts.HashKey("key") == texts.HashKey(CString("key")));
+    const CMapStringToString::CPair* pair = texts.PLookup("key");
+    REQUIRE(pair != NULL);
+    CHECK(pair->key == "key");
+
+    int number = 0;
+    CMapStringToPtr toPointer;
+    toPointer["number"] = &number;
+    void* found = NULL;
+    CHECK(toPointer.Lookup("number", found));
+    CHECK(found == &number);
+    CHECK(toPointer["missing"] == NULL);
+
+    CMapPtrToPtr pointers;
+    pointers[&number] = &found;
+    CHECK(pointers[&number] == &found);
+    CMapPtrToWord toWord;
+    toWord[&number] = 7;
+    CHECK(toWord[&number] == 7);
+    CMapWordToPtr fromWord;
+    fromWord[7] = &number;
+    WORD wordKey = 0;
+    CHECK(fromWord.LookupKey(7, wordKey));
+    CHECK(wordKey == 7);
+    CHECK(fromWord[7] == &number);
+    Thing thing(3);
+    CMapWordToOb objects;
+    objects[1] = &thing;
+    CMapStringToOb named;
+    named["thing"] = objects[1];
+    CHECK(named["thing"] == &thing);
+}
+
+TEST_CASE("the collections can be made by their run-time class")
+{
+    for (CRuntimeClass* made :
+         {RUNTIME_CLASS(CObArray), RUNTIME_CLASS(CPtrArray), RUNTIME_CLASS(CStringArray),
+          RUNTIME_CLASS(CByteArray), RUNTIME_CLASS(CWordArray), RUNTIME_CLASS(CDWordArray),
+          RUNTIME_CLASS(CUIntArray), RUNTIME_CLASS(CObList), RUNTIME_CLASS(CPtrList),
+          RUNTIME_CLASS(CStringList), RUNTIME_CLASS(CMapStringToString),
+          RUNTIME_CLASS(CMapStringToPtr), RUNTIME_CLASS(CMapStringToOb),
+          RUNTIME_CLASS(CMapPtrToPtr), RUNTIME_CLASS(CMapPtrToWord), RUNTIME_CLASS(CMapWordToPtr),
+          RUNTIME_CLASS(CMapWordToOb)}) {
+        CAPTURE(made->m_lpszClassName);
+        const std::unique_ptr<CObject> object(made->CreateObject());
+        REQUIRE(object != nullptr);
+        CHECK(object->IsKindOf(made));
+        CHECK(object->IsKindOf(RUNTIME_CLASS(CObject)));
+    }
+}
+
+TEST_CASE("typed collections give their own pointers back")
+{
+    Thing first(1);
+    Thing second(2);
+    CTypedPtrArray<CObArray, Thing*> array;
+    array.Add(&first);
+    array.SetAtGrow(2, &second);
+    CHECK(array[0]->value == 1);
+    CHECK(array[1] == NULL);
+    CHECK(array.GetAt(2)->value == 2);
+    array[1] = &second;
+    CHECK(array.ElementAt(1)->value == 2);
+    CTypedPtrArray<CObArray, Thing*> other;
+    other.Copy(array);
+    other.Append(array);
+    CHECK(other.GetSize() == 6);
+    CHECK(other[5]->value == 2);
+
+    CTypedPtrList<CPtrList, Thing*> list;
+    list.AddTail(&first);
+    list.AddHead(&second);
+    CHECK(list.GetHead()->value == 2);
+    POSITION position = list.GetHeadPosition();
+    list.GetNext(position)->value += 10;
+    CHECK(list.GetNext(position)->value == 1);
+    list.SetAt(list.GetTailPosition(), &second);
+    CHECK(list.RemoveTail()->value == 12);
+    CHECK(list.RemoveHead() == &second);
+
+    CTypedPtrMap<CMapStringToPtr, CString, Thing*> map;
+    map.SetAt("first", &first);
+    map["second"] = &second;
+    Thing* found = NULL;
+    CHECK(map.Lookup("second", found));
+    CHECK(found->value == 12);
+    CHECK_FALSE(map.Lookup("third", found));
+    CString key;
+    position = map.GetStartPosition();
+    map.GetNextAssoc(position, key, found);
+    CHECK(key == "first");
+    CHECK(found == &first);
+    CHECK(map.RemoveKey("first"));
+    CHECK(map.GetCount() == 1);
+}
