@@ -20,9 +20,30 @@ WORD CountPalette(WORD bitCount)
     return bitCount <= 8 ? static_cast<WORD>(1 << bitCount) : 0;
 }
 
-BYTE MixChannel(BYTE old, BYTE color, UINT percent)
+// Channels that are blended at a time: those of two colours, so that they fill a vector of 16-bit
+// numbers. Every colour table has an even number of colours.
+constexpr int kLanes = 8;
+
+struct BlendTerms
 {
-    return static_cast<BYTE>((old * (100 - percent) + color * percent) / 100);
+    std::uint16_t keep[kLanes]; // percent of the old channel
+    std::uint16_t add[kLanes];  // percent times the new one
+};
+
+BlendTerms TermsOf(COLORREF color, UINT percent)
+{
+    const UINT rest = 100 - percent;
+    BlendTerms terms;
+    for (int i = 0; i < kLanes; i += 4) {
+        const UINT keep[4] = {rest, rest, rest, 100};
+        const UINT add[4] = {GetBValue(color) * percent, GetGValue(color) * percent,
+                             GetRValue(color) * percent, 0};
+        for (int channel = 0; channel < 4; ++channel) {
+            terms.keep[i + channel] = static_cast<std::uint16_t>(keep[channel]);
+            terms.add[i + channel] = static_cast<std::uint16_t>(add[channel]);
+        }
+    }
+    return terms;
 }
 
 } // namespace
@@ -131,11 +152,14 @@ void PaletteDib::BlendPalette(COLORREF color, UINT percent)
     RGBQUAD* palette = GetPalette();
     if (palette == nullptr)
         return;
-    percent = percent > 100 ? 100 : percent;
-    for (int i = 0; i < m_paletteCount; ++i) {
-        palette[i].rgbRed = MixChannel(palette[i].rgbRed, GetRValue(color), percent);
-        palette[i].rgbGreen = MixChannel(palette[i].rgbGreen, GetGValue(color), percent);
-        palette[i].rgbBlue = MixChannel(palette[i].rgbBlue, GetBValue(color), percent);
+    const BlendTerms terms = TermsOf(color, percent > 100 ? 100 : percent);
+    BYTE* channels = reinterpret_cast<BYTE*>(palette);
+    BYTE* const end = channels + m_paletteCount * sizeof(RGBQUAD);
+    for (; channels < end; channels += kLanes) {
+        for (int i = 0; i < kLanes; ++i) {
+            const auto sum = static_cast<std::uint16_t>(channels[i] * terms.keep[i] + terms.add[i]);
+            channels[i] = static_cast<BYTE>(sum / 100);
+        }
     }
 }
 

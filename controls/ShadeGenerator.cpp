@@ -1,32 +1,42 @@
 #include "controls/ShadeGenerator.h"
 
+#include <cstdint>
 #include <cstring>
 
 namespace {
 
 constexpr int kPaletteSize = 256;
 
-// One channel of one colour on the way from `from` (part 0) to `to` (part 128).
-BYTE MixOn128(BYTE from, BYTE to, int part)
+// Writes 128 colours on the way from one to the other, the first being firstPart / 128 of it. The
+// channels of two colours at a time fill a vector of 16-bit numbers; the reserved one stays 0.
+void WriteRamp(RGBQUAD* palette, COLORREF from, COLORREF to, int firstPart)
 {
-    return static_cast<BYTE>((from * (128 - part) + to * part) / 128);
-}
+    constexpr int kLanes = 8;
+    const int start[4] = {GetBValue(from), GetGValue(from), GetRValue(from), 0};
+    const int end[4] = {GetBValue(to), GetGValue(to), GetRValue(to), 0};
+    std::uint16_t sums[kLanes];
+    std::uint16_t steps[kLanes];
+    for (int i = 0; i < kLanes; ++i) {
+        const int part = firstPart + i / 4;
+        sums[i] = static_cast<std::uint16_t>(start[i % 4] * (128 - part) + end[i % 4] * part);
+        steps[i] = static_cast<std::uint16_t>((end[i % 4] - start[i % 4]) * 2);
+    }
 
-RGBQUAD MixColors(COLORREF from, COLORREF to, int part)
-{
-    return {MixOn128(GetBValue(from), GetBValue(to), part),
-            MixOn128(GetGValue(from), GetGValue(to), part),
-            MixOn128(GetRValue(from), GetRValue(to), part), 0};
+    BYTE* channels = reinterpret_cast<BYTE*>(palette);
+    for (int entry = 0; entry < 128; entry += 2, channels += kLanes) {
+        for (int i = 0; i < kLanes; ++i) {
+            channels[i] = static_cast<BYTE>(sums[i] >> 7);
+            sums[i] = static_cast<std::uint16_t>(sums[i] + steps[i]);
+        }
+    }
 }
 
 void BuildPalette(const ShadeColors& colors, RGBQUAD (&palette)[kPaletteSize])
 {
-    for (int i = 0; i <= 128; ++i)
-        palette[i] = MixColors(colors.shadow, colors.face, i);
-    // Kept: the second half starts on the last entry of the first, so that entry 128 is a touch
-    // lighter than the face colour and entry 255 is the highlight colour itself.
-    for (int j = 1; j <= 128; ++j)
-        palette[j + 127] = MixColors(colors.face, colors.highlight, j);
+    // Kept: the second half begins one step on the way to the highlight colour, so that entry 128 is
+    // a touch lighter than the face colour, which no entry is, and entry 255 is the highlight itself.
+    WriteRamp(palette, colors.shadow, colors.face, 0);
+    WriteRamp(palette + 128, colors.face, colors.highlight, 1);
 }
 
 void StorePalette(const PaletteDib& dib, const RGBQUAD (&palette)[kPaletteSize])

@@ -114,7 +114,7 @@ std::vector<std::uint8_t> FillPixels(int width, int height, unsigned style, int 
     return pixels;
 }
 
-// The granularity whose R is that, with room for the divisors that every granularity needs.
+// The divisor of a granularity.
 int DivisorOf(int granularity)
 {
     return 32767 / std::max(2 * granularity, 1);
