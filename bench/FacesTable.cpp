@@ -19,7 +19,6 @@ struct Faces
 void PrintLine(const FaceSize& size, unsigned style)
 {
     const ShadeLook look = {style, kGranularity, 20, 30, RGB(180, 200, 230)};
-    const ShadeColors colors = ShadeColors::OfSystem();
     PlainFaces plainFaces;
     Faces sse2Faces;
     Faces avx2Faces;
@@ -27,15 +26,17 @@ void PrintLine(const FaceSize& size, unsigned style)
     const bool hasAvx2 = HasShadeEngine(ShadeEngine::Avx2);
 
     Race race;
-    race.Add("plain", [&] { plainFaces.Fill(size.width, size.height, kBorder, look, colors); });
+    race.Add("plain", [&] {
+        plainFaces.Fill(size.width, size.height, kBorder, look, ShadeColors::OfSystem());
+    });
     race.Add("SSE2", [&] {
-        FillShadeFaces(sse2Faces.Get(), size.width, size.height, kBorder, look, colors, random,
-                       ShadeEngine::Sse2);
+        FillShadeFaces(sse2Faces.Get(), size.width, size.height, kBorder, look,
+                       ShadeColors::OfSystem(), random, ShadeEngine::Sse2);
     });
     if (hasAvx2) {
         race.Add("AVX2", [&] {
-            FillShadeFaces(avx2Faces.Get(), size.width, size.height, kBorder, look, colors, random,
-                           ShadeEngine::Avx2);
+            FillShadeFaces(avx2Faces.Get(), size.width, size.height, kBorder, look,
+                           ShadeColors::OfSystem(), random, ShadeEngine::Avx2);
         });
     }
     race.Run();

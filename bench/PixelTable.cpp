@@ -21,13 +21,11 @@ void PrintLine(const FaceSize& size, unsigned style)
     Race race;
     race.Add("memcpy", [&] { std::memcpy(pixels.data(), source.data(), pixels.size()); });
     race.Add("plain", [&] { FillPlainPixels(surface, style, kGranularity); });
-    race.Add("SSE2", [&] {
-        FillShadePixels(surface, style, kGranularity, random, ShadeEngine::Sse2);
-    });
+    race.Add("SSE2",
+             [&] { FillShadePixels(surface, style, kGranularity, random, ShadeEngine::Sse2); });
     if (hasAvx2) {
-        race.Add("AVX2", [&] {
-            FillShadePixels(surface, style, kGranularity, random, ShadeEngine::Avx2);
-        });
+        race.Add("AVX2",
+                 [&] { FillShadePixels(surface, style, kGranularity, random, ShadeEngine::Avx2); });
     }
     race.Run();
 

@@ -172,7 +172,8 @@ void FillPlainPixels(const ShadeSurface& surface, unsigned style, int granularit
         fill.SetRows([&](int r) { return Cubic(r, height); });
         return fill.CrossBump();
     case SHADE_ROUNDED_BUMP:
-        fill.SetRows([&](int r) { return 2 * (Cubic(r, height) * (64 - granularity)) / 128 + 128; });
+        fill.SetRows(
+            [&](int r) { return 2 * (Cubic(r, height) * (64 - granularity)) / 128 + 128; });
         fill.AlongRows();
         return fill.RoundSides();
     case SHADE_SCRATCHED:

@@ -11,6 +11,6 @@ constexpr FaceSize kFaceSizes[] = {{120, 28}, {400, 300}, {1920, 1080}};
 
 constexpr int kGranularity = 20;
 
-constexpr const char* kStyleNames[] = {"noise",       "diagonal",   "rows",
-                                       "columns",     "row bump",   "column bump",
-                                       "cross bump",  "rounded bump", "scratched"};
+constexpr const char* kStyleNames[] = {"noise",      "diagonal",     "rows",
+                                       "columns",    "row bump",     "column bump",
+                                       "cross bump", "rounded bump", "scratched"};

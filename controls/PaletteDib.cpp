@@ -71,7 +71,8 @@ BYTE* PaletteDib::Create(int width, int height, int bitCount)
                           m_header.biHeight == height && m_header.biBitCount == bits;
     if (!sameSize) {
         Destroy();
-        m_bits = static_cast<BYTE*>(std::malloc(static_cast<std::size_t>(tableEnd + stride * height)));
+        m_bits =
+            static_cast<BYTE*>(std::malloc(static_cast<std::size_t>(tableEnd + stride * height)));
         if (m_bits == nullptr)
             return nullptr;
     }

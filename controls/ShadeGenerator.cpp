@@ -33,8 +33,9 @@ void WriteRamp(RGBQUAD* palette, COLORREF from, COLORREF to, int firstPart)
 
 void BuildPalette(const ShadeColors& colors, RGBQUAD (&palette)[kPaletteSize])
 {
-    // Kept: the second half begins one step on the way to the highlight colour, so that entry 128 is
-    // a touch lighter than the face colour, which no entry is, and entry 255 is the highlight itself.
+    // Kept: the second half begins one step on the way to the highlight colour, so that entry 128
+    // is a touch lighter than the face colour, which no entry is, and entry 255 is the highlight
+    // itself.
     WriteRamp(palette, colors.shadow, colors.face, 0);
     WriteRamp(palette + 128, colors.face, colors.highlight, 1);
 }

@@ -31,9 +31,9 @@ struct GrainJob
     int rows;
     const std::uint8_t* base; // readable up to width rounded up to kGrainBlock
     const std::uint8_t* add;  // one a row
-    GrainDivider divider; // of 2 or more
-    std::uint32_t state; // of the stream, before the first pixel's number
-    RandomLeap lineLeap; // the steps of one row, or of one column where columns go first
+    GrainDivider divider;     // of 2 or more
+    std::uint32_t state;      // of the stream, before the first pixel's number
+    RandomLeap lineLeap;      // the steps of one row, or of one column where columns go first
 };
 
 // Widths of row buffers are rounded up to a multiple of this.

@@ -92,8 +92,8 @@ void StartColumns(const GrainJob& job, std::uint32_t* states)
     }
 }
 
-// Columns lie side by side in the lanes, so that whole rows of a block are written at once. Bands of
-// some rows keep the states in registers for a while and the writing within a few rows.
+// Columns lie side by side in the lanes, so that whole rows of a block are written at once. Bands
+// of some rows keep the states in registers for a while and the writing within a few rows.
 template <class Lanes>
 void GrainColumns(const GrainJob& job, std::uint32_t* states)
 {

@@ -56,8 +56,8 @@ struct Sse2Lanes
     {
         const __m128i doubled = _mm_set1_epi32(static_cast<int>(state * 2));
         for (int i = 0; i < kVectors; ++i)
-            states[i] = _mm_add_epi32(_mm_mul_epu32(doubled, Load(factors + i * 4)),
-                                      Load(offsets + i * 4));
+            states[i] =
+                _mm_add_epi32(_mm_mul_epu32(doubled, Load(factors + i * 4)), Load(offsets + i * 4));
     }
 
     explicit Sse2Lanes(const std::uint32_t* saved)

@@ -44,7 +44,7 @@ public:
     uint8_t* base;         // per column, zeros at first
     uint8_t* row;          // one row on its way to the surface
     uint8_t* add;          // per row, zeros at first
-    int16_t* columns; // per column
+    int16_t* columns;      // per column
     std::uint32_t* states; // of the grain of columns
 
 private:
@@ -106,8 +106,8 @@ class ShadeFill
 public:
     ShadeFill(const ShadeSurface& surface, uint8_t granularity, ShadeRandom& random,
               const GrainKernels& kernels, WorkRows& rows)
-        : m_surface(surface), m_width(surface.width), m_height(surface.height), m_grain(granularity),
-          m_low(granularity), m_high(255 - granularity),
+        : m_surface(surface), m_width(surface.width), m_height(surface.height),
+          m_grain(granularity), m_low(granularity), m_high(255 - granularity),
           m_divider(DividerOf(ShadeRandom::kMax / std::max(2 * granularity, 1))), m_random(random),
           m_kernels(kernels), m_rows(rows)
     {
@@ -220,9 +220,8 @@ private:
     // draw if the whole first pass had gone before.
     void FillRoundedBump()
     {
-        SetRows(kProfileRise, [&](int ramp) {
-            return 2 * (CubicProfile(ramp) * (64 - m_grain)) / 128 + 128;
-        });
+        SetRows(kProfileRise,
+                [&](int ramp) { return 2 * (CubicProfile(ramp) * (64 - m_grain)) / 128 + 128; });
         const int64_t divisor = int64_t{m_height} * m_height / 4;
         if (divisor == 0)
             return GrainAlongRows();
@@ -355,8 +354,8 @@ private:
     }
 
     // The part within the rows first to end - 1. Pixels are set eight at a time, the last one more
-    // than once if need be: most scratches of a button are no longer, and a loop whose length cannot
-    // be foreseen costs more than the pixels.
+    // than once if need be: most scratches of a button are no longer, and a loop whose length
+    // cannot be foreseen costs more than the pixels.
     void DrawScratch(const Scratch& scratch, int first, int end) const
     {
         constexpr int kAtOnce = 8;

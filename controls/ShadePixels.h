@@ -16,11 +16,7 @@ struct ShadeSurface
 };
 
 // The instruction sets that pixels can be made with; what comes out is the same.
-enum class ShadeEngine
-{
-    Sse2,
-    Avx2
-};
+enum class ShadeEngine { Sse2, Avx2 };
 
 // The fastest engine of this processor.
 ShadeEngine BestShadeEngine();

@@ -12,8 +12,8 @@ struct RandomLeap
 // The leap of the given number of steps.
 RandomLeap LeapOf(std::uint64_t steps);
 
-// The random numbers of the Microsoft C run-time, 0 to 32767, in a stream of their own: the run-time's
-// rand is neither used nor disturbed.
+// The random numbers of the Microsoft C run-time, 0 to 32767, in a stream of their own: the
+// run-time's rand is neither used nor disturbed.
 class ShadeRandom
 {
 public:

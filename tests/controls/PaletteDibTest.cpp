@@ -65,8 +65,8 @@ TEST_CASE("a new bitmap is empty, and nothing can be done to it")
 
 TEST_CASE("the bit count is rounded up to one that exists")
 {
-    const int expected[][3] = {{-1, 1, 2}, {0, 1, 2},  {1, 1, 2},   {2, 4, 16},  {3, 4, 16},
-                               {4, 4, 16}, {5, 8, 256}, {8, 8, 256}, {9, 24, 0}, {16, 24, 0},
+    const int expected[][3] = {{-1, 1, 2},  {0, 1, 2},   {1, 1, 2},       {2, 4, 16}, {3, 4, 16},
+                               {4, 4, 16},  {5, 8, 256}, {8, 8, 256},     {9, 24, 0}, {16, 24, 0},
                                {24, 24, 0}, {32, 24, 0}, {INT_MAX, 24, 0}};
     for (const auto& [asked, bits, entries] : expected) {
         CAPTURE(asked);
@@ -81,10 +81,9 @@ TEST_CASE("the bit count is rounded up to one that exists")
 TEST_CASE("the block holds header, colour table and rows of whole double words")
 {
     const int expected[][4] = {// width, bits, stride, entries
-                               {1, 1, 4, 2},   {32, 1, 4, 2},   {33, 1, 8, 2},
-                               {7, 4, 4, 16},  {9, 4, 8, 16},   {1, 8, 4, 256},
-                               {4, 8, 4, 256}, {5, 8, 8, 256},  {1, 24, 4, 0},
-                               {4, 24, 12, 0}, {5, 24, 16, 0}};
+                               {1, 1, 4, 2},  {32, 1, 4, 2},  {33, 1, 8, 2},  {7, 4, 4, 16},
+                               {9, 4, 8, 16}, {1, 8, 4, 256}, {4, 8, 4, 256}, {5, 8, 8, 256},
+                               {1, 24, 4, 0}, {4, 24, 12, 0}, {5, 24, 16, 0}};
     for (const auto& [width, bits, stride, entries] : expected) {
         CAPTURE(width);
         CAPTURE(bits);
@@ -110,9 +109,15 @@ TEST_CASE("the block holds header, colour table and rows of whole double words")
 
 TEST_CASE("sizes that are negative or beyond 31 bits leave the bitmap empty")
 {
-    const int sizes[][3] = {{-1, 1, 8},       {1, -1, 8},           {INT_MIN, INT_MIN, 8},
-                            {INT_MAX, 1, 24}, {INT_MAX, INT_MAX, 1}, {65536, 65536, 8},
-                            {46341, 46341, 8}, {INT_MAX, 1, 8},      {1, INT_MAX, 8}};
+    const int sizes[][3] = {{-1, 1, 8},
+                            {1, -1, 8},
+                            {INT_MIN, INT_MIN, 8},
+                            {INT_MAX, 1, 24},
+                            {INT_MAX, INT_MAX, 1},
+                            {65536, 65536, 8},
+                            {46341, 46341, 8},
+                            {INT_MAX, 1, 8},
+                            {1, INT_MAX, 8}};
     for (const auto& [width, height, bits] : sizes) {
         CAPTURE(width);
         CAPTURE(height);
@@ -189,8 +194,8 @@ TEST_CASE("pixels are set from the top, and those outside are ignored")
     dib.Clear(0);
     dib.SetPixelIndex(0, 0, 1);
     dib.SetPixelIndex(2, 1, 2);
-    for (const auto& [x, y] : {std::pair{-1, 0}, {0, -1}, {3, 0}, {0, 2}, {INT_MAX, 0},
-                               {INT_MIN, INT_MIN}})
+    for (const auto& [x, y] :
+         {std::pair{-1, 0}, {0, -1}, {3, 0}, {0, 2}, {INT_MAX, 0}, {INT_MIN, INT_MIN}})
         dib.SetPixelIndex(x, y, 99);
     const BYTE expected[] = {0, 0, 2, 0, 1, 0, 0, 0};
     CHECK(std::memcmp(dib.GetBits(), expected, sizeof(expected)) == 0);

@@ -34,15 +34,33 @@ public:
     void Fill(unsigned style)
     {
         switch (style) {
-        case 1: Diagonal(); break;
-        case 2: Rows(); break;
-        case 3: Columns(); break;
-        case 4: RowBump(); break;
-        case 5: ColumnBump(); break;
-        case 6: CrossBump(); break;
-        case 7: RoundedBump(); break;
-        case 8: Scratched(); break;
-        default: Flat(); break;
+        case 1:
+            Diagonal();
+            break;
+        case 2:
+            Rows();
+            break;
+        case 3:
+            Columns();
+            break;
+        case 4:
+            RowBump();
+            break;
+        case 5:
+            ColumnBump();
+            break;
+        case 6:
+            CrossBump();
+            break;
+        case 7:
+            RoundedBump();
+            break;
+        case 8:
+            Scratched();
+            break;
+        default:
+            Flat();
+            break;
         }
     }
 

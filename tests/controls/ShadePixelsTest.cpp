@@ -44,8 +44,8 @@ public:
     {
         for (std::size_t i = 0; i < m_block.size(); ++i) {
             const auto offset = static_cast<std::ptrdiff_t>(i) - kMargin;
-            const bool inside = offset >= 0 && offset < m_stride * m_height &&
-                                offset % m_stride < m_width;
+            const bool inside =
+                offset >= 0 && offset < m_stride * m_height && offset % m_stride < m_width;
             if (!inside && m_block[i] != kUntouched)
                 return false;
         }
@@ -70,8 +70,8 @@ std::string FindDifference(int width, int height, unsigned style, int granularit
 
     TestSurface surface(width, height, (4 - width % 4) % 4);
     ShadeRandom random(state);
-    const bool done = FillShadePixels(surface.Get(), style,
-                                      static_cast<std::uint8_t>(granularity), random, engine);
+    const bool done = FillShadePixels(surface.Get(), style, static_cast<std::uint8_t>(granularity),
+                                      random, engine);
 
     const std::string where = std::to_string(width) + " x " + std::to_string(height) + ", style " +
                               std::to_string(style) + ", granularity " +
@@ -174,11 +174,12 @@ TEST_CASE("every style matches its plain version at every granularity")
 TEST_CASE("every style matches its plain version at odd shapes and large sizes")
 {
     const std::vector<std::pair<int, int>> sizes = {
-        {1, 1},   {1, 97},  {97, 1},  {5, 5},    {6, 2},    {5, 1},     {6, 1},     {7, 2},
-        {2, 300}, {300, 2}, {31, 33}, {64, 16},  {65, 17},  {120, 28},  {127, 131}, {256, 64},
-        {211, 7}, {7, 211}, {96, 97}, {257, 251}, {400, 300}, {333, 1}, {1, 333},   {129, 160}};
+        {1, 1},   {1, 97},  {97, 1},  {5, 5},     {6, 2},     {5, 1},    {6, 1},     {7, 2},
+        {2, 300}, {300, 2}, {31, 33}, {64, 16},   {65, 17},   {120, 28}, {127, 131}, {256, 64},
+        {211, 7}, {7, 211}, {96, 97}, {257, 251}, {400, 300}, {333, 1},  {1, 333},   {129, 160}};
     for (const auto& [width, height] : sizes)
-        CheckAllStyles(width, height, {0, 1, 63, 100, 128, 241, 255}, {1, 0xFFFFFFFFu, 0, 20240229u});
+        CheckAllStyles(width, height, {0, 1, 63, 100, 128, 241, 255},
+                       {1, 0xFFFFFFFFu, 0, 20240229u});
 }
 
 TEST_CASE("every style matches its plain version at the size of a screen")
@@ -269,7 +270,8 @@ TEST_CASE("unknown styles give the noise face")
     CHECK(FillPixels(50, 20, SHADE_DIAGONAL, 30, 9) != noise);
 }
 
-TEST_CASE("the rounded bump takes two random numbers a pixel, or one where its second pass is left out")
+TEST_CASE(
+    "the rounded bump takes two random numbers a pixel, or one where its second pass is left out")
 {
     for (const auto& [height, numbers] : {std::pair{2, 2 * 2 * 30}, {1, 30}}) {
         std::vector<std::uint8_t> pixels(static_cast<std::size_t>(30) * height);
