@@ -56,8 +56,8 @@ void CBackgroundsPage::OnDrag()
     for (CSampleDialog& sample : m_samples)
         sample.AllowDrag(allow);
     SetLabelText(m_dragState,
-                 allow ? "On: press anywhere in this page or in one of its windows, and move it."
-                       : "Off: windows move by their title bars, and those without one stay put.");
+                 allow ? "On.\nPress anywhere in this page or in one of its windows, and move it."
+                       : "Off.\nWindows move by their title bars, and those without one stay put.");
 }
 
 void CBackgroundsPage::OnDestroy()

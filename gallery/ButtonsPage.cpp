@@ -18,7 +18,7 @@ const int rowPitch = 16;
 const int rowHeight = 14;
 
 const BYTE highlight = 35; // Percent; makes the hot face plain to see.
-const BYTE coloring = 100;
+const BYTE coloring = 55; // Percent; leaves the shades to be seen under the tint.
 const BYTE grain = 10;
 const int pictureSize = 19; // Pixels.
 const COLORREF pictureKey = RGB(0, 0, 0);

@@ -20,6 +20,9 @@ const int ruleLeft = 58;
 const int ruleTop = 47;
 const int ruleWidth = 362;
 
+// Glyphs can be drawn a little wider than they are measured, and from the second pixel on.
+const int measuringSlack = 6;
+
 } // namespace
 
 CGalleryPage::CGalleryPage(UINT templateId, CWnd* parent)
@@ -89,6 +92,17 @@ void CGalleryPage::SetLabelText(CWnd& label, const CString& text)
         return;
     label.SetWindowText(text);
     InvalidateRect(PlaceOf(label), TRUE);
+}
+
+void CGalleryPage::FitToText(CWnd& label)
+{
+    CString text;
+    label.GetWindowText(text);
+    CClientDC dc(&label);
+    CFont* before = dc.SelectObject(label.GetFont());
+    const int width = dc.GetTextExtent(text).cx + measuringSlack;
+    dc.SelectObject(before);
+    label.SetWindowPos(NULL, 0, 0, width, PlaceOf(label).Height(), SWP_NOMOVE | SWP_NOZORDER);
 }
 
 CRect CGalleryPage::PlaceOf(const CWnd& control) const

@@ -45,6 +45,8 @@ protected:
 
     /// Changes the text of a label, which paints over what is beneath without erasing it.
     void SetLabelText(CWnd& label, const CString& text);
+    /// Gives a label the width of its text: some draw it in their middle.
+    void FitToText(CWnd& label);
     /// The rectangle of a control, in client coordinates.
     CRect PlaceOf(const CWnd& control) const;
     CRect PlaceOf(int controlId) const;

@@ -6,7 +6,7 @@ END_MESSAGE_MAP()
 
 namespace {
 
-const UINT firstRequest[] = {5, 4, 33, 17}; // None of them on the grid.
+const UINT firstRequest[] = {11, 5, 34, 17}; // Off the grid.
 const short largestRequest = 999;
 const int margin = 3; // Pixels around the rectangles.
 

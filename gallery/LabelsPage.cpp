@@ -114,15 +114,21 @@ void CLabelsPage::PrepareLinks()
 {
     m_webLink.SetTextColor(palette::accent);
     m_webLink.SetURL(""); // Opens its text.
+    FitToText(m_webLink);
 
     m_fileLink.SetWindowText(PictureFile("large.gif"));
     m_fileLink.SetLink(TRUE);
+    m_fileLink.SetLabelTextColor(palette::accent);
+    FitToText(m_fileLink);
 
     m_targetLink.SetLink(TRUE);
+    m_targetLink.SetLabelTextColor(palette::accent);
     m_targetLink.SetLinkTarget(ImageFolder());
+    FitToText(m_targetLink);
 
     m_tipLink.SetTextColor(palette::accent);
     m_tipLink.SetURL("https://www.gnu.org/licenses/license-list.html");
+    FitToText(m_tipLink);
     m_tipLink.SetToolTipText("Opens gnu.org in the web browser");
 }
 

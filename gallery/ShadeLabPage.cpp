@@ -110,7 +110,7 @@ void CShadeLabPage::OnCopy()
 
 void CShadeLabPage::OnReset()
 {
-    Choose(SHADE_DIAGONAL, 8, 30, 100, g_crShade);
+    Choose(SHADE_DIAGONAL, 8, 30, 50, g_crShade);
 }
 
 int CShadeLabPage::Value(int sliderId) const

@@ -21,6 +21,64 @@ namespace {
 const CPoint pagePlace(40, 30);
 const DWORD paintTime = 120; // Milliseconds.
 const DWORD tipTime = 900;
+const COLORREF behindColor = palette::page; // As the index page has it.
+
+// Copies a window, its frame included, to its place in a picture of `area` of the screen.
+void DrawWindow(CDC& target, HWND window, const CRect& area)
+{
+    CRect place;
+    ::GetWindowRect(window, &place);
+    CRgn shape;
+    shape.CreateRectRgn(0, 0, 0, 0);
+    const bool shaped = ::GetWindowRgn(window, shape) != ERROR;
+    if (shaped) {
+        shape.OffsetRgn(place.left - area.left, place.top - area.top);
+        target.SelectClipRgn(&shape);
+    }
+    CWindowDC source(CWnd::FromHandle(window));
+    target.BitBlt(place.left - area.left, place.top - area.top, place.Width(), place.Height(),
+                  &source, 0, 0, SRCCOPY);
+    if (shaped)
+        target.SelectClipRgn(NULL);
+}
+
+// A window and those of this program above it: a tool tip, an open list.
+std::vector<HWND> WindowsFrom(const CWnd& window)
+{
+    std::vector<HWND> windows = {window.GetSafeHwnd()};
+    for (HWND above = ::GetWindow(window.GetSafeHwnd(), GW_HWNDPREV); above != NULL;
+         above = ::GetWindow(above, GW_HWNDPREV)) {
+        const bool ours = ::GetWindowThreadProcessId(above, NULL) == ::GetCurrentThreadId();
+        if (ours && ::IsWindowVisible(above))
+            windows.push_back(above);
+    }
+    return windows;
+}
+
+CRect AreaOf(const std::vector<HWND>& windows)
+{
+    CRect area;
+    for (HWND window : windows) {
+        CRect place;
+        ::GetWindowRect(window, &place);
+        area.UnionRect(&area, &place);
+    }
+    return area;
+}
+
+// Whether all points of a coarse grid have one colour.
+bool IsBlank(CDC& dc, CSize size)
+{
+    const int step = 7; // Pixels.
+    const COLORREF first = dc.GetPixel(0, 0);
+    for (int y = 0; y < size.cy; y += step) {
+        for (int x = 0; x < size.cx; x += step) {
+            if (dc.GetPixel(x, y) != first)
+                return false;
+        }
+    }
+    return true;
+}
 
 // Takes the pictures and remembers what the index has to show.
 class CAlbum
@@ -49,22 +107,29 @@ private:
 void CAlbum::Take(CWnd& window, const char* name, const char* caption)
 {
     Settle(paintTime);
-    CRect place;
-    window.GetWindowRect(&place);
+    // Window by window, because a screen that nobody looks at may have no picture as a whole.
+    const std::vector<HWND> windows = WindowsFrom(window);
+    const CRect area = AreaOf(windows);
     CClientDC screen(NULL);
     CDC memory;
     CBitmap picture;
     if (!memory.CreateCompatibleDC(&screen) ||
-        !picture.CreateCompatibleBitmap(&screen, place.Width(), place.Height())) {
+        !picture.CreateCompatibleBitmap(&screen, area.Width(), area.Height())) {
         Fail(CString(name) + ": no memory for the picture");
         return;
     }
     CBitmap* before = memory.SelectObject(&picture);
-    memory.BitBlt(0, 0, place.Width(), place.Height(), &screen, place.left, place.top,
-                  SRCCOPY | CAPTUREBLT);
+    memory.FillSolidRect(0, 0, area.Width(), area.Height(), behindColor);
+    for (HWND each : windows)
+        DrawWindow(memory, each, area);
+    const bool blank = IsBlank(memory, area.Size());
     memory.SelectObject(before);
 
     const CString file = CString(name) + ".png";
+    if (blank) {
+        Fail(file + ": the window shows nothing");
+        return;
+    }
     if (!WritePng(m_folder + file, static_cast<HBITMAP>(picture.GetSafeHandle()))) {
         Fail(m_folder + file + " could not be written");
         return;
@@ -149,11 +214,8 @@ void ShootStart(CAlbum& album)
 {
     CStartPage page;
     CShownPage shown(album, page, IDD_START);
-    if (!shown.IsOpen())
-        return;
-    album.Take(page, "start", "The start page lists the rooms.");
-    PointAt(shown.Control(IDC_ROOM_FIRST + 2));
-    album.Take(page, "start-hot", "The pointer is over a button.");
+    if (shown.IsOpen())
+        album.Take(page, "start", "The start page lists the rooms.");
 }
 
 void ShootStartWithoutImages(CAlbum& album)
@@ -280,8 +342,10 @@ void ShootWizard(CAlbum& album)
     {
         CWizardPicturesPage page(task, NULL);
         CShownPage shown(album, page, IDD_WIZARD_PICTURES);
-        if (shown.IsOpen())
+        if (shown.IsOpen()) {
+            page.Select("large.gif");
             album.Take(page, "wizard-2", "Step 2: Back, Proceed and Cancel.");
+        }
     }
     {
         CWizardConfirmPage page(task, NULL);

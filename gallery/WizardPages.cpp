@@ -158,6 +158,12 @@ BOOL CWizardPicturesPage::OnInitDialog()
     return TRUE;
 }
 
+void CWizardPicturesPage::Select(const CString& fileName)
+{
+    if (m_list.SelectString(-1, fileName) != LB_ERR)
+        OnPicture();
+}
+
 void CWizardPicturesPage::DoDataExchange(CDataExchange* pDX)
 {
     CWizardPage::DoDataExchange(pDX);
@@ -231,6 +237,7 @@ BOOL CWizardResultPage::OnInitDialog()
     m_link.SetWindowText(m_task.indexFile);
     m_link.SetTextColor(palette::accent);
     m_link.SetURL(m_task.indexFile);
+    FitToText(m_link);
     m_link.SetToolTipText("Opens the page in the web browser");
     return TRUE;
 }

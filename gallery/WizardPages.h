@@ -56,6 +56,9 @@ public:
 
     BOOL OnInitDialog() override;
 
+    /// Shows one of the pictures.
+    void Select(const CString& fileName);
+
 protected:
     CListBox m_list;
     CPicturePreview m_preview;

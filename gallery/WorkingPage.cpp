@@ -29,7 +29,11 @@ bool IsPrime(unsigned odd)
 
 } // namespace
 
-CWorkingDialog::CWorkingDialog() : CModellessDlg(NULL) {}
+CWorkingDialog::CWorkingDialog() : CModellessDlg(NULL)
+{
+    m_bSolidFill = TRUE;
+    m_crFill = palette::page;
+}
 
 BOOL CWorkingDialog::OnInitDialog()
 {
@@ -116,7 +120,7 @@ bool CWorkingPage::WorkOn()
 
     const int percent = static_cast<int>(100.0 * m_next / limit);
     CString detail;
-    detail.Format("%u of %u numbers tested, %u prime numbers found.", min(m_next, limit), limit,
+    detail.Format("%u of %u tested: %u are prime.", min(m_next, limit), limit,
                   m_primes);
     Dialog()->ShowProgress(percent, detail);
     // Not at once: a click meant for the Start button is not to cancel the work.
