@@ -24,9 +24,10 @@ constexpr size_t gdiTableOffsetInPeb = 0xF8;
 
 const GdiTableEntry* FindGdiTable()
 {
-    constexpr size_t pebOffsetInTeb = 0x60;
-    const auto* teb = reinterpret_cast<const BYTE*>(::NtCurrentTeb());
-    const auto* peb = *reinterpret_cast<const BYTE* const*>(teb + pebOffsetInTeb);
+    using GetPeb = const BYTE*(WINAPI*)();
+    const auto getPeb = reinterpret_cast<GetPeb>(reinterpret_cast<void*>(
+        ::GetProcAddress(::GetModuleHandleA("ntdll.dll"), "RtlGetCurrentPeb")));
+    const BYTE* peb = getPeb();
     return *reinterpret_cast<const GdiTableEntry* const*>(peb + gdiTableOffsetInPeb);
 }
 

@@ -2,7 +2,8 @@
 //
 // A module reaches another module's functions through its import table; a hook changes one entry
 // there, so that only calls from that module are caught, and puts it back at its end. Calls of
-// functions that the module found with GetProcAddress are not seen.
+// functions that the module found with GetProcAddress are not seen. Nor may be those of a function
+// that is running when the hook comes or goes: a compiler may read the entry once for several calls.
 #pragma once
 
 #include <windows.h>

@@ -114,8 +114,11 @@ const MessageLog::Entry* MessageLog::Last(UINT message) const
 std::string MessageLog::Names() const
 {
     std::string names;
-    for (const Entry& entry : entries_)
-        names += (names.empty() ? "" : " ") + MessageName(entry.message);
+    for (const Entry& entry : entries_) {
+        if (!names.empty())
+            names += ' ';
+        names += MessageName(entry.message);
+    }
     return names;
 }
 

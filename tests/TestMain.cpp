@@ -6,6 +6,7 @@
 #include <doctest/doctest.h>
 
 #include <testing/CrashReport.h>
+#include <testing/Input.h>
 
 #include <cstdio>
 #include <cstdlib>
@@ -64,6 +65,7 @@ int main(int argc, char** argv)
         std::fputs("the class library could not be initialised\n", stderr);
         return EXIT_FAILURE;
     }
+    umbra::testing::MovePointerAway(); // From wherever another program has left it.
     doctest::Context context(argc, argv);
     context.setOption("no-path-filenames", true);
     if (!::IsDebuggerPresent())

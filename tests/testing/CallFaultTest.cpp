@@ -6,6 +6,17 @@ using namespace umbra::testing;
 
 namespace {
 
+/// Calls of their own each time: the compiler may read an import's address once in a function and
+/// keep it for the calls that follow there.
+DECLSPEC_NOINLINE HDC MakeDc()
+{
+    return ::CreateCompatibleDC(nullptr);
+}
+DECLSPEC_NOINLINE int Metric(int index)
+{
+    return ::GetSystemMetrics(index);
+}
+
 HMODULE ThisModule()
 {
     return ModuleOf(reinterpret_cast<const void*>(&ThisModule));
@@ -36,13 +47,13 @@ TEST_CASE("only the n-th call fails, with the result and the error that were ask
 {
     FailNth fault(ThisModule(), "gdi32.dll", "CreateCompatibleDC", 2, {0, 1234});
     REQUIRE(fault.IsInstalled());
-    HDC first = ::CreateCompatibleDC(nullptr);
+    HDC first = MakeDc();
     CHECK(first != nullptr);
     ::SetLastError(0);
-    CHECK(::CreateCompatibleDC(nullptr) == nullptr);
+    CHECK(MakeDc() == nullptr);
     CHECK(::GetLastError() == 1234);
     CHECK(fault.Failed() == 1);
-    HDC third = ::CreateCompatibleDC(nullptr);
+    HDC third = MakeDc();
     CHECK(third != nullptr);
     CHECK(fault.Calls() == 3);
     CHECK(fault.Failed() == 1);
@@ -54,8 +65,8 @@ TEST_CASE("a failing call may return any value")
 {
     const FailAlways fault(ThisModule(), "user32.dll", "GetSystemMetrics",
                            {static_cast<ULONG_PTR>(-5), 0});
-    CHECK(::GetSystemMetrics(SM_CXSCREEN) == -5);
-    CHECK(::GetSystemMetrics(SM_CYSCREEN) == -5);
+    CHECK(Metric(SM_CXSCREEN) == -5);
+    CHECK(Metric(SM_CYSCREEN) == -5);
     CHECK(fault.Failed() == 2);
 }
 
@@ -63,10 +74,10 @@ TEST_CASE("calls go through again when the fault has ended")
 {
     {
         const FailAlways fault(ThisModule(), "gdi32.dll", "CreateCompatibleDC");
-        CHECK(::CreateCompatibleDC(nullptr) == nullptr);
+        CHECK(MakeDc() == nullptr);
         CHECK(::GetLastError() == ERROR_NOT_ENOUGH_MEMORY);
     }
-    HDC dc = ::CreateCompatibleDC(nullptr);
+    HDC dc = MakeDc();
     CHECK(dc != nullptr);
     ::DeleteDC(dc);
 }

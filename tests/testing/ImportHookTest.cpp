@@ -21,6 +21,13 @@ int WINAPI DoubleMetric(int index)
     return 2 * currentHook->OriginalAs<decltype(::GetSystemMetrics)>()(index);
 }
 
+/// A call of its own each time: the compiler may read an import's address once in a function and
+/// keep it for the calls that follow there.
+DECLSPEC_NOINLINE int ScreenWidth()
+{
+    return ::GetSystemMetrics(SM_CXSCREEN);
+}
+
 HMODULE ThisModule()
 {
     return ModuleOf(reinterpret_cast<const void*>(&AnswerMetric));
@@ -30,21 +37,21 @@ HMODULE ThisModule()
 
 TEST_CASE("a hook catches the module's calls while it lives")
 {
-    const int width = ::GetSystemMetrics(SM_CXSCREEN);
+    const int width = ScreenWidth();
     {
         const ImportHook hook(ThisModule(), "user32.dll", "GetSystemMetrics", AnswerMetric);
         REQUIRE(hook.IsInstalled());
-        CHECK(::GetSystemMetrics(SM_CXSCREEN) == 12345);
+        CHECK(ScreenWidth() == 12345);
     }
-    CHECK(::GetSystemMetrics(SM_CXSCREEN) == width);
+    CHECK(ScreenWidth() == width);
 }
 
 TEST_CASE("a replacement can call what it replaces")
 {
-    const int width = ::GetSystemMetrics(SM_CXSCREEN);
+    const int width = ScreenWidth();
     const ImportHook hook(ThisModule(), "USER32", "GetSystemMetrics", DoubleMetric);
     currentHook = &hook;
-    CHECK(::GetSystemMetrics(SM_CXSCREEN) == 2 * width);
+    CHECK(ScreenWidth() == 2 * width);
 }
 
 TEST_CASE("a hook in one module leaves the others alone")
