@@ -6,3 +6,5 @@
 void PrintPixelTable();
 // The making of a button's six bitmaps against the plain making of them.
 void PrintFacesTable();
+// The repaint of a button against that of a minimal owner-drawn one.
+void PrintRepaintTable();

@@ -17,6 +17,7 @@ struct Table
 constexpr Table kTables[] = {
     {"pixels", "Pixels of a face", PrintPixelTable},
     {"faces", "All bitmaps of a button", PrintFacesTable},
+    {"repaint", "Repaint of a button", PrintRepaintTable},
 };
 
 bool IsWanted(const Table& table, int count, char** names)

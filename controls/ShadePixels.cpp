@@ -18,7 +18,7 @@ using std::uint8_t;
 constexpr int kScratchCount = 200;
 constexpr int kScratchDivisor = 819; // gives indices 0 to 40
 constexpr int kScratchRoom = 40;     // what the ramp of a scratched face leaves for them
-constexpr int kScratchBand = 32768;  // bytes of a face that stay near at hand
+constexpr int kScratchBand = 131072; // bytes of a face that stay near at hand
 constexpr int kMaxRamp = 16;         // columns of the side ramps of a rounded bump
 
 // Rows to work in, rounded up as the kernels need it.
@@ -320,15 +320,19 @@ private:
         const GrainDivider dividerX = DividerOf(maxX);
         const GrainDivider dividerY = DividerOf(maxY);
         const GrainDivider dividerLength = DividerOf(std::max(maxX, maxY));
+        int count = 0;
         for (int i = 0; i < kScratchCount; ++i) {
             const int x = dividerX.Divide(m_random.Next());
             const int y = dividerY.Divide(m_random.Next());
             const int half = dividerLength.Divide(m_random.Next()) / 2;
             const auto index = static_cast<uint8_t>(m_random.Next() / kScratchDivisor);
-            scratches[i * 2] = LeftHalf(x, y, half, index);
-            scratches[i * 2 + 1] = RightHalf(x, y, half, index);
+            // Empty halves are overwritten by the next.
+            scratches[count] = LeftHalf(x, y, half, index);
+            count += scratches[count].first < scratches[count].end;
+            scratches[count] = RightHalf(x, y, half, index);
+            count += scratches[count].first < scratches[count].end;
         }
-        return kScratchCount * 2;
+        return count;
     }
 
     // The pixels (x - i, y + i), y from the top, for which 0 < x - i < width and y + i < height.
@@ -353,21 +357,25 @@ private:
         return {row + first, row + end, m_width - x - row, index};
     }
 
-    // The part within the rows first to end - 1. Pixels are set eight at a time, the last one more
-    // than once if need be: most scratches of a button are no longer, and a loop whose length
-    // cannot be foreseen costs more than the pixels.
+    // The part within the rows first to end - 1. Pixels are set eight at a time, the last one of
+    // the rest more than once if need be: most scratches of a button are no longer, and a loop
+    // whose length cannot be foreseen costs more than the pixels.
     void DrawScratch(const Scratch& scratch, int first, int end) const
     {
         constexpr int kAtOnce = 8;
         first = std::max(first, scratch.first);
-        end = std::min(end, scratch.end);
+        int left = std::min(end, scratch.end) - first;
+        if (left <= 0)
+            return;
+        const uint8_t index = scratch.index;
         const std::ptrdiff_t step = m_surface.stride + 1;
-        for (int r = first; r < end; r += kAtOnce) {
-            uint8_t* pixel = RowOf(r) + r + scratch.diagonal;
-            const int last = end - 1 - r;
+        uint8_t* pixel = RowOf(first) + first + scratch.diagonal;
+        for (; left > kAtOnce; left -= kAtOnce, pixel += kAtOnce * step) {
             for (int i = 0; i < kAtOnce; ++i)
-                pixel[std::min(i, last) * step] = scratch.index;
+                pixel[i * step] = index;
         }
+        for (int i = 0; i < kAtOnce; ++i)
+            pixel[std::min(i, left - 1) * step] = index;
     }
 
     // The cubic profile lessened by the grain and set on mid-grey.
