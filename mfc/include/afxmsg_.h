@@ -415,6 +415,7 @@ protected:                                                                      
 #define ON_WM_INITMENUPOPUP()                                                                      \
     AFXINT_WM(WM_INITMENUPOPUP, InitMenuPopup, &ThisClass::OnInitMenuPopup)
 #define ON_WM_INPUT() AFXINT_WM(WM_INPUT, RawInput, &ThisClass::OnRawInput)
+#define ON_WM_RAWINPUT() ON_WM_INPUT()
 #define ON_WM_INPUTLANGCHANGE()                                                                    \
     AFXINT_WM(WM_INPUTLANGCHANGE, NumberPair, &ThisClass::OnInputLangChange)
 #define ON_WM_INPUTLANGCHANGEREQUEST()                                                             \

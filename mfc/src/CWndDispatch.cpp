@@ -121,7 +121,6 @@ bool WindowMessages::TakeOver(CWnd* object, HWND window)
 {
     if (!object->Attach(window))
         return false;
-    object->superProc_ = TakeKeptFormer(window);
     object->PreSubclassWindow();
     const auto former = reinterpret_cast<WNDPROC>(
         SetWindowLongPtr(window, GWLP_WNDPROC, reinterpret_cast<LONG_PTR>(&Procedure)));
