@@ -9,3 +9,10 @@ else()
       -fsanitize=undefined -fsanitize-undefined-trap-on-error -fno-sanitize=null,alignment)
   endif()
 endif()
+
+# Test programs are built more often than they run, so they are compiled quickly.
+add_library(umbra_test_options INTERFACE)
+target_link_libraries(umbra_test_options INTERFACE umbra_options)
+if(NOT MSVC)
+  target_compile_options(umbra_test_options INTERFACE -O1)
+endif()

@@ -72,7 +72,7 @@ public:
                          static_cast<DWORD>(value.size() + 1));
         ::RegCloseKey(opened);
     }
-    ~RegisteredClass() { ::RegDeleteTreeA(HKEY_CLASSES_ROOT, m_root.c_str()); }
+    ~RegisteredClass() { ::SHDeleteKeyA(HKEY_CLASSES_ROOT, m_root.c_str()); }
     RegisteredClass(const RegisteredClass&) = delete;
     RegisteredClass& operator=(const RegisteredClass&) = delete;
 

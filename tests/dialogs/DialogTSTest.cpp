@@ -32,6 +32,7 @@ public:
     int m_defaultErases = 0;
     bool m_postedBeforeDefault = false;
     int m_defaultPresses = 0;
+    CPoint m_dragTo; ///< Where the real pointer goes, in screen pixels, once a move has begun.
     CRect m_asked; ///< The creation record as the default procedure got it.
 
 protected:
@@ -47,6 +48,14 @@ protected:
             ++m_defaultErases;
             if (m_eraseAnswer != -1)
                 return m_eraseAnswer;
+        }
+        if (message == WM_ENTERSIZEMOVE) {
+            // The system's move loop runs from here on; the pointer moves and lets go in it.
+            ::SetCursorPos(m_dragTo.x, m_dragTo.y);
+            INPUT release = {};
+            release.type = INPUT_MOUSE;
+            release.mi.dwFlags = MOUSEEVENTF_LEFTUP;
+            ::SendInput(1, &release, sizeof(release));
         }
         if (message == WM_LBUTTONDOWN) {
             ++m_defaultPresses;
@@ -454,7 +463,11 @@ TEST_CASE("with dragging on, the real pointer moves the dialog from any point of
     REQUIRE(page.IsOpen());
     CRect before;
     dialog.GetWindowRect(&before);
-    Drag(dialog.m_hWnd, {30, 30}, {90, 70});
+    CPoint start(30, 30);
+    REQUIRE(MovePointer(dialog.m_hWnd, start));
+    dialog.ClientToScreen(&start);
+    dialog.m_dragTo = start + CSize(60, 40);
+    PressLeft();
     CRect after;
     WaitUntil([&] {
         dialog.GetWindowRect(&after);

@@ -229,17 +229,18 @@ TEST_CASE("a picture of 10,000 by 10,000 pixels gives no picture or a good one")
 TEST_CASE("an icon gives no picture")
 {
     // One image of 16 x 16 pixels in two colours.
-    std::vector<BYTE> icon = {0, 0, 1, 0, 1, 0, 16, 16, 2, 0, 1, 0, 1, 0, 176, 0, 0, 0, 22, 0, 0, 0};
+    const BYTE directory[] = {0, 0, 1, 0, 1, 0, 16, 16, 2, 0, 1, 0, 1, 0, 176, 0, 0, 0, 22, 0, 0, 0};
     BITMAPINFOHEADER info = {};
     info.biSize = sizeof(info);
     info.biWidth = 16;
     info.biHeight = 32;
     info.biPlanes = 1;
     info.biBitCount = 1;
-    const BYTE* header = reinterpret_cast<const BYTE*>(&info);
-    icon.insert(icon.end(), header, header + sizeof(info));
-    icon.insert(icon.end(), {0, 0, 0, 0, 255, 255, 255, 0});
-    icon.resize(icon.size() + 128, 0x55);
+    const BYTE palette[] = {0, 0, 0, 0, 255, 255, 255, 0};
+    std::vector<BYTE> icon(sizeof(directory) + sizeof(info) + sizeof(palette) + 128, 0x55);
+    memcpy(icon.data(), directory, sizeof(directory));
+    memcpy(icon.data() + sizeof(directory), &info, sizeof(info));
+    memcpy(icon.data() + sizeof(directory) + sizeof(info), palette, sizeof(palette));
     const std::string path = TempFile("umbra-icon.ico");
     WriteFile(path, icon);
     CHECK_FALSE(Loads(path));
