@@ -37,8 +37,8 @@ protected:
     DECLARE_MESSAGE_MAP()
 };
 BEGIN_MESSAGE_MAP(CDocumentLike, CCmdTarget)
-ON_COMMAND(commandId, OnDo)
-ON_UPDATE_COMMAND_UI(commandId, OnUpdate)
+    ON_COMMAND(commandId, OnDo)
+    ON_UPDATE_COMMAND_UI(commandId, OnUpdate)
 END_MESSAGE_MAP()
 
 class COwner : public CWnd
@@ -52,8 +52,8 @@ protected:
     DECLARE_MESSAGE_MAP()
 };
 BEGIN_MESSAGE_MAP(COwner, CWnd)
-ON_COMMAND(commandId, OnCommandOfOwner)
-ON_BN_CLICKED(controlId, OnControlOfOwner)
+    ON_COMMAND(commandId, OnCommandOfOwner)
+    ON_BN_CLICKED(controlId, OnControlOfOwner)
 END_MESSAGE_MAP()
 
 /// Enables and disables its own commands.
@@ -71,8 +71,8 @@ protected:
     DECLARE_MESSAGE_MAP()
 };
 BEGIN_MESSAGE_MAP(CUpdating, CWnd)
-ON_COMMAND(commandId, OnDo)
-ON_UPDATE_COMMAND_UI(commandId, OnUpdate)
+    ON_COMMAND(commandId, OnDo)
+    ON_UPDATE_COMMAND_UI(commandId, OnUpdate)
 END_MESSAGE_MAP()
 
 class CPage : public CDialog
@@ -111,7 +111,7 @@ protected:
 };
 IMPLEMENT_DYNCREATE(CPageThread, CWinThread)
 BEGIN_MESSAGE_MAP(CPageThread, CWinThread)
-ON_COMMAND(threadCommandId, OnCommandOfThread)
+    ON_COMMAND(threadCommandId, OnCommandOfThread)
 END_MESSAGE_MAP()
 
 } // namespace

@@ -110,10 +110,10 @@ public:
     HGDIOBJ font = NULL;
 };
 BEGIN_MESSAGE_MAP(CRecorded, CDialog)
-ON_EN_CHANGE(editId, OnChange)
-ON_MESSAGE(laterMessage, OnLater)
-ON_WM_SHOWWINDOW()
-ON_WM_CTLCOLOR()
+    ON_EN_CHANGE(editId, OnChange)
+    ON_MESSAGE(laterMessage, OnLater)
+    ON_WM_SHOWWINDOW()
+    ON_WM_CTLCOLOR()
 END_MESSAGE_MAP()
 
 class COwnerWindow : public CWnd
@@ -136,7 +136,7 @@ protected:
     DECLARE_MESSAGE_MAP()
 };
 BEGIN_MESSAGE_MAP(COwnerWindow, CWnd)
-ON_WM_ENTERIDLE()
+    ON_WM_ENTERIDLE()
 END_MESSAGE_MAP()
 
 /// Makes the window the main window of the program for a scope.

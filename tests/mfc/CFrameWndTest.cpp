@@ -48,9 +48,9 @@ protected:
 };
 IMPLEMENT_DYNCREATE(CTestFrame, CFrameWnd)
 BEGIN_MESSAGE_MAP(CTestFrame, CFrameWnd)
-ON_COMMAND(ID_ACTION, OnAction)
-ON_COMMAND(ID_CHECKED, OnAction)
-ON_UPDATE_COMMAND_UI(ID_CHECKED, OnUpdateChecked)
+    ON_COMMAND(ID_ACTION, OnAction)
+    ON_COMMAND(ID_CHECKED, OnAction)
+    ON_UPDATE_COMMAND_UI(ID_CHECKED, OnUpdateChecked)
 END_MESSAGE_MAP()
 
 /// A frame with the resources of the test, destroyed at the end of the scope.

@@ -65,10 +65,10 @@ protected:
     DECLARE_MESSAGE_MAP()
 };
 BEGIN_MESSAGE_MAP(CCurrent, CPlain)
-ON_MESSAGE(WM_SETTEXT, OnText)
-ON_MESSAGE(nestedMessage, OnNested)
-ON_WM_NCCREATE()
-ON_WM_WINDOWPOSCHANGING()
+    ON_MESSAGE(WM_SETTEXT, OnText)
+    ON_MESSAGE(nestedMessage, OnNested)
+    ON_WM_NCCREATE()
+    ON_WM_WINDOWPOSCHANGING()
 END_MESSAGE_MAP()
 
 // --- Failing handlers. ---
@@ -90,8 +90,8 @@ protected:
     DECLARE_MESSAGE_MAP()
 };
 BEGIN_MESSAGE_MAP(CFailing, CPlain)
-ON_MESSAGE(failingMessage, OnFailing)
-ON_WM_PAINT()
+    ON_MESSAGE(failingMessage, OnFailing)
+    ON_WM_PAINT()
 END_MESSAGE_MAP()
 
 class CFailingCreation : public CPlain
@@ -101,7 +101,7 @@ protected:
     DECLARE_MESSAGE_MAP()
 };
 BEGIN_MESSAGE_MAP(CFailingCreation, CPlain)
-ON_WM_CREATE()
+    ON_WM_CREATE()
 END_MESSAGE_MAP()
 
 // --- The end of a window. ---
@@ -123,7 +123,7 @@ protected:
     DECLARE_MESSAGE_MAP()
 };
 BEGIN_MESSAGE_MAP(CSelfDeleting, CPlain)
-ON_MESSAGE(countedMessage, OnCounted)
+    ON_MESSAGE(countedMessage, OnCounted)
 END_MESSAGE_MAP()
 
 class CForgetful : public CPlain
@@ -133,7 +133,7 @@ protected:
     DECLARE_MESSAGE_MAP()
 };
 BEGIN_MESSAGE_MAP(CForgetful, CPlain)
-ON_WM_NCDESTROY()
+    ON_WM_NCDESTROY()
 END_MESSAGE_MAP()
 
 // --- Subclassing. ---
@@ -157,7 +157,7 @@ protected:
     DECLARE_MESSAGE_MAP()
 };
 BEGIN_MESSAGE_MAP(CCountingEdit, CEdit)
-ON_MESSAGE(countedMessage, OnCounted)
+    ON_MESSAGE(countedMessage, OnCounted)
 END_MESSAGE_MAP()
 
 HWND MakeStranger(LPCTSTR className = "Edit")
@@ -191,7 +191,7 @@ protected:
     DECLARE_MESSAGE_MAP()
 };
 BEGIN_MESSAGE_MAP(CHolding, CPlain)
-ON_MESSAGE(countedMessage, OnCounted)
+    ON_MESSAGE(countedMessage, OnCounted)
 END_MESSAGE_MAP()
 
 // --- Tool tips. ---
@@ -214,7 +214,7 @@ public:
     DECLARE_MESSAGE_MAP()
 };
 BEGIN_MESSAGE_MAP(CTipped, CPlain)
-ON_NOTIFY_EX(TTN_NEEDTEXT, 0, OnNeedText)
+    ON_NOTIFY_EX(TTN_NEEDTEXT, 0, OnNeedText)
 END_MESSAGE_MAP()
 
 HWND VisibleTip()

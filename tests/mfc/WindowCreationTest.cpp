@@ -70,9 +70,9 @@ protected:
     DECLARE_MESSAGE_MAP()
 };
 BEGIN_MESSAGE_MAP(CWitness, CWnd)
-ON_WM_NCCREATE()
-ON_WM_CREATE()
-ON_WM_DESTROY()
+    ON_WM_NCCREATE()
+    ON_WM_CREATE()
+    ON_WM_DESTROY()
 END_MESSAGE_MAP()
 
 using Events = std::vector<std::string>;
@@ -105,7 +105,7 @@ protected:
     DECLARE_MESSAGE_MAP()
 };
 BEGIN_MESSAGE_MAP(CWitnessDialog, CDialog)
-ON_WM_CREATE()
+    ON_WM_CREATE()
 END_MESSAGE_MAP()
 
 /// A control that is attached when its dialog is there already.
@@ -126,7 +126,7 @@ protected:
     DECLARE_MESSAGE_MAP()
 };
 BEGIN_MESSAGE_MAP(CLateStatic, CStatic)
-ON_WM_CREATE()
+    ON_WM_CREATE()
 END_MESSAGE_MAP()
 
 class CThrowing : public CWnd
