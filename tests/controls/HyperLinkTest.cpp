@@ -1,0 +1,451 @@
+#include <controls/HyperLink.h>
+
+#include "../programs/HelpProgram.h"
+#include "LabelHost.h"
+#include "ShellSpy.h"
+
+#include <shell/HandCursor.h>
+
+#include <testing/GdiObjects.h>
+#include <testing/Input.h>
+#include <testing/Picture.h>
+#include <testing/Pump.h>
+
+#include <doctest/doctest.h>
+
+#include <vector>
+
+using namespace umbra::testing;
+
+namespace {
+
+const COLORREF green = RGB(20, 160, 60); // What the host is filled with.
+const COLORREF red = RGB(200, 30, 40);
+const COLORREF black = RGB(0, 0, 0);
+
+const CRect labelPlace(50, 60, 250, 100);
+
+class TestLink : public CHyperLink
+{
+public:
+    using CHyperLink::m_bBitmapLoaded;
+    using CHyperLink::m_bIsLink;
+    using CHyperLink::m_bmpMask;
+    using CHyperLink::m_bmpPicture;
+    using CHyperLink::m_bToolTip;
+    using CHyperLink::m_crText;
+    using CHyperLink::m_crTransparent;
+    using CHyperLink::m_nBitmapHeight;
+    using CHyperLink::m_nBitmapWidth;
+    using CHyperLink::m_strURL;
+    using CHyperLink::m_ToolTip;
+};
+
+struct Link
+{
+    explicit Link(const char* text, DWORD style = SS_NOTIFY)
+    {
+        control.SubclassWindow(host.AddStatic(labelPlace, text, style));
+    }
+
+    void Press() { control.SendMessage(WM_LBUTTONDOWN, MK_LBUTTON, MAKELPARAM(3, 3)); }
+
+    LRESULT AskCursor()
+    {
+        ::SetCursor(::LoadCursor(NULL, IDC_CROSS));
+        return control.SendMessage(WM_SETCURSOR, reinterpret_cast<WPARAM>(control.m_hWnd),
+                                   MAKELPARAM(HTCLIENT, WM_MOUSEMOVE));
+    }
+
+    LabelHost host;
+    TestLink control;
+};
+
+LOGFONT DescribeFont(CWnd& window)
+{
+    LOGFONT description = {};
+    ::GetObject(reinterpret_cast<HGDIOBJ>(window.SendMessage(WM_GETFONT)), sizeof(description),
+                &description);
+    return description;
+}
+
+std::string TipText(TestLink& link)
+{
+    char text[256] = "";
+    TOOLINFO tool = {};
+    tool.cbSize = TTTOOLINFOA_V1_SIZE;
+    tool.hwnd = link.m_hWnd;
+    tool.uId = 1;
+    tool.lpszText = text;
+    link.m_ToolTip.SendMessage(TTM_GETTEXT, 0, reinterpret_cast<LPARAM>(&tool));
+    return text;
+}
+
+/// Notes the messages that a tool tip gets.
+std::vector<MSG> relayed;
+std::vector<std::pair<UINT, std::pair<WPARAM, LPARAM>>> tipMessages;
+
+LRESULT CALLBACK WatchTip(HWND window, UINT message, WPARAM wParam, LPARAM lParam, UINT_PTR,
+                          DWORD_PTR)
+{
+    tipMessages.push_back({message, {wParam, lParam}});
+    if (message == TTM_RELAYEVENT)
+        relayed.push_back(*reinterpret_cast<MSG*>(lParam));
+    return ::DefSubclassProc(window, message, wParam, lParam);
+}
+
+} // namespace
+
+TEST_CASE("a new label is no link, has black text, no picture and no tool tip")
+{
+    const TestLink link;
+    CHECK_FALSE(link.m_bIsLink);
+    CHECK_FALSE(link.m_bToolTip);
+    CHECK_FALSE(link.m_bBitmapLoaded);
+    CHECK(link.m_crText == RGB(0, 0, 0));
+    CHECK(link.m_crTransparent == 0xFFFFFFFF);
+    CHECK(link.m_strURL.IsEmpty());
+    CHECK(link.m_ToolTip.m_hWnd == NULL);
+}
+
+TEST_CASE("text is centred and wrapped in its colour over what is beneath")
+{
+    Link link("Some words that need more than a single line of this label, surely");
+    link.control.SetTextColor(red);
+    const Picture shown = link.host.Show();
+    const CRect text = shown.BoundsOfOthers(green);
+    CHECK(shown.Contains(red));
+    CHECK(text.Height() > 20); // Two lines at least.
+    CHECK(labelPlace.left <= text.left);
+    CHECK(text.right <= labelPlace.right);
+    CHECK(abs((text.left + text.right) - (labelPlace.left + labelPlace.right)) < 16);
+    CHECK(shown.Crop(labelPlace).CountOf(green) > labelPlace.Width() * labelPlace.Height() / 3);
+}
+
+TEST_CASE("setting the text colour repaints nothing by itself")
+{
+    Link link("Text");
+    link.host.Show();
+    link.control.SetTextColor(red);
+    CHECK_FALSE(link.control.GetUpdateRect(NULL));
+    CHECK_FALSE(link.host.GetUpdateRect(NULL));
+}
+
+TEST_CASE("a target makes the label an underlined link and changes nothing else of its font")
+{
+    Link link("Text");
+    LOGFONT before = DescribeFont(link.control);
+    link.control.SetURL("http://example.invalid/");
+    CHECK(link.control.m_bIsLink);
+    CHECK(link.control.m_strURL == "http://example.invalid/");
+    LOGFONT after = DescribeFont(link.control);
+    CHECK(after.lfUnderline != 0);
+    before.lfUnderline = after.lfUnderline = 0;
+    CHECK(memcmp(&before, &after, sizeof(LOGFONT)) == 0);
+}
+
+TEST_CASE("the link font of a label that is no link is semibold")
+{
+    Link link("Text");
+    link.control.ApplyLinkFont();
+    CHECK(DescribeFont(link.control).lfWeight == 600);
+    CHECK(DescribeFont(link.control).lfUnderline == 0);
+    // A link made of it keeps the weight of the first call.
+    link.control.SetURL("x");
+    CHECK(DescribeFont(link.control).lfWeight == 600);
+    CHECK(DescribeFont(link.control).lfUnderline != 0);
+}
+
+TEST_CASE("a control without a font takes the default GUI font for its link font")
+{
+    Link link("Text");
+    link.control.SendMessage(WM_SETFONT, 0, FALSE);
+    link.control.ApplyLinkFont();
+    LOGFONT gui = {};
+    ::GetObject(::GetStockObject(DEFAULT_GUI_FONT), sizeof(gui), &gui);
+    const LOGFONT own = DescribeFont(link.control);
+    CHECK(own.lfHeight == gui.lfHeight);
+    CHECK(own.lfWeight == 600);
+}
+
+TEST_CASE("each link font leaves one font behind")
+{
+    Link link("Text");
+    link.control.ApplyLinkFont();
+    const BalancedGdi objects;
+    for (int i = 0; i < 5; ++i)
+        link.control.ApplyLinkFont();
+    CHECK(objects.Describe() == "fonts +5");
+}
+
+TEST_CASE("a press on a link opens its target, trimmed, shown normally")
+{
+    const ShellSpy shell;
+    REQUIRE(shell.IsInstalled());
+    Link link("The text");
+    link.control.SetURL(" \thttp://example.invalid/ ");
+    link.host.Show();
+    REQUIRE(MovePointer(link.control.m_hWnd));
+    PressLeft();
+    CHECK(shell.Asked().size() == 1); // The press opens, not the release.
+    ReleaseLeft();
+    REQUIRE(shell.Asked().size() == 1);
+    CHECK(shell.Asked()[0].target == "http://example.invalid/");
+    CHECK(shell.Asked()[0].show == SW_SHOWNORMAL);
+}
+
+TEST_CASE("a link without a target opens its text")
+{
+    const ShellSpy shell;
+    Link link("  file.txt  ");
+    link.control.SetURL("");
+    link.Press();
+    REQUIRE(shell.Asked().size() == 1);
+    CHECK(shell.Asked()[0].target == "file.txt");
+}
+
+TEST_CASE("a target of blanks passes as an empty string; no target and no text open nothing")
+{
+    const ShellSpy shell;
+    Link link("");
+    link.control.SetURL("");
+    link.Press();
+    CHECK(shell.Asked().empty());
+    link.control.SetURL("   ");
+    link.Press();
+    REQUIRE(shell.Asked().size() == 1);
+    CHECK(shell.Asked()[0].target.empty());
+}
+
+TEST_CASE("a label that is no link ignores a press")
+{
+    const ShellSpy shell;
+    Link link("http://example.invalid/");
+    link.Press();
+    CHECK(shell.Asked().empty());
+}
+
+TEST_CASE("what the shell cannot open goes to the program for web pages")
+{
+    const RegisteredClass extension(".htm", "umbra.page");
+    const RegisteredClass command("umbra.page\\shell\\open\\command", "browser.exe \"%1\" -tab");
+    const ShellSpy shell(31);
+    Link link("Text");
+    link.control.SetURL("http://example.invalid/a b");
+    link.Press();
+    REQUIRE(shell.Run().size() == 1);
+    CHECK(shell.Run()[0].target == "browser.exe  http://example.invalid/a b");
+    CHECK(shell.Run()[0].show == SW_SHOWNORMAL);
+}
+
+TEST_CASE("the hand shows over a link with text")
+{
+    const HelpProgram help;
+    REQUIRE(help.IsInstalled());
+    Link link("Text");
+    link.control.SetURL("x");
+    CHECK(link.AskCursor() == TRUE);
+    REQUIRE(LoadHandCursor() != NULL);
+    CHECK(::GetCursor() == LoadHandCursor());
+}
+
+TEST_CASE("the real pointer becomes a hand over a link and an arrow beside it")
+{
+    const HelpProgram help;
+    Link link("Text");
+    link.control.SetURL("x");
+    link.host.Show();
+    REQUIRE(MovePointer(link.control.m_hWnd));
+    CHECK(::GetCursor() == LoadHandCursor());
+    REQUIRE(MovePointer(link.host.m_hWnd, {5, 5}));
+    CHECK(::GetCursor() == ::LoadCursor(NULL, IDC_ARROW));
+}
+
+TEST_CASE("no link, or a link without text, has the default cursor; the latter still opens")
+{
+    const ShellSpy shell;
+    Link plain("Text");
+    plain.AskCursor();
+    CHECK(::GetCursor() == ::LoadCursor(NULL, IDC_ARROW));
+
+    Link empty("");
+    empty.control.SetURL("target");
+    empty.AskCursor();
+    CHECK(::GetCursor() == ::LoadCursor(NULL, IDC_ARROW));
+    empty.Press();
+    CHECK(shell.Asked().size() == 1);
+}
+
+TEST_CASE("a keyed picture shows at the corner, under the text")
+{
+    Link link("");
+    link.control.SetTransparentColor(black);
+    CHECK(link.control.SetBitmapFile(ImagePath("Next.gif").c_str()) == TRUE);
+    CHECK(link.control.m_bBitmapLoaded);
+    CHECK(link.control.m_nBitmapWidth == 19);
+    CHECK(link.control.m_nBitmapHeight == 19);
+    CHECK(link.control.m_bmpMask.GetSafeHandle() != NULL);
+    const Picture shown = link.host.Show().Crop(labelPlace);
+    CHECK_FALSE(shown.Contains(black));
+    const CRect picture = shown.BoundsOfOthers(green);
+    CHECK(picture.right <= 19);
+    CHECK(picture.bottom <= 19);
+    CHECK(picture.Width() > 10);
+}
+
+TEST_CASE("without a key colour no picture is drawn, even if one was loaded")
+{
+    Link link("");
+    link.control.SetBitmapFile(ImagePath("Next.gif").c_str());
+    CHECK(link.control.m_bBitmapLoaded);
+    const Picture shown = link.host.Show();
+    CHECK(shown.CountOf(green) == shown.Width() * shown.Height());
+}
+
+TEST_CASE("a key colour without a picture draws the text only")
+{
+    Link link("");
+    link.control.SetTransparentColor(black);
+    const Picture shown = link.host.Show();
+    CHECK(shown.CountOf(green) == shown.Width() * shown.Height());
+}
+
+TEST_CASE("a key colour set after the picture builds no mask")
+{
+    Link link("");
+    link.control.SetBitmapFile(ImagePath("Next.gif").c_str());
+    link.control.SetTransparentColor(black);
+    CHECK(link.control.m_bmpMask.GetSafeHandle() == NULL);
+    link.host.Show(); // Not keyed, and no harm done.
+}
+
+TEST_CASE("a picture that does not load changes nothing and still answers TRUE")
+{
+    Link link("");
+    link.control.SetTransparentColor(black);
+    CHECK(link.control.SetBitmapFile("no such file.gif") == TRUE);
+    CHECK_FALSE(link.control.m_bBitmapLoaded);
+    link.control.SetBitmapFile(ImagePath("Next.gif").c_str());
+    const HGDIOBJ before = link.control.m_bmpPicture.GetSafeHandle();
+    link.control.SetBitmapFile("no such file.gif");
+    CHECK(link.control.m_bmpPicture.GetSafeHandle() == before);
+}
+
+TEST_CASE("a replaced picture and those of a label that is gone are left, a replaced mask is not")
+{
+    HGDIOBJ first, second, mask, firstMask;
+    {
+        Link link("");
+        link.control.SetTransparentColor(black);
+        link.control.SetBitmapFile(ImagePath("Next.gif").c_str());
+        first = link.control.m_bmpPicture.GetSafeHandle();
+        firstMask = link.control.m_bmpMask.GetSafeHandle();
+        link.control.SetBitmapFile(ImagePath("Back.gif").c_str());
+        second = link.control.m_bmpPicture.GetSafeHandle();
+        mask = link.control.m_bmpMask.GetSafeHandle();
+    }
+    CHECK(firstMask != NULL);
+    for (const HGDIOBJ bitmap : {first, second, mask}) {
+        CHECK(::GetObjectType(bitmap) == OBJ_BITMAP);
+        ::DeleteObject(bitmap);
+    }
+}
+
+TEST_CASE("a tool tip is one tool, whose text is renewed")
+{
+    Link link("Text");
+    CHECK(link.control.SetToolTipText("first") == TRUE);
+    CHECK(link.control.m_bToolTip);
+    REQUIRE(link.control.m_ToolTip.m_hWnd != NULL);
+    const HWND window = link.control.m_ToolTip.m_hWnd;
+    CHECK(TipText(link.control) == "first");
+    link.control.SetToolTipText("second");
+    CHECK(link.control.m_ToolTip.m_hWnd == window);
+    CHECK(link.control.m_ToolTip.GetToolCount() == 1);
+    CHECK(TipText(link.control) == "second");
+    CHECK(link.control.m_ToolTip.GetMaxTipWidth() == 100);
+}
+
+TEST_CASE("mouse moves are relayed to the tool tip with unsigned coordinates, once it has a text")
+{
+    Link link("Text");
+    link.control.SendMessage(WM_MOUSEMOVE, 0, MAKELPARAM(7, 8)); // No tool tip, no harm.
+    link.control.SetToolTipText("tip");
+    ::SetWindowSubclass(link.control.m_ToolTip.m_hWnd, WatchTip, 1, 0);
+    relayed.clear();
+    link.control.SendMessage(WM_MOUSEMOVE, MK_SHIFT, MAKELPARAM(7, -8));
+    REQUIRE(relayed.size() == 1);
+    CHECK(relayed[0].hwnd == link.control.m_hWnd);
+    CHECK(relayed[0].message == WM_MOUSEMOVE);
+    CHECK(relayed[0].wParam == MK_SHIFT);
+    CHECK(relayed[0].lParam == MAKELPARAM(7, -8));
+    CHECK(relayed[0].time == 0);
+    CHECK(relayed[0].pt.x == 7);
+    CHECK(relayed[0].pt.y == 65528);
+    ::RemoveWindowSubclass(link.control.m_ToolTip.m_hWnd, WatchTip, 1);
+}
+
+TEST_CASE("the tool tip comes up under the real pointer")
+{
+    Link link("Text");
+    link.control.SetToolTipText("tip");
+    link.control.m_ToolTip.SetDelayTime(TTDT_INITIAL, 10);
+    link.host.Show();
+    REQUIRE(MovePointer(link.control.m_hWnd));
+    CHECK(WaitUntil([&] {
+        POINT at = {10, 10};
+        MovePointer(link.control.m_hWnd, at);
+        return link.control.m_ToolTip.IsWindowVisible() != FALSE;
+    }));
+}
+
+TEST_CASE("10,000 pointer moves over a link leave nothing behind")
+{
+    const HelpProgram help;
+    Link link("Text");
+    link.control.SetURL("x");
+    link.control.SetToolTipText("tip");
+    link.host.Show();
+    const auto move = [&] {
+        link.AskCursor();
+        link.control.SendMessage(WM_MOUSEMOVE, 0, MAKELPARAM(5, 5));
+    };
+    for (int i = 0; i < 10; ++i)
+        move();
+    const BalancedGdi objects;
+    for (int i = 0; i < 10000; ++i)
+        move();
+    CHECK_MESSAGE(objects.IsBalanced(), objects.Describe());
+}
+
+TEST_CASE("painting leaves the control's font in place and nothing behind")
+{
+    Link link("Text");
+    link.control.SetTransparentColor(black);
+    link.control.SetBitmapFile(ImagePath("Next.gif").c_str());
+    link.host.Show();
+    const LRESULT font = link.control.SendMessage(WM_GETFONT);
+    const BalancedGdi objects;
+    for (int i = 0; i < 20; ++i) {
+        link.control.Invalidate();
+        link.control.UpdateWindow();
+    }
+    CHECK_MESSAGE(objects.IsBalanced(), objects.Describe());
+    CHECK(link.control.SendMessage(WM_GETFONT) == font);
+}
+
+TEST_CASE("long texts and odd targets do no harm")
+{
+    const ShellSpy shell(2);
+    Link link(std::string(65536, 'w').c_str());
+    link.control.SetURL("");
+    link.host.Show();
+    link.Press();
+    link.control.SetURL("a\x01\x02\r\nb");
+    link.Press();
+    link.control.SetURL(CString('x', 10000));
+    link.Press();
+    REQUIRE(shell.Asked().size() == 3);
+    CHECK(shell.Asked()[0].target.size() == 65536);
+    CHECK(shell.Asked()[2].target.size() == 10000);
+}
