@@ -1,7 +1,6 @@
 #include <classes/CWinApp.h>
 
 #include <classes/Application.h>
-#include <classes/CCommandLineInfo.h>
 #include <classes/CWaitCursor.h>
 #include <classes/CWnd.h>
 

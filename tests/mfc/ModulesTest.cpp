@@ -15,6 +15,15 @@ public:
     ~Extension() { AfxFreeLibrary(m_hModule); }
     Extension(const Extension&) = delete;
     Extension& operator=(const Extension&) = delete;
+    /// An exported function of the DLL; the test ends when there is none.
+    template <class Function>
+    Function Find(LPCSTR name) const
+    {
+        void* address = reinterpret_cast<void*>(::GetProcAddress(m_hModule, name));
+        REQUIRE(address != nullptr);
+        return reinterpret_cast<Function>(address);
+    }
+
     HMODULE m_hModule;
 };
 
@@ -135,9 +144,7 @@ TEST_CASE("inside a DLL the functions answer the program's objects")
 {
     const Extension extension;
     using Ask = void(WINAPI*)(CWinApp**, HINSTANCE*);
-    const auto ask = reinterpret_cast<Ask>(
-        reinterpret_cast<void*>(::GetProcAddress(extension.m_hModule, "AskForProgram")));
-    REQUIRE(ask != nullptr);
+    const auto ask = extension.Find<Ask>("AskForProgram");
     CWinApp* app = nullptr;
     HINSTANCE instance = nullptr;
     ask(&app, &instance);
@@ -164,12 +171,8 @@ TEST_CASE("an exception thrown in one module is caught in the other")
     const Extension extension;
     using Call = bool(WINAPI*)(void (*)());
     using Throw = void(WINAPI*)();
-    const auto callAndCatch = reinterpret_cast<Call>(
-        reinterpret_cast<void*>(::GetProcAddress(extension.m_hModule, "CallAndCatch")));
-    const auto throwUser = reinterpret_cast<Throw>(
-        reinterpret_cast<void*>(::GetProcAddress(extension.m_hModule, "ThrowUser")));
-    REQUIRE(callAndCatch != nullptr);
-    REQUIRE(throwUser != nullptr);
+    const auto callAndCatch = extension.Find<Call>("CallAndCatch");
+    const auto throwUser = extension.Find<Throw>("ThrowUser");
     CHECK(callAndCatch([] { AfxThrowUserException(); }));
     CHECK(callAndCatch([] { throw new CUserException; }));
     CHECK_FALSE(callAndCatch([] {}));

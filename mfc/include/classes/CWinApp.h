@@ -1,10 +1,9 @@
 // The program as an object.
 #pragma once
 
+#include <classes/CCommandLineInfo.h>
 #include <classes/CString.h>
 #include <classes/CWinThread.h>
-
-class CCommandLineInfo;
 
 enum AFX_HELP_TYPE { afxWinHelp = 0, afxHTMLHelp = 1 };
 
