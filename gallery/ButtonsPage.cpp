@@ -42,7 +42,7 @@ BOOL CButtonsPage::OnInitDialog()
     m_pictureAbove.SetPicture(PictureFile("Info.gif"), CxShadeButton::alignTop, pictureSize,
                               pictureSize, pictureKey);
     m_checkPush.SetToolTipText("Press to switch on", "Press to switch off");
-    m_tip.SetToolTipText("A tool tip: text that comes when the pointer rests");
+    m_tip.SetToolTipText("A tool tip");
     m_checkPush.SetCheck(BST_CHECKED);
     m_radios[1].SetCheck(BST_CHECKED);
     return TRUE;

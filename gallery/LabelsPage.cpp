@@ -104,7 +104,8 @@ void CLabelsPage::PreparePictures()
         m_pictureNames[i].MoveWindow(at.x, at.y, badgeSize, nameHeight);
         at.y += nameHeight + panelMargin;
     }
-    const int left = panel.right - panelMargin - largeExtent;
+    const int besideBadges = panel.left + 2 * panelMargin + badgeSize;
+    const int left = (besideBadges + panel.right - largeExtent) / 2;
     m_large.MoveWindow(left, panel.top + panelMargin, largeExtent, largeExtent);
     m_pictureNames[2].MoveWindow(left, panel.top + panelMargin + largeExtent, largeExtent,
                                  nameHeight);
