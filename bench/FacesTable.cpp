@@ -41,15 +41,16 @@ void PrintLine(const FaceSize& size, unsigned style)
     }
     race.Run();
 
+    const char* const note = race.IsSteady() ? "" : " disturbed |";
     const double plain = race.NanosecondsOf("plain");
     const double sse2 = race.NanosecondsOf("SSE2");
     std::printf("| %d × %d | %u %s | %.1f | %.1f | %.1f |", size.width, size.height, style,
                 kStyleNames[style], plain / 1000, sse2 / 1000, plain / sse2);
     if (hasAvx2) {
         const double avx2 = race.NanosecondsOf("AVX2");
-        std::printf(" %.1f | %.1f |\n", avx2 / 1000, plain / avx2);
+        std::printf(" %.1f | %.1f |%s\n", avx2 / 1000, plain / avx2, note);
     } else {
-        std::printf(" none | none |\n");
+        std::printf(" none | none |%s\n", note);
     }
 }
 

@@ -30,6 +30,7 @@ void PrintLine(const FaceSize& size, unsigned style)
     race.Run();
 
     const double pixelCount = double(size.width) * size.height;
+    const char* const note = race.IsSteady() ? "" : " disturbed |";
     const double plain = race.NanosecondsOf("plain");
     const double sse2 = race.NanosecondsOf("SSE2");
     std::printf("| %d × %d | %u %s | %.3f | %.2f | %.3f | %.1f |", size.width, size.height, style,
@@ -37,9 +38,9 @@ void PrintLine(const FaceSize& size, unsigned style)
                 sse2 / pixelCount, plain / sse2);
     if (hasAvx2) {
         const double avx2 = race.NanosecondsOf("AVX2");
-        std::printf(" %.3f | %.1f |\n", avx2 / pixelCount, plain / avx2);
+        std::printf(" %.3f | %.1f |%s\n", avx2 / pixelCount, plain / avx2, note);
     } else {
-        std::printf(" none | none |\n");
+        std::printf(" none | none |%s\n", note);
     }
 }
 

@@ -26,6 +26,13 @@ int ChooseRepetitions(const Race::Work& work)
     return repetitions;
 }
 
+double MedianOf(std::vector<double> times)
+{
+    const auto middle = times.begin() + times.size() / 2;
+    std::nth_element(times.begin(), middle, times.end());
+    return *middle;
+}
+
 } // namespace
 
 void Race::Add(std::string name, Work work)
@@ -46,12 +53,19 @@ void Race::Run(int rounds)
 double Race::NanosecondsOf(const std::string& name) const
 {
     for (const Entry& entry : m_entries) {
-        if (entry.name != name || entry.times.empty())
-            continue;
-        std::vector<double> times = entry.times;
-        const auto middle = times.begin() + times.size() / 2;
-        std::nth_element(times.begin(), middle, times.end());
-        return *middle;
+        if (entry.name == name)
+            return MedianOf(entry.times);
     }
     return 0;
+}
+
+bool Race::IsSteady() const
+{
+    constexpr double kMostAboveFastest = 1.25;
+    for (const Entry& entry : m_entries) {
+        const double fastest = *std::min_element(entry.times.begin(), entry.times.end());
+        if (MedianOf(entry.times) > fastest * kMostAboveFastest)
+            return false;
+    }
+    return true;
 }

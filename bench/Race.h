@@ -16,6 +16,9 @@ public:
     void Run(int rounds = 21);
     // Median nanoseconds of one piece of work.
     double NanosecondsOf(const std::string& name) const;
+    // Whether no median is far above its fastest round, as it is on a machine that is too busy for
+    // long pieces of work to run through.
+    bool IsSteady() const;
 
 private:
     struct Entry

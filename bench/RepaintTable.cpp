@@ -129,9 +129,9 @@ void PrintLine(const FaceSize& size, bool decorated)
     race.Run(101);
     const double plainTime = race.NanosecondsOf("plain");
     const double shadedTime = race.NanosecondsOf("shaded");
-    std::printf("| %d × %d | %s | %.1f | %.1f | %.3f |\n", size.width, size.height,
+    std::printf("| %d × %d | %s | %.1f | %.1f | %.3f |%s\n", size.width, size.height,
                 decorated ? "face, edge, caption" : "face alone", plainTime / 1000,
-                shadedTime / 1000, shadedTime / plainTime);
+                shadedTime / 1000, shadedTime / plainTime, race.IsSteady() ? "" : " disturbed |");
 
     shaded.DestroyWindow();
     shadedParent.DestroyWindow();
