@@ -13,6 +13,10 @@
 
 IMPLEMENT_DYNAMIC(CWinApp, CWinThread)
 
+BEGIN_MESSAGE_MAP(CWinApp, CWinThread)
+    ON_COMMAND(ID_APP_EXIT, &CWinApp::OnAppExit)
+END_MESSAGE_MAP()
+
 namespace {
 
 /// Replaces one of the strings made with malloc.
@@ -518,6 +522,13 @@ BOOL CWinApp::Enable3dControls()
 BOOL CWinApp::Enable3dControlsStatic()
 {
     return TRUE;
+}
+
+void CWinApp::OnAppExit()
+{
+    // The main window may still ask whether to save.
+    if (m_pMainWnd != NULL)
+        m_pMainWnd->SendMessage(WM_CLOSE);
 }
 
 void CWinApp::SetNames()

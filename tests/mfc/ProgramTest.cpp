@@ -1,9 +1,11 @@
 // A program as the wizard leaves it, started as a process and driven from outside.
 #include <afxwin.h>
+#include <afxres.h>
 
 #include <doctest/doctest.h>
 
 #include "MessageBoxText.h"
+#include "programs/Frame/FrameResource.h"
 #include "programs/Wizard/resource.h"
 
 #include <functional>
@@ -22,24 +24,26 @@ bool WaitFor(const std::function<bool()>& predicate)
     return false;
 }
 
+constexpr char frameTitle[] = "Frame program: first second";
 constexpr char dialogClass[] = "#32770";
 constexpr char menuClass[] = "#32768";
 
-/// The wizard's program, which runs with settings of its own.
+/// A program that stands beside this one. It is over at the end of the object.
 class Program
 {
 public:
-    Program()
+    /// Starts it with the command line given and waits for its window.
+    Program(const char* command, const char* title, const char* className = dialogClass)
     {
         char path[MAX_PATH];
         ::GetModuleFileNameA(nullptr, path, MAX_PATH);
         ::PathRemoveFileSpecA(path);
-        ::PathAppendA(path, "mfc-test-wizard.exe");
+        std::string line = '"' + std::string(path) + "\\" + command;
         STARTUPINFOA startup{};
         startup.cb = sizeof(startup);
-        REQUIRE(::CreateProcessA(path, nullptr, nullptr, nullptr, FALSE, 0, nullptr, nullptr,
+        REQUIRE(::CreateProcessA(nullptr, line.data(), nullptr, nullptr, FALSE, 0, nullptr, nullptr,
                                  &startup, &process_));
-        window = Find("Wizard");
+        window = Find(title, className);
         REQUIRE(window != nullptr);
     }
     ~Program()
@@ -57,7 +61,8 @@ public:
     {
         HWND found = nullptr;
         WaitFor([&] {
-            for (HWND at = nullptr; (at = ::FindWindowExA(nullptr, at, className, title));) {
+            HWND at = nullptr;
+            while ((at = ::FindWindowExA(nullptr, at, className, title)) != nullptr) {
                 DWORD process = 0;
                 ::GetWindowThreadProcessId(at, &process);
                 if (process == process_.dwProcessId && at != window && ::IsWindowVisible(at)) {
@@ -87,6 +92,12 @@ public:
         ::SendDlgItemMessageA(window, id, WM_GETTEXT, sizeof(text), reinterpret_cast<LPARAM>(text));
         return text;
     }
+    std::string Title() const
+    {
+        char text[200] = "";
+        ::SendMessageA(window, WM_GETTEXT, sizeof(text), reinterpret_cast<LPARAM>(text));
+        return text;
+    }
     LRESULT Click(int id) { return ::SendDlgItemMessageA(window, id, BM_CLICK, 0, 0); }
     /// For buttons that lead to a box, which keeps their click waiting.
     void PostClick(int id) { ::PostMessageA(::GetDlgItem(window, id), BM_CLICK, 0, 0); }
@@ -95,6 +106,20 @@ public:
 
 private:
     PROCESS_INFORMATION process_{};
+};
+
+/// The wizard's program.
+class Wizard : public Program
+{
+public:
+    Wizard() : Program("mfc-test-wizard.exe\"", "Wizard") {}
+};
+
+/// The program with a frame as its main window.
+class Frame : public Program
+{
+public:
+    Frame() : Program("mfc-test-frame.exe\" first second", frameTitle, nullptr) {}
 };
 
 struct CleanSettings
@@ -109,7 +134,7 @@ TEST_CASE("a wizard's program shows its data, runs its handlers and keeps its se
 {
     const CleanSettings settings;
     {
-        Program program;
+        Wizard program;
         CHECK(program.Text(IDC_NAME) == "World");
         CHECK(program.Text(IDC_COUNT) == "1");
         program.Click(IDC_GREET);
@@ -129,7 +154,7 @@ TEST_CASE("a wizard's program shows its data, runs its handlers and keeps its se
                         nullptr, &count, &size)
           == ERROR_SUCCESS);
     CHECK(count == 2);
-    Program again;
+    Wizard again;
     CHECK(again.Text(IDC_NAME) == "Umbra");
     CHECK(again.Text(IDC_COUNT) == "2");
 }
@@ -137,7 +162,7 @@ TEST_CASE("a wizard's program shows its data, runs its handlers and keeps its se
 TEST_CASE("the wizard's program refuses wrong data and stays open")
 {
     const CleanSettings settings;
-    Program program;
+    Wizard program;
     const auto complaintAbout = [&](const char* count) {
         program.SetText(IDC_COUNT, count);
         program.PostClick(IDOK);
@@ -161,7 +186,7 @@ TEST_CASE("the wizard's program refuses wrong data and stays open")
 TEST_CASE("the system menu of the wizard's program opens the about box, which is modal")
 {
     const CleanSettings settings;
-    Program program;
+    Wizard program;
     // By keyboard, because another process cannot look into the menu.
     ::PostMessage(program.window, WM_SYSCOMMAND, SC_KEYMENU, ' ');
     REQUIRE(program.Find("", menuClass) != nullptr);
@@ -182,7 +207,7 @@ TEST_CASE("the system menu of the wizard's program opens the about box, which is
 TEST_CASE("the wizard's program is minimised and restored")
 {
     const CleanSettings settings;
-    Program program;
+    Wizard program;
     ::ShowWindow(program.window, SW_MINIMIZE);
     CHECK(WaitFor([&] { return ::IsIconic(program.window) != FALSE; }));
     ::RedrawWindow(program.window, nullptr, nullptr, RDW_INVALIDATE | RDW_UPDATENOW);
@@ -192,4 +217,21 @@ TEST_CASE("the wizard's program is minimised and restored")
     CHECK(program.Text(IDC_RESULT) == "Hello World");
     ::PostMessage(program.window, WM_COMMAND, IDCANCEL, 0);
     CHECK(program.ExitCode() == 40 + IDCANCEL);
+}
+
+TEST_CASE("a program with a frame runs its loop until the standard command ends it")
+{
+    Frame program;
+    ::SendMessage(program.window, WM_COMMAND, ID_FRAME_COUNT, 0);
+    CHECK(program.Title() == "Count 1");
+    ::PostMessage(program.window, WM_COMMAND, ID_APP_EXIT, 0);
+    CHECK(program.ExitCode() == 100); // 100 tells that there was idle time.
+}
+
+TEST_CASE("the exit code of a program is what it was told to quit with")
+{
+    Frame program;
+    ::SendMessage(program.window, WM_COMMAND, ID_FRAME_COUNT, 0);
+    ::PostMessage(program.window, WM_COMMAND, ID_FRAME_QUIT, 0);
+    CHECK(program.ExitCode() == 107);
 }

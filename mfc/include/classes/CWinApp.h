@@ -124,9 +124,12 @@ protected:
     DWORD m_dwRestartManagerSupportFlags;
     int m_nAutosaveInterval; ///< Milliseconds.
 
+    DECLARE_MESSAGE_MAP()
+
 private:
     friend BOOL AFXAPI AfxWinInit(HINSTANCE hInstance, HINSTANCE hPrevInstance, LPTSTR lpCmdLine,
                                   int nCmdShow);
+    afx_msg void OnAppExit();
     void SetNames();
     void GiveHelp(DWORD_PTR data, UINT winHelpCommand, UINT htmlHelpCommand);
     bool TakeSwitch(LPCTSTR name);

@@ -1,0 +1,5 @@
+// What the frame program and its test have in common.
+#define IDR_FRAME 200
+#define ID_FRAME_COUNT 32771
+#define ID_FRAME_QUIT 32772
+#define IDS_IDLE 300
