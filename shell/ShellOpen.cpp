@@ -1,6 +1,6 @@
 #include "ShellOpen.h"
 
-#include <mbstring.h>
+#include <mbctype.h>
 #include <shellapi.h>
 #include <string.h>
 
@@ -9,10 +9,18 @@ namespace {
 const UINT lastShellFailure = 32; // Results up to this one are errors.
 const char openVerb[] = "\\shell\\open\\command";
 
+/// The first place of `part` in a multibyte text, never within a character. Not every run-time's
+/// own search looks where characters begin.
 char* FindText(char* text, const char* part)
 {
-    return reinterpret_cast<char*>(_mbsstr(reinterpret_cast<unsigned char*>(text),
-                                           reinterpret_cast<const unsigned char*>(part)));
+    const size_t length = strlen(part);
+    unsigned char* place = reinterpret_cast<unsigned char*>(text);
+    while (*place != '\0') {
+        if (strncmp(reinterpret_cast<char*>(place), part, length) == 0)
+            return reinterpret_cast<char*>(place);
+        place += _ismbblead(*place) && place[1] != '\0' ? 2 : 1;
+    }
+    return NULL;
 }
 
 /// The open command registered for files of the extension; FALSE when a key is missing.

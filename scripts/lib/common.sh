@@ -47,7 +47,7 @@ export_wine_environment() {
     export HOME=$1/home
     export WINEARCH=win64
     export WINEDEBUG=${WINEDEBUG:--all}
-    export WINEDLLOVERRIDES='winemenubuilder.exe=d;mscoree=d;mshtml=d'
+    export WINEDLLOVERRIDES='winemenubuilder.exe=d;mscoree=d;mshtml=d;winhlp32.exe=n'
     export LC_ALL=C.UTF-8
     unset DISPLAY WAYLAND_DISPLAY
     mkdir -p "$HOME"

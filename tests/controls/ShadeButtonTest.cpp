@@ -180,12 +180,6 @@ COLORREF Sys(int index)
     return ::GetSysColor(index);
 }
 
-POINT ToScreen(HWND window, POINT point)
-{
-    ::ClientToScreen(window, &point);
-    return point;
-}
-
 bool IsPushed(CWnd& button)
 {
     return (button.SendMessage(BM_GETSTATE) & BST_PUSHED) != 0;

@@ -29,6 +29,9 @@ const COLORREF black = RGB(0, 0, 0);
 
 const CRect labelPlace(50, 60, 250, 100);
 
+// There from the beginning: the toolkit looks for the hand once a process.
+const HelpProgram help;
+
 /// A label over a control that exists already, as in a dialog template.
 struct Label
 {
@@ -504,7 +507,6 @@ TEST_CASE("a control without SS_NOTIFY is transparent to the real pointer")
 
 TEST_CASE("the hand shows over a link with text; elsewhere the handler leaves the cursor alone")
 {
-    const HelpProgram help;
     REQUIRE(help.IsInstalled());
     const HCURSOR arrow = ::LoadCursor(NULL, IDC_ARROW);
     const auto ask = [&](Label& label) {
@@ -532,7 +534,6 @@ TEST_CASE("the hand shows over a link with text; elsewhere the handler leaves th
 
 TEST_CASE("10,000 pointer moves over a link leave nothing behind")
 {
-    const HelpProgram help;
     Label link("Text");
     link.control.SetLink(TRUE);
     link.host.Show();
