@@ -48,8 +48,7 @@ void AFXAPI DDV_MinMaxLongLong(CDataExchange* pDX, LONGLONG value, LONGLONG minV
 void AFXAPI DDV_MinMaxULongLong(CDataExchange* pDX, ULONGLONG value, ULONGLONG minVal,
                                 ULONGLONG maxVal);
 void AFXAPI DDV_MinMaxFloat(CDataExchange* pDX, const float& value, float minVal, float maxVal);
-void AFXAPI DDV_MinMaxDouble(CDataExchange* pDX, const double& value, double minVal,
-                             double maxVal);
+void AFXAPI DDV_MinMaxDouble(CDataExchange* pDX, const double& value, double minVal, double maxVal);
 void AFXAPI DDV_MinMaxSlider(CDataExchange* pDX, DWORD value, DWORD minVal, DWORD maxVal);
 /// Limits what can be typed, and checks the length.
 void AFXAPI DDV_MaxChars(CDataExchange* pDX, const CString& value, int nChars);

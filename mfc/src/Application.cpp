@@ -100,4 +100,6 @@ BOOL AFXAPI AfxInitRichEdit2()
     return ::LoadLibrary(_T("riched20.dll")) != NULL;
 }
 
-void AFXAPI AfxEnableControlContainer() {}
+void AFXAPI AfxEnableControlContainer()
+{
+}

@@ -11,7 +11,9 @@ IMPLEMENT_DYNAMIC(CResourceException, CSimpleException)
 IMPLEMENT_DYNAMIC(CUserException, CSimpleException)
 IMPLEMENT_DYNAMIC(CInvalidArgException, CSimpleException)
 
-CException::CException(BOOL bAutoDelete) : m_bAutoDelete(bAutoDelete) {}
+CException::CException(BOOL bAutoDelete) : m_bAutoDelete(bAutoDelete)
+{
+}
 
 void CException::Delete()
 {
@@ -36,9 +38,13 @@ int CException::ReportError(UINT nType, UINT nMessageID)
     return AfxMessageBox(nMessageID != 0 ? nMessageID : AFX_IDP_NO_ERROR_AVAILABLE, nType);
 }
 
-CSimpleException::CSimpleException() : m_nMessageID(0) {}
+CSimpleException::CSimpleException() : m_nMessageID(0)
+{
+}
 
-CSimpleException::CSimpleException(BOOL bAutoDelete) : CException(bAutoDelete), m_nMessageID(0) {}
+CSimpleException::CSimpleException(BOOL bAutoDelete) : CException(bAutoDelete), m_nMessageID(0)
+{
+}
 
 CSimpleException::CSimpleException(BOOL bAutoDelete, UINT nMessageID)
     : CException(bAutoDelete), m_nMessageID(nMessageID)
@@ -53,7 +59,9 @@ BOOL CSimpleException::GetErrorMessage(LPTSTR lpszError, UINT nMaxError, PUINT p
     return AfxLoadString(m_nMessageID, lpszError, nMaxError) > 0;
 }
 
-CMemoryException::CMemoryException() : CMemoryException(TRUE) {}
+CMemoryException::CMemoryException() : CMemoryException(TRUE)
+{
+}
 
 CMemoryException::CMemoryException(BOOL bAutoDelete)
     : CSimpleException(bAutoDelete, AFX_IDS_MEMORY_EXCEPTION)
@@ -65,12 +73,15 @@ CNotSupportedException::CNotSupportedException()
 {
 }
 
-CResourceException::CResourceException() : CSimpleException(TRUE, AFX_IDS_RESOURCE_EXCEPTION) {}
+CResourceException::CResourceException() : CSimpleException(TRUE, AFX_IDS_RESOURCE_EXCEPTION)
+{
+}
 
-CUserException::CUserException() {}
+CUserException::CUserException()
+{
+}
 
-CInvalidArgException::CInvalidArgException()
-    : CSimpleException(TRUE, AFX_IDS_INVALID_ARG_EXCEPTION)
+CInvalidArgException::CInvalidArgException() : CSimpleException(TRUE, AFX_IDS_INVALID_ARG_EXCEPTION)
 {
 }
 

@@ -22,11 +22,17 @@ BOOL CObject::IsSerializable() const
     return GetRuntimeClass()->m_wSchema != 0xFFFF;
 }
 
-void CObject::Serialize(CArchive&) {}
+void CObject::Serialize(CArchive&)
+{
+}
 
-void CObject::AssertValid() const {}
+void CObject::AssertValid() const
+{
+}
 
-void CObject::Dump(CDumpContext&) const {}
+void CObject::Dump(CDumpContext&) const
+{
+}
 
 void* CObject::operator new(size_t nSize)
 {
@@ -51,7 +57,9 @@ void CObject::operator delete(void* p)
     ::operator delete(p);
 }
 
-void CObject::operator delete(void*, void*) {}
+void CObject::operator delete(void*, void*)
+{
+}
 
 void CObject::operator delete(void* p, LPCSTR, int)
 {

@@ -38,8 +38,8 @@ CRuntimeClass* CRuntimeClass::FromName(LPCSTR lpszClassName)
 CRuntimeClass* CRuntimeClass::FromName(LPCWSTR lpszClassName)
 {
     char name[256];
-    if (lpszClassName == NULL
-        || WideCharToMultiByte(CP_ACP, 0, lpszClassName, -1, name, sizeof(name), NULL, NULL) == 0)
+    if (lpszClassName == NULL ||
+        WideCharToMultiByte(CP_ACP, 0, lpszClassName, -1, name, sizeof(name), NULL, NULL) == 0)
         return NULL;
     return FromName(name);
 }

@@ -55,14 +55,14 @@ public:
     bool Read(LPCTSTR entry, DWORD type, void* data, DWORD& size) const
     {
         DWORD found = 0;
-        return RegQueryValueEx(key_, entry, NULL, &found, static_cast<BYTE*>(data), &size)
-                   == ERROR_SUCCESS
-               && found == type;
+        return RegQueryValueEx(key_, entry, NULL, &found, static_cast<BYTE*>(data), &size) ==
+                   ERROR_SUCCESS &&
+               found == type;
     }
     bool Write(LPCTSTR entry, DWORD type, const void* data, DWORD size) const
     {
-        return RegSetValueEx(key_, entry, 0, type, static_cast<const BYTE*>(data), size)
-               == ERROR_SUCCESS;
+        return RegSetValueEx(key_, entry, 0, type, static_cast<const BYTE*>(data), size) ==
+               ERROR_SUCCESS;
     }
 
 private:
@@ -92,11 +92,20 @@ bool ReadBytes(const CString& text, BYTE* data)
     return true;
 }
 
+/// Gives bytes to a caller who frees them with delete[].
+void HandOut(const std::vector<BYTE>& bytes, LPBYTE* data, UINT* size)
+{
+    *size = static_cast<UINT>(bytes.size());
+    *data = new BYTE[bytes.size()];
+    if (!bytes.empty())
+        memcpy(*data, bytes.data(), bytes.size());
+}
+
 HWND FindMessageOwner()
 {
     CWnd* mainWindow = AfxGetMainWnd();
-    HWND owner = mainWindow != NULL && mainWindow->m_hWnd != NULL ? mainWindow->m_hWnd
-                                                                  : GetActiveWindow();
+    HWND owner =
+        mainWindow != NULL && mainWindow->m_hWnd != NULL ? mainWindow->m_hWnd : GetActiveWindow();
     if (owner == NULL)
         return NULL;
     // A dialog over the main window must be the owner, or the box would leave it usable.
@@ -109,8 +118,8 @@ CWinApp::CWinApp(LPCTSTR lpszAppName)
     : m_hInstance(AfxGetInstanceHandle()), m_lpCmdLine(NULL), m_nCmdShow(SW_SHOWNORMAL),
       m_pszAppName(NULL), m_pszRegistryKey(NULL), m_pszExeName(NULL), m_pszHelpFilePath(NULL),
       m_pszProfileName(NULL), m_pszAppID(NULL), m_bHelpMode(FALSE), m_eHelpType(afxWinHelp),
-      m_dwRestartManagerSupportFlags(0), m_nAutosaveInterval(5 * 60 * 1000),
-      m_hcurBeforeWait(NULL), m_nWaitCursorCount(0)
+      m_dwRestartManagerSupportFlags(0), m_nAutosaveInterval(5 * 60 * 1000), m_hcurBeforeWait(NULL),
+      m_nWaitCursorCount(0)
 {
     Assign(m_pszAppName, lpszAppName);
     m_bAutoDelete = FALSE;
@@ -134,8 +143,7 @@ CWinApp::~CWinApp()
 
 HCURSOR CWinApp::LoadCursor(LPCTSTR lpszResourceName) const
 {
-    return ::LoadCursor(AfxFindResourceHandle(lpszResourceName, RT_GROUP_CURSOR),
-                        lpszResourceName);
+    return ::LoadCursor(AfxFindResourceHandle(lpszResourceName, RT_GROUP_CURSOR), lpszResourceName);
 }
 
 HCURSOR CWinApp::LoadCursor(UINT nIDResource) const
@@ -203,8 +211,8 @@ CString CWinApp::GetProfileString(LPCTSTR lpszSection, LPCTSTR lpszEntry, LPCTST
         const LPCTSTR otherwise = lpszDefault == NULL ? _T("") : lpszDefault;
         // A result of the size less one means that the value was cut short.
         while (::GetPrivateProfileString(lpszSection, lpszEntry, otherwise, text.data(),
-                                         static_cast<DWORD>(text.size()), m_pszProfileName)
-               == text.size() - 1)
+                                         static_cast<DWORD>(text.size()),
+                                         m_pszProfileName) == text.size() - 1)
             text.resize(2 * text.size());
         return text.data();
     }
@@ -248,22 +256,17 @@ BOOL CWinApp::GetProfileBinary(LPCTSTR lpszSection, LPCTSTR lpszEntry, LPBYTE* p
         std::vector<BYTE> bytes(text.GetLength() / 2);
         if (!ReadBytes(text, bytes.data()))
             return FALSE;
-        *pBytes = static_cast<UINT>(bytes.size());
-        *ppData = new BYTE[bytes.size()];
-        memcpy(*ppData, bytes.data(), bytes.size());
+        HandOut(bytes, ppData, pBytes);
         return TRUE;
     }
     const ScopedKey section(GetSectionKey(lpszSection));
     DWORD size = 0;
     if (!section || !section.Read(lpszEntry, REG_BINARY, NULL, size))
         return FALSE;
-    *ppData = new BYTE[size];
-    if (!section.Read(lpszEntry, REG_BINARY, *ppData, size)) {
-        delete[] *ppData;
-        *ppData = NULL;
+    std::vector<BYTE> bytes(size);
+    if (!section.Read(lpszEntry, REG_BINARY, bytes.data(), size))
         return FALSE;
-    }
-    *pBytes = size;
+    HandOut(bytes, ppData, pBytes);
     return TRUE;
 }
 
@@ -456,8 +459,7 @@ void CWinApp::HtmlHelp(DWORD_PTR dwData, UINT nCmd)
     static const HMODULE viewer = ::LoadLibrary(_T("hhctrl.ocx"));
     Show show = NULL;
     if (viewer != NULL)
-        show = reinterpret_cast<Show>(
-            reinterpret_cast<void*>(GetProcAddress(viewer, "HtmlHelpA")));
+        show = reinterpret_cast<Show>(reinterpret_cast<void*>(GetProcAddress(viewer, "HtmlHelpA")));
     if (show == NULL || show(m_pMainWnd->GetSafeHwnd(), m_pszHelpFilePath, nCmd, dwData) == NULL)
         AfxMessageBox(AFX_IDP_FAILED_TO_LAUNCH_HELP);
 }

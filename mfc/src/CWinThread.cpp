@@ -20,8 +20,8 @@ constexpr UINT caretBlink = 0x0118; // WM_SYSTIMER, which has no name in the Win
 LRESULT CALLBACK WatchSystemLoop(int code, WPARAM wParam, LPARAM lParam)
 {
     CWinThread* thread = AfxGetThread();
-    if (code >= 0 && thread != NULL
-        && thread->ProcessMessageFilter(code, reinterpret_cast<LPMSG>(lParam)))
+    if (code >= 0 && thread != NULL &&
+        thread->ProcessMessageFilter(code, reinterpret_cast<LPMSG>(lParam)))
         return 1;
     return CallNextHookEx(NULL, code, wParam, lParam);
 }
@@ -203,8 +203,8 @@ BOOL CWinThread::IsIdleMessage(MSG* pMsg)
 {
     if (pMsg->message == WM_MOUSEMOVE || pMsg->message == WM_NCMOUSEMOVE) {
         // The system repeats mouse moves without any movement, after each change of a window.
-        if (pMsg->message == m_nLastMouse && pMsg->pt.x == m_ptLastMouse.x
-            && pMsg->pt.y == m_ptLastMouse.y)
+        if (pMsg->message == m_nLastMouse && pMsg->pt.x == m_ptLastMouse.x &&
+            pMsg->pt.y == m_ptLastMouse.y)
             return FALSE;
         m_nLastMouse = pMsg->message;
         m_ptLastMouse = pMsg->pt;

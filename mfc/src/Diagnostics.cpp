@@ -3,12 +3,12 @@
 BOOL AFXAPI AfxAssertFailedLine(LPCSTR file, int line)
 {
     char text[600];
-    _snprintf(text, sizeof(text) - 1, "Assertion failed in %s, line %d.\n\nRetry stops in the debugger.",
-              file, line);
+    _snprintf(text, sizeof(text) - 1,
+              "Assertion failed in %s, line %d.\n\nRetry stops in the debugger.", file, line);
     text[sizeof(text) - 1] = '\0';
     OutputDebugStringA(text);
-    const int answer = MessageBoxA(NULL, text, AfxGetAppName(),
-                                   MB_ABORTRETRYIGNORE | MB_ICONERROR | MB_TASKMODAL);
+    const int answer =
+        MessageBoxA(NULL, text, AfxGetAppName(), MB_ABORTRETRYIGNORE | MB_ICONERROR | MB_TASKMODAL);
     if (answer == IDABORT)
         AfxAbort();
     return answer == IDRETRY;
@@ -37,8 +37,8 @@ void AFXAPI AfxAbort()
 
 BOOL AFXAPI AfxIsValidAddress(const void* lp, UINT nBytes, BOOL bReadWrite)
 {
-    return lp != NULL && !IsBadReadPtr(lp, nBytes)
-           && (!bReadWrite || !IsBadWritePtr(const_cast<void*>(lp), nBytes));
+    return lp != NULL && !IsBadReadPtr(lp, nBytes) &&
+           (!bReadWrite || !IsBadWritePtr(const_cast<void*>(lp), nBytes));
 }
 
 BOOL AFXAPI AfxIsValidString(LPCSTR lpsz, int nLength)

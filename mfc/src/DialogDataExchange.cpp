@@ -68,8 +68,8 @@ std::optional<T> ParseInteger(LPCTSTR text)
     const long long value = _tcstoi64(text, &end, 10);
     if (end == text || errno == ERANGE || !OnlyBlanksFollow(end))
         return std::nullopt;
-    if (value < static_cast<long long>(Limits::min())
-        || value > static_cast<long long>(Limits::max()))
+    if (value < static_cast<long long>(Limits::min()) ||
+        value > static_cast<long long>(Limits::max()))
         return std::nullopt;
     return static_cast<T>(value);
 }
@@ -367,8 +367,7 @@ void AFXAPI DDV_MinMaxUInt(CDataExchange* pDX, UINT value, UINT minVal, UINT max
     CheckUnsigned(pDX, value, minVal, maxVal);
 }
 
-void AFXAPI DDV_MinMaxUnsigned(CDataExchange* pDX, unsigned value, unsigned minVal,
-                               unsigned maxVal)
+void AFXAPI DDV_MinMaxUnsigned(CDataExchange* pDX, unsigned value, unsigned minVal, unsigned maxVal)
 {
     CheckUnsigned(pDX, value, minVal, maxVal);
 }
@@ -378,8 +377,7 @@ void AFXAPI DDV_MinMaxDWord(CDataExchange* pDX, const DWORD& value, DWORD minVal
     CheckUnsigned(pDX, value, minVal, maxVal);
 }
 
-void AFXAPI DDV_MinMaxLongLong(CDataExchange* pDX, LONGLONG value, LONGLONG minVal,
-                               LONGLONG maxVal)
+void AFXAPI DDV_MinMaxLongLong(CDataExchange* pDX, LONGLONG value, LONGLONG minVal, LONGLONG maxVal)
 {
     CheckSigned(pDX, value, minVal, maxVal);
 }
@@ -395,8 +393,7 @@ void AFXAPI DDV_MinMaxFloat(CDataExchange* pDX, const float& value, float minVal
     CheckLimits<double>(pDX, value, minVal, maxVal, _T("%.6g"), AFX_IDP_PARSE_REAL_RANGE);
 }
 
-void AFXAPI DDV_MinMaxDouble(CDataExchange* pDX, const double& value, double minVal,
-                             double maxVal)
+void AFXAPI DDV_MinMaxDouble(CDataExchange* pDX, const double& value, double minVal, double maxVal)
 {
     CheckLimits(pDX, value, minVal, maxVal, _T("%.15g"), AFX_IDP_PARSE_REAL_RANGE);
 }

@@ -138,8 +138,7 @@ struct NumberTrip
     std::string Refuse(LPCTSTR text)
     {
         dialog.SetDlgItemText(numberEdit, text);
-        return Complaint(dialog,
-                         [this](CDataExchange* dx) { DDX_Text(dx, numberEdit, value); });
+        return Complaint(dialog, [this](CDataExchange* dx) { DDX_Text(dx, numberEdit, value); });
     }
 };
 
@@ -302,17 +301,15 @@ TEST_CASE("the limits of every kind hold")
     CHECK_FALSE(Complaint(dialog, [](auto* dx) { DDV_MinMaxLong(dx, 9, -8, 8); }).empty());
     CHECK_FALSE(Complaint(dialog, [](auto* dx) { DDV_MinMaxUInt(dx, 0, 1, 8); }).empty());
     CHECK_FALSE(Complaint(dialog, [](auto* dx) { DDV_MinMaxUnsigned(dx, 9, 1, 8); }).empty());
-    CHECK_FALSE(
-        Complaint(dialog, [](auto* dx) { DDV_MinMaxDWord(dx, MAXDWORD, 0, 8); }).empty());
+    CHECK_FALSE(Complaint(dialog, [](auto* dx) { DDV_MinMaxDWord(dx, MAXDWORD, 0, 8); }).empty());
     CHECK_FALSE(
         Complaint(dialog, [](auto* dx) { DDV_MinMaxLongLong(dx, 1LL << 40, 0, 8); }).empty());
     CHECK_FALSE(
         Complaint(dialog, [](auto* dx) { DDV_MinMaxULongLong(dx, 1ULL << 63, 0, 8); }).empty());
-    CHECK(Complaint(dialog, [](auto* dx) { DDV_MinMaxFloat(dx, 0.5f, 1.5f, 2); })
-              .find("1.5")
-          != std::string::npos);
-    CHECK(Complaint(dialog, [](auto* dx) { DDV_MinMaxDouble(dx, 3, 0, 2.25); }).find("2.25")
-          != std::string::npos);
+    CHECK(Complaint(dialog, [](auto* dx) { DDV_MinMaxFloat(dx, 0.5f, 1.5f, 2); }).find("1.5") !=
+          std::string::npos);
+    CHECK(Complaint(dialog, [](auto* dx) { DDV_MinMaxDouble(dx, 3, 0, 2.25); }).find("2.25") !=
+          std::string::npos);
     CHECK(dialog.Save([](auto* dx) {
         DDV_MinMaxByte(dx, 8, 1, 8);
         DDV_MinMaxULongLong(dx, 1ULL << 63, 0, ULLONG_MAX);

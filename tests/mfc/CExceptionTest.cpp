@@ -56,8 +56,8 @@ TEST_CASE("each throwing function throws a pointer to its class")
         return thrown;
     };
     CHECK(thrownBy([] { AfxThrowMemoryException(); }) == RUNTIME_CLASS(CMemoryException));
-    CHECK(thrownBy([] { AfxThrowNotSupportedException(); })
-          == RUNTIME_CLASS(CNotSupportedException));
+    CHECK(thrownBy([] { AfxThrowNotSupportedException(); }) ==
+          RUNTIME_CLASS(CNotSupportedException));
     CHECK(thrownBy([] { AfxThrowResourceException(); }) == RUNTIME_CLASS(CResourceException));
     CHECK(thrownBy([] { AfxThrowUserException(); }) == RUNTIME_CLASS(CUserException));
     CHECK(thrownBy([] { AfxThrowInvalidArgException(); }) == RUNTIME_CLASS(CInvalidArgException));

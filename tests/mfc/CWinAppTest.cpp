@@ -110,9 +110,8 @@ TEST_CASE("settings are kept in the registry after SetRegistryKey")
     settings.app.WriteProfileInt("Window", "Top", 5);
     DWORD value = 0;
     DWORD size = sizeof(value);
-    CHECK(::SHGetValueA(HKEY_CURRENT_USER, "Software\\Umbra Tests\\Settings\\Window", "Top", nullptr,
-                        &value, &size)
-          == ERROR_SUCCESS);
+    CHECK(::SHGetValueA(HKEY_CURRENT_USER, "Software\\Umbra Tests\\Settings\\Window", "Top",
+                        nullptr, &value, &size) == ERROR_SUCCESS);
     CHECK(value == 5);
 }
 
@@ -226,8 +225,8 @@ TEST_CASE("a message box shows a string resource")
 TEST_CASE("the main window owns message boxes, and a dialog over it before that")
 {
     CWnd frame;
-    REQUIRE(frame.CreateEx(0, AfxRegisterWndClass(0), "main", WS_OVERLAPPEDWINDOW | WS_VISIBLE, 0, 0,
-                           200, 100, NULL, NULL));
+    REQUIRE(frame.CreateEx(0, AfxRegisterWndClass(0), "main", WS_OVERLAPPEDWINDOW | WS_VISIBLE, 0,
+                           0, 200, 100, NULL, NULL));
     CWinThread* thread = AfxGetThread();
     thread->m_pMainWnd = &frame;
     const auto ownerOfBox = [] {

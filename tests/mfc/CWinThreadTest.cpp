@@ -167,7 +167,10 @@ public:
             ::PostQuitMessage(12);
         return FALSE;
     }
-    void PostMessageToSelf(UINT message) { ::PostThreadMessage(::GetCurrentThreadId(), message, 0, 0); }
+    void PostMessageToSelf(UINT message)
+    {
+        ::PostThreadMessage(::GetCurrentThreadId(), message, 0, 0);
+    }
 };
 
 } // namespace
@@ -236,8 +239,8 @@ TEST_CASE("a thread whose InitInstance fails has no loop")
 {
     CLoopThread::log.clear();
     CLoopThread::start = false;
-    CWinThread* thread = AfxBeginThread(RUNTIME_CLASS(CLoopThread), THREAD_PRIORITY_NORMAL, 0,
-                                        CREATE_SUSPENDED);
+    CWinThread* thread =
+        AfxBeginThread(RUNTIME_CLASS(CLoopThread), THREAD_PRIORITY_NORMAL, 0, CREATE_SUSPENDED);
     REQUIRE(thread != nullptr);
     const HANDLE handle = Duplicate(*thread);
     thread->ResumeThread();
@@ -298,7 +301,8 @@ TEST_CASE("a message is offered to its window and the parents up to the main win
 TEST_CASE("temporary objects are gone after the idle time")
 {
     CWinThread* thread = AfxGetThread();
-    const HWND strange = ::CreateWindow("Static", "", WS_POPUP, 0, 0, 10, 10, NULL, NULL, NULL, NULL);
+    const HWND strange =
+        ::CreateWindow("Static", "", WS_POPUP, 0, 0, 10, 10, NULL, NULL, NULL, NULL);
     struct CProbe : CWnd
     {
         CWnd* m_pSeen = nullptr;

@@ -151,8 +151,7 @@ TEST_CASE("a wizard's program shows its data, runs its handlers and keeps its se
     DWORD size = sizeof(count);
     CHECK(::SHGetValueA(HKEY_CURRENT_USER,
                         (settingsKey + std::string("\\mfc-test-wizard\\Greeting")).c_str(), "Count",
-                        nullptr, &count, &size)
-          == ERROR_SUCCESS);
+                        nullptr, &count, &size) == ERROR_SUCCESS);
     CHECK(count == 2);
     Wizard again;
     CHECK(again.Text(IDC_NAME) == "Umbra");

@@ -12,7 +12,7 @@ struct CRuntimeClass
     LPCSTR m_lpszClassName;
     int m_nObjectSize; ///< In bytes.
     UINT m_wSchema;    ///< Version for serialisation; 0xFFFF for a class that cannot be stored.
-    CObject* (*m_pfnCreateObject)(); ///< NULL without DECLARE_DYNCREATE.
+    CObject* (*m_pfnCreateObject)();       ///< NULL without DECLARE_DYNCREATE.
     CRuntimeClass* (*m_pfnGetBaseClass)(); ///< Gives NULL for CObject alone.
 
     /// A new object of the class; NULL when the class has no DECLARE_DYNCREATE.

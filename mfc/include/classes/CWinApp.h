@@ -38,10 +38,10 @@ public:
     // Strings made with malloc; a program that replaces one frees the old one and sets one made
     // with _tcsdup.
     LPCTSTR m_pszAppName;
-    LPCTSTR m_pszRegistryKey;  ///< Set by SetRegistryKey; NULL means that settings go to a file.
-    LPCTSTR m_pszExeName;      ///< Without folder and extension.
+    LPCTSTR m_pszRegistryKey; ///< Set by SetRegistryKey; NULL means that settings go to a file.
+    LPCTSTR m_pszExeName;     ///< Without folder and extension.
     LPCTSTR m_pszHelpFilePath;
-    LPCTSTR m_pszProfileName;  ///< The .ini file, or the name below the company's key.
+    LPCTSTR m_pszProfileName; ///< The .ini file, or the name below the company's key.
     LPCTSTR m_pszAppID;
     BOOL m_bHelpMode;
     AFX_HELP_TYPE m_eHelpType;

@@ -45,10 +45,7 @@ public:
         m_nIdle++;
         return CWinApp::OnIdle(lCount);
     }
-    virtual int ExitInstance()
-    {
-        return CWinApp::ExitInstance() + (m_nIdle > 1 ? 100 : 0);
-    }
+    virtual int ExitInstance() { return CWinApp::ExitInstance() + (m_nIdle > 1 ? 100 : 0); }
 
 protected:
     afx_msg void OnQuit() { PostQuitMessage(7); }
