@@ -15,6 +15,8 @@ const int stripHeight = 367;
 const COLORREF stripFoot = RGB(37, 48, 72);
 const COLORREF stripFootEdge = RGB(32, 42, 65);
 
+const char titleFace[] = "Arial"; // As the caption line of a bitmap background.
+
 // The line under the head of a page, in dialog units.
 const int ruleLeft = 58;
 const int ruleTop = 47;
@@ -51,6 +53,7 @@ BOOL CGalleryPage::OnInitDialog()
     GetFont()->GetLogFont(&description);
     description.lfHeight = description.lfHeight * 3 / 2;
     description.lfWeight = FW_BOLD;
+    lstrcpy(description.lfFaceName, titleFace);
     m_titleFont.CreateFontIndirect(&description);
     m_title.SetFont(&m_titleFont);
     m_title.SetLabelTextColor(palette::title);
