@@ -55,15 +55,17 @@ TEST_CASE("Restore shows the hourglass again and changes no count")
 TEST_CASE("without a wait, Restore and one end too many change nothing")
 {
     const StartWithHand start;
+    const HCURSOR cross = ::LoadCursor(NULL, IDC_CROSS); // Never the one before a wait.
+    ::SetCursor(cross);
     AfxGetApp()->DoWaitCursor(0);
-    CHECK(::GetCursor() == start.hand);
+    CHECK(::GetCursor() == cross);
     AfxGetApp()->DoWaitCursor(-1);
-    CHECK(::GetCursor() == start.hand);
+    CHECK(::GetCursor() == cross);
     {
         CWaitCursor wait;
         CHECK(::GetCursor() == Hourglass());
     }
-    CHECK(::GetCursor() == start.hand);
+    CHECK(::GetCursor() == cross);
 }
 
 TEST_CASE("windows and the application share one count")
