@@ -25,8 +25,7 @@ IMPLEMENT_DYNAMIC(CBitmapButton, CButton)
 CBitmapButton::CBitmapButton() = default;
 
 BOOL CBitmapButton::LoadBitmaps(LPCTSTR lpszBitmapResource, LPCTSTR lpszBitmapResourceSel,
-                                LPCTSTR lpszBitmapResourceFocus,
-                                LPCTSTR lpszBitmapResourceDisabled)
+                                LPCTSTR lpszBitmapResourceFocus, LPCTSTR lpszBitmapResourceDisabled)
 {
     const BOOL haveNormal = Reload(normal_, lpszBitmapResource);
     const BOOL havePressed = Reload(pressed_, lpszBitmapResourceSel);

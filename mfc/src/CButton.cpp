@@ -100,7 +100,9 @@ BOOL CButton::GetTextMargin(LPRECT pmargin)
     return Ask(m_hWnd, BCM_GETTEXTMARGIN, 0, pmargin);
 }
 
-void CButton::DrawItem(LPDRAWITEMSTRUCT) {}
+void CButton::DrawItem(LPDRAWITEMSTRUCT)
+{
+}
 
 BOOL CButton::OnChildNotify(UINT message, WPARAM wParam, LPARAM lParam, LRESULT* pLResult)
 {

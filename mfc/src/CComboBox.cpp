@@ -230,16 +230,22 @@ void CComboBox::Paste()
     Ask(m_hWnd, WM_PASTE);
 }
 
-void CComboBox::DrawItem(LPDRAWITEMSTRUCT) {}
+void CComboBox::DrawItem(LPDRAWITEMSTRUCT)
+{
+}
 
-void CComboBox::MeasureItem(LPMEASUREITEMSTRUCT) {}
+void CComboBox::MeasureItem(LPMEASUREITEMSTRUCT)
+{
+}
 
 int CComboBox::CompareItem(LPCOMPAREITEMSTRUCT)
 {
     return 0;
 }
 
-void CComboBox::DeleteItem(LPDELETEITEMSTRUCT) {}
+void CComboBox::DeleteItem(LPDELETEITEMSTRUCT)
+{
+}
 
 BOOL CComboBox::SetMinVisibleItems(int iMinVisible)
 {

@@ -40,7 +40,9 @@ UINT_PTR CALLBACK afxint::CommonDialogHook::Procedure(HWND window, UINT message,
 
 IMPLEMENT_DYNAMIC(CCommonDialog, CDialog)
 
-CCommonDialog::CCommonDialog(CWnd* pParentWnd) : CDialog(static_cast<UINT>(0), pParentWnd) {}
+CCommonDialog::CCommonDialog(CWnd* pParentWnd) : CDialog(static_cast<UINT>(0), pParentWnd)
+{
+}
 
 void CCommonDialog::OnOK()
 {

@@ -26,7 +26,9 @@ CPoint PlaceImage(CDialogEx::BackgroundLocation location, CSize area, CSize imag
 
 IMPLEMENT_DYNAMIC(CDialogEx, CDialog)
 
-CDialogEx::CDialogEx(UINT nIDTemplate, CWnd* pParent) : CDialog(nIDTemplate, pParent) {}
+CDialogEx::CDialogEx(UINT nIDTemplate, CWnd* pParent) : CDialog(nIDTemplate, pParent)
+{
+}
 
 CDialogEx::CDialogEx(LPCTSTR lpszTemplateName, CWnd* pParentWnd)
     : CDialog(lpszTemplateName, pParentWnd)
@@ -47,8 +49,8 @@ void CDialogEx::SetBackgroundColor(COLORREF color, BOOL bRepaint)
         Invalidate();
 }
 
-void CDialogEx::SetBackgroundImage(HBITMAP hBitmap, BackgroundLocation location,
-                                   BOOL bAutoDestroy, BOOL bRepaint)
+void CDialogEx::SetBackgroundImage(HBITMAP hBitmap, BackgroundLocation location, BOOL bAutoDestroy,
+                                   BOOL bRepaint)
 {
     DropImage();
     image_ = hBitmap;

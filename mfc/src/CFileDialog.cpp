@@ -150,18 +150,26 @@ BOOL CFileDialog::OnFileNameOK()
     return FALSE;
 }
 
-void CFileDialog::OnLBSelChangedNotify(UINT, UINT, UINT) {}
+void CFileDialog::OnLBSelChangedNotify(UINT, UINT, UINT)
+{
+}
 
 void CFileDialog::OnInitDone()
 {
     GetParent()->CenterWindow();
 }
 
-void CFileDialog::OnFileNameChange() {}
+void CFileDialog::OnFileNameChange()
+{
+}
 
-void CFileDialog::OnFolderChange() {}
+void CFileDialog::OnFolderChange()
+{
+}
 
-void CFileDialog::OnTypeChange() {}
+void CFileDialog::OnTypeChange()
+{
+}
 
 BOOL CFileDialog::OnNotify(WPARAM wParam, LPARAM lParam, LRESULT* pResult)
 {

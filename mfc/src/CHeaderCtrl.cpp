@@ -132,7 +132,9 @@ int CHeaderCtrl::SetFilterChangeTimeout(DWORD dwTimeOut)
     return Ask(m_hWnd, HDM_SETFILTERCHANGETIMEOUT, 0, dwTimeOut);
 }
 
-void CHeaderCtrl::DrawItem(LPDRAWITEMSTRUCT) {}
+void CHeaderCtrl::DrawItem(LPDRAWITEMSTRUCT)
+{
+}
 
 BOOL CHeaderCtrl::OnChildNotify(UINT message, WPARAM wParam, LPARAM lParam, LRESULT* pLResult)
 {

@@ -241,16 +241,22 @@ int CListBox::SelectString(int nStartAfter, LPCTSTR lpszItem)
     return Ask(m_hWnd, LB_SELECTSTRING, nStartAfter, lpszItem);
 }
 
-void CListBox::DrawItem(LPDRAWITEMSTRUCT) {}
+void CListBox::DrawItem(LPDRAWITEMSTRUCT)
+{
+}
 
-void CListBox::MeasureItem(LPMEASUREITEMSTRUCT) {}
+void CListBox::MeasureItem(LPMEASUREITEMSTRUCT)
+{
+}
 
 int CListBox::CompareItem(LPCOMPAREITEMSTRUCT)
 {
     return 0;
 }
 
-void CListBox::DeleteItem(LPDELETEITEMSTRUCT) {}
+void CListBox::DeleteItem(LPDELETEITEMSTRUCT)
+{
+}
 
 int CListBox::VKeyToItem(UINT, UINT)
 {

@@ -751,7 +751,9 @@ CSize CListCtrl::ApproximateViewRect(CSize sz, int iCount) const
         Ask(m_hWnd, LVM_APPROXIMATEVIEWRECT, iCount, MAKELPARAM(sz.cx, sz.cy)));
 }
 
-void CListCtrl::DrawItem(LPDRAWITEMSTRUCT) {}
+void CListCtrl::DrawItem(LPDRAWITEMSTRUCT)
+{
+}
 
 BOOL CListCtrl::OnChildNotify(UINT message, WPARAM wParam, LPARAM lParam, LRESULT* pLResult)
 {

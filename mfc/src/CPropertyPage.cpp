@@ -88,9 +88,13 @@ void CPropertyPage::OnReset()
     OnCancel();
 }
 
-void CPropertyPage::OnOK() {}
+void CPropertyPage::OnOK()
+{
+}
 
-void CPropertyPage::OnCancel() {}
+void CPropertyPage::OnCancel()
+{
+}
 
 BOOL CPropertyPage::OnSetActive()
 {

@@ -44,6 +44,7 @@ struct afxint::PropertySheetHook
 
 BEGIN_MESSAGE_MAP(CPropertySheet, CWnd)
     ON_MESSAGE(WM_INITDIALOG, OnInitDialogMessage)
+    ON_MESSAGE(PSM_PRESSBUTTON, OnPressButtonMessage)
     ON_WM_CLOSE()
 END_MESSAGE_MAP()
 
@@ -275,9 +276,20 @@ LRESULT CPropertySheet::OnInitDialogMessage(WPARAM, LPARAM)
     return OnInitDialog();
 }
 
+LRESULT CPropertySheet::OnPressButtonMessage(WPARAM wParam, LPARAM)
+{
+    // The system does what the button would do, without its command.
+    if (wParam == PSBTN_OK)
+        lastButton_ = IDOK;
+    else if (wParam == PSBTN_CANCEL)
+        lastButton_ = IDCANCEL;
+    else if (wParam == PSBTN_FINISH)
+        lastButton_ = ID_WIZFINISH;
+    return Default();
+}
+
 void CPropertySheet::OnClose()
 {
-    lastButton_ = IDCANCEL;
     if (modal_)
         PressButton(PSBTN_CANCEL);
     else

@@ -146,8 +146,7 @@ CWnd* CSliderCtrl::GetBuddy(BOOL fLocation) const
 
 CWnd* CSliderCtrl::SetBuddy(CWnd* pWndBuddy, BOOL fLocation)
 {
-    return CWnd::FromHandle(
-        (HWND)Ask(m_hWnd, TBM_SETBUDDY, fLocation, pWndBuddy->GetSafeHwnd()));
+    return CWnd::FromHandle((HWND)Ask(m_hWnd, TBM_SETBUDDY, fLocation, pWndBuddy->GetSafeHwnd()));
 }
 
 CToolTipCtrl* CSliderCtrl::GetToolTips() const

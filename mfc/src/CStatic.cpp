@@ -53,7 +53,9 @@ HCURSOR CStatic::GetCursor()
     return (HCURSOR)Ask(m_hWnd, STM_GETIMAGE, IMAGE_CURSOR);
 }
 
-void CStatic::DrawItem(LPDRAWITEMSTRUCT) {}
+void CStatic::DrawItem(LPDRAWITEMSTRUCT)
+{
+}
 
 BOOL CStatic::OnChildNotify(UINT message, WPARAM wParam, LPARAM lParam, LRESULT* pLResult)
 {

@@ -204,7 +204,9 @@ BOOL CTabCtrl::HighlightItem(int idItem, BOOL fHighlight)
     return Ask(m_hWnd, TCM_HIGHLIGHTITEM, idItem, MAKELPARAM(fHighlight, 0));
 }
 
-void CTabCtrl::DrawItem(LPDRAWITEMSTRUCT) {}
+void CTabCtrl::DrawItem(LPDRAWITEMSTRUCT)
+{
+}
 
 BOOL CTabCtrl::OnChildNotify(UINT message, WPARAM wParam, LPARAM lParam, LRESULT* pLResult)
 {

@@ -18,8 +18,8 @@ struct Header
 
     Header()
     {
-        REQUIRE(header.Create(shownChild | HDS_HORZ | HDS_BUTTONS, CRect(10, 10, 310, 35), &host,
-                              99));
+        REQUIRE(
+            header.Create(shownChild | HDS_HORZ | HDS_BUTTONS, CRect(10, 10, 310, 35), &host, 99));
         Insert("first", 100);
         Insert("second", 80);
     }

@@ -169,8 +169,8 @@ TEST_CASE("an inactive tip does not pop up")
     host.tip.Activate(FALSE);
     MovePointerAway();
     REQUIRE(MovePointer(host.first.m_hWnd));
-    CHECK_FALSE(WaitUntil([&] { return host.tip.IsWindowVisible(); },
-                          std::chrono::milliseconds(300)));
+    CHECK_FALSE(
+        WaitUntil([&] { return host.tip.IsWindowVisible(); }, std::chrono::milliseconds(300)));
     host.tip.Activate(TRUE);
     MovePointerAway();
     REQUIRE(MovePointer(host.first.m_hWnd));

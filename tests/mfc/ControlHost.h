@@ -15,8 +15,8 @@ class ControlHost : public CWnd
 public:
     ControlHost()
     {
-        const LPCTSTR windowClass = AfxRegisterWndClass(0, ::LoadCursor(NULL, IDC_ARROW),
-                                                        (HBRUSH)(COLOR_BTNFACE + 1));
+        const LPCTSTR windowClass =
+            AfxRegisterWndClass(0, ::LoadCursor(NULL, IDC_ARROW), (HBRUSH)(COLOR_BTNFACE + 1));
         CreateEx(0, windowClass, "Control host", WS_POPUP | WS_VISIBLE | WS_CLIPCHILDREN, 40, 40,
                  420, 320, NULL, NULL);
     }

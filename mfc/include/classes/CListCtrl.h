@@ -102,8 +102,7 @@ public:
     void SetWorkAreas(int nWorkAreas, LPRECT lpRect);
     BOOL GetBkImage(LVBKIMAGE* plvbkImage) const;
     BOOL SetBkImage(LVBKIMAGE* plvbkImage);
-    BOOL SetBkImage(HBITMAP hbm, BOOL fTile = TRUE, int xOffsetPercent = 0,
-                    int yOffsetPercent = 0);
+    BOOL SetBkImage(HBITMAP hbm, BOOL fTile = TRUE, int xOffsetPercent = 0, int yOffsetPercent = 0);
     BOOL SetBkImage(LPTSTR pszUrl, BOOL fTile = TRUE, int xOffsetPercent = 0,
                     int yOffsetPercent = 0);
     CToolTipCtrl* GetToolTips() const;

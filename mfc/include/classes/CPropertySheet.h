@@ -73,6 +73,7 @@ private:
     friend struct afxint::PropertySheetHook;
 
     LRESULT OnInitDialogMessage(WPARAM wParam, LPARAM lParam);
+    LRESULT OnPressButtonMessage(WPARAM wParam, LPARAM lParam);
     afx_msg void OnClose();
     bool ShowSheet(HWND owner);
     void HideButtons();

@@ -76,9 +76,8 @@ public:
     UINT MapItemToAccID(HTREEITEM hItem) const;
 
     HTREEITEM InsertItem(LPTVINSERTSTRUCT lpInsertStruct);
-    HTREEITEM InsertItem(UINT nMask, LPCTSTR lpszItem, int nImage, int nSelectedImage,
-                         UINT nState, UINT nStateMask, LPARAM lParam, HTREEITEM hParent,
-                         HTREEITEM hInsertAfter);
+    HTREEITEM InsertItem(UINT nMask, LPCTSTR lpszItem, int nImage, int nSelectedImage, UINT nState,
+                         UINT nStateMask, LPARAM lParam, HTREEITEM hParent, HTREEITEM hInsertAfter);
     HTREEITEM InsertItem(LPCTSTR lpszItem, HTREEITEM hParent = TVI_ROOT,
                          HTREEITEM hInsertAfter = TVI_LAST);
     HTREEITEM InsertItem(LPCTSTR lpszItem, int nImage, int nSelectedImage,
