@@ -126,15 +126,26 @@ GdiCount CountGdiObjects()
         count.total = static_cast<int>(::GetGuiResources(::GetCurrentProcess(), GR_GDIOBJECTS));
         return count;
     }
-    // There GetGuiResources answers 0, and the table holds this process's objects only.
+    // There GetGuiResources answers 0.
+    for (const HGDIOBJ object : ListGdiObjects())
+        CountOne(count, object);
+    return count;
+}
+
+std::vector<HGDIOBJ> ListGdiObjects()
+{
+    std::vector<HGDIOBJ> objects;
+    if (!IsWine())
+        return objects;
+    // There the table holds this process's objects only.
     const GdiTableEntry* table = FindGdiTable();
     for (int i = 0; i < gdiTableLength; ++i) {
         if (table[i].type == 0)
             continue;
         const ULONG_PTR handle = static_cast<ULONG_PTR>(table[i].unique) << 16 | i;
-        CountOne(count, reinterpret_cast<HGDIOBJ>(handle));
+        objects.push_back(reinterpret_cast<HGDIOBJ>(handle));
     }
-    return count;
+    return objects;
 }
 
 void WarmUpGdi()

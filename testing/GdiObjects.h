@@ -4,6 +4,7 @@
 #include <windows.h>
 
 #include <string>
+#include <vector>
 
 namespace umbra::testing {
 
@@ -31,6 +32,9 @@ struct GdiCount
 };
 
 GdiCount CountGdiObjects();
+
+/// The live GDI objects in the order of the system's table; none where the system does not tell.
+std::vector<HGDIOBJ> ListGdiObjects();
 
 /// Does once what makes the system keep objects of its own: a device context of the screen, a
 /// text, a loaded picture, a window of each kind. Objects counted afterwards are the program's.
