@@ -22,27 +22,27 @@ namespace {
 // Runs with the arguments of an unknown function in place, so it touches only rax and r10, which
 // carry none, and leaves the stack alone.
 const BYTE codeTemplate[] = {
-    0x49, 0xBA, 0, 0, 0, 0, 0, 0, 0, 0,       // mov  r10, plan
-    0xB8, 1, 0, 0, 0,                         // mov  eax, 1
-    0xF0, 0x49, 0x0F, 0xC1, 0x02,             // lock xadd [r10], rax
-    0x48, 0xFF, 0xC0,                         // inc  rax             ; this call's number
-    0x49, 0x3B, 0x42, 0x08,                   // cmp  rax, [r10+8]    ; first
-    0x7C, 0x17,                               // jl   pass
-    0x49, 0x3B, 0x42, 0x10,                   // cmp  rax, [r10+16]   ; last
-    0x7F, 0x11,                               // jg   pass
-    0x41, 0x8B, 0x42, 0x18,                   // mov  eax, [r10+24]   ; error
-    0x65, 0x89, 0x04, 0x25, 0x68, 0, 0, 0,    // mov  gs:[68h], eax   ; the thread's last error
-    0x49, 0x8B, 0x42, 0x20,                   // mov  rax, [r10+32]   ; result
-    0xC3,                                     // ret
-    0x49, 0x8B, 0x42, 0x28,                   // pass: mov rax, [r10+40]  ; original
-    0xFF, 0xE0,                               // jmp  rax
+    0x49, 0xBA, 0,    0,    0,    0, 0, 0, 0, 0, // mov  r10, plan
+    0xB8, 1,    0,    0,    0,                   // mov  eax, 1
+    0xF0, 0x49, 0x0F, 0xC1, 0x02,                // lock xadd [r10], rax
+    0x48, 0xFF, 0xC0,                            // inc  rax             ; this call's number
+    0x49, 0x3B, 0x42, 0x08,                      // cmp  rax, [r10+8]    ; first
+    0x7C, 0x17,                                  // jl   pass
+    0x49, 0x3B, 0x42, 0x10,                      // cmp  rax, [r10+16]   ; last
+    0x7F, 0x11,                                  // jg   pass
+    0x41, 0x8B, 0x42, 0x18,                      // mov  eax, [r10+24]   ; error
+    0x65, 0x89, 0x04, 0x25, 0x68, 0, 0, 0,       // mov  gs:[68h], eax   ; the thread's last error
+    0x49, 0x8B, 0x42, 0x20,                      // mov  rax, [r10+32]   ; result
+    0xC3,                                        // ret
+    0x49, 0x8B, 0x42, 0x28,                      // pass: mov rax, [r10+40]  ; original
+    0xFF, 0xE0,                                  // jmp  rax
 };
 constexpr size_t planAddressOffset = 2;
 
 void* MakeCode(const void* plan)
 {
-    void* code = ::VirtualAlloc(nullptr, sizeof codeTemplate, MEM_COMMIT | MEM_RESERVE,
-                                PAGE_READWRITE);
+    void* code =
+        ::VirtualAlloc(nullptr, sizeof codeTemplate, MEM_COMMIT | MEM_RESERVE, PAGE_READWRITE);
     if (code == nullptr)
         return nullptr;
     std::memcpy(code, codeTemplate, sizeof codeTemplate);

@@ -11,8 +11,8 @@ struct ClassAtom
     const char* name;
     WORD atom;
 };
-constexpr ClassAtom classAtoms[] = {{"Button", 0x0080},  {"Edit", 0x0081},
-                                    {"Static", 0x0082},  {"ListBox", 0x0083},
+constexpr ClassAtom classAtoms[] = {{"Button", 0x0080},    {"Edit", 0x0081},
+                                    {"Static", 0x0082},    {"ListBox", 0x0083},
                                     {"ScrollBar", 0x0084}, {"ComboBox", 0x0085}};
 
 void AppendRaw(std::vector<WORD>& memory, const void* data, size_t bytes)
@@ -99,8 +99,8 @@ DialogTemplate& DialogTemplate::Edit(int id, const char* text, int x, int y, int
     return Add("Edit", id, text, x, y, width, height, style);
 }
 
-DialogTemplate& DialogTemplate::Label(int id, const char* text, int x, int y, int width,
-                                      int height, DWORD style)
+DialogTemplate& DialogTemplate::Label(int id, const char* text, int x, int y, int width, int height,
+                                      DWORD style)
 {
     return Add("Static", id, text, x, y, width, height, style);
 }

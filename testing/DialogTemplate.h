@@ -20,8 +20,8 @@ public:
     static constexpr DWORD visibleChild = WS_CHILD | WS_VISIBLE;
     static constexpr DWORD tabStop = visibleChild | WS_TABSTOP;
 
-    DialogTemplate(int x, int y, int width, int height, DWORD style = popup,
-                   const char* title = "", DWORD extendedStyle = 0);
+    DialogTemplate(int x, int y, int width, int height, DWORD style = popup, const char* title = "",
+                   DWORD extendedStyle = 0);
 
     /// Without it the dialog uses the system font.
     DialogTemplate& Font(int points, const char* face);

@@ -73,9 +73,9 @@ void CountOne(GdiCount& count, HGDIOBJ object)
 void LoadSmallPicture()
 {
     // One pixel, 24 bits.
-    static const BYTE file[] = {'B', 'M', 58, 0, 0, 0, 0, 0, 0, 0, 54, 0, 0, 0, 40, 0, 0, 0, 1, 0,
-                                0,   0,   1,  0, 0, 0, 1, 0, 24, 0, 0, 0, 0, 0, 4,  0, 0, 0, 0, 0,
-                                0,   0,   0,  0, 0, 0, 0, 0, 0, 0, 0, 0, 0, 0, 0,  0, 0, 0};
+    static const BYTE file[] = {'B', 'M', 58, 0, 0, 0, 0, 0, 0,  0, 54, 0, 0, 0, 40, 0, 0, 0, 1, 0,
+                                0,   0,   1,  0, 0, 0, 1, 0, 24, 0, 0,  0, 0, 0, 4,  0, 0, 0, 0, 0,
+                                0,   0,   0,  0, 0, 0, 0, 0, 0,  0, 0,  0, 0, 0, 0,  0, 0, 0};
     HGLOBAL memory = ::GlobalAlloc(GMEM_MOVEABLE, sizeof file);
     memcpy(::GlobalLock(memory), file, sizeof file);
     ::GlobalUnlock(memory);

@@ -34,9 +34,8 @@ void AddImports(std::vector<Import>& imports, HMODULE module, const char* dll, D
         if (IMAGE_SNAP_BY_ORDINAL(name->u1.Ordinal))
             import.ordinal = static_cast<WORD>(IMAGE_ORDINAL(name->u1.Ordinal));
         else
-            import.name = reinterpret_cast<const IMAGE_IMPORT_BY_NAME*>(
-                              base + name->u1.AddressOfData)
-                              ->Name;
+            import.name =
+                reinterpret_cast<const IMAGE_IMPORT_BY_NAME*>(base + name->u1.AddressOfData)->Name;
         imports.push_back(import);
     }
 }

@@ -3,7 +3,8 @@
 // A module reaches another module's functions through its import table; a hook changes one entry
 // there, so that only calls from that module are caught, and puts it back at its end. Calls of
 // functions that the module found with GetProcAddress are not seen. Nor may be those of a function
-// that is running when the hook comes or goes: a compiler may read the entry once for several calls.
+// that is running when the hook comes or goes: a compiler may read the entry once for several
+// calls.
 #pragma once
 
 #include <windows.h>
@@ -19,8 +20,8 @@ namespace umbra::testing {
 struct Import
 {
     std::string dll;
-    std::string name;  ///< Empty when imported by ordinal.
-    WORD ordinal = 0;  ///< 0 when imported by name.
+    std::string name; ///< Empty when imported by ordinal.
+    WORD ordinal = 0; ///< 0 when imported by name.
     bool delayed = false;
     void** slot = nullptr; ///< Where the module keeps the function's address.
 };

@@ -1,3 +1,4 @@
+# shellcheck shell=bash
 # Shared by the scripts; sourced with $root set to the source folder.
 
 say() {

@@ -45,8 +45,8 @@ TEST_CASE("a control prints itself without being on the screen")
 
 TEST_CASE("an owner-drawn button is painted in the state that is asked for")
 {
-    HWND parent = ::CreateWindowA("Static", "", WS_POPUP, 0, 0, 100, 100, nullptr, nullptr,
-                                  nullptr, nullptr);
+    HWND parent =
+        ::CreateWindowA("Static", "", WS_POPUP, 0, 0, 100, 100, nullptr, nullptr, nullptr, nullptr);
     ::SetWindowLongPtrA(parent, GWLP_WNDPROC, reinterpret_cast<LONG_PTR>(PaintItem));
     HWND button = ::CreateWindowA("Button", "", WS_CHILD | BS_OWNERDRAW, 0, 0, 20, 10, parent,
                                   nullptr, nullptr, nullptr);

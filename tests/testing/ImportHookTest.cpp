@@ -65,11 +65,12 @@ TEST_CASE("a hook in one module leaves the others alone")
 
 TEST_CASE("what the module does not import cannot be hooked")
 {
-    CHECK_FALSE(ImportHook(ThisModule(), "user32.dll", "NoSuchFunction", AnswerMetric).IsInstalled());
-    CHECK_FALSE(ImportHook(ThisModule(), "nosuch.dll", "GetSystemMetrics", AnswerMetric)
-                    .IsInstalled());
-    CHECK_FALSE(ImportHook(ThisModule(), "user32.dll", MAKEINTRESOURCEA(1), AnswerMetric)
-                    .IsInstalled());
+    CHECK_FALSE(
+        ImportHook(ThisModule(), "user32.dll", "NoSuchFunction", AnswerMetric).IsInstalled());
+    CHECK_FALSE(
+        ImportHook(ThisModule(), "nosuch.dll", "GetSystemMetrics", AnswerMetric).IsInstalled());
+    CHECK_FALSE(
+        ImportHook(ThisModule(), "user32.dll", MAKEINTRESOURCEA(1), AnswerMetric).IsInstalled());
     CHECK_FALSE(ImportHook(FindModule("nosuch.dll"), "user32.dll", "GetSystemMetrics", AnswerMetric)
                     .IsInstalled());
 }
@@ -131,8 +132,7 @@ struct DelayingModule
     explicit DelayingModule(void* stub)
     {
         dos.e_lfanew = offsetof(DelayingModule, headers);
-        auto& directory =
-            headers.OptionalHeader.DataDirectory[IMAGE_DIRECTORY_ENTRY_DELAY_IMPORT];
+        auto& directory = headers.OptionalHeader.DataDirectory[IMAGE_DIRECTORY_ENTRY_DELAY_IMPORT];
         directory.VirtualAddress = offsetof(DelayingModule, delayed);
         delayed[0].DllNameRVA = offsetof(DelayingModule, dll);
         delayed[0].ImportNameTableRVA = offsetof(DelayingModule, names);

@@ -99,7 +99,8 @@ TEST_CASE_FIXTURE(InputFixture, "a drag moves the pointer while the button is do
     CHECK(log.Last(WM_LBUTTONUP)->lParam == MAKELPARAM(40, 5));
 }
 
-TEST_CASE_FIXTURE(InputFixture, "typed text arrives in the focused edit, with its capitals and marks")
+TEST_CASE_FIXTURE(InputFixture,
+                  "typed text arrives in the focused edit, with its capitals and marks")
 {
     ::SetFocus(page.Control(editId));
     CHECK(TypeText("Say: \"Hello, World\" 100%!"));
@@ -124,8 +125,8 @@ TEST_CASE_FIXTURE(InputFixture, "keys reach the page: Tab moves the focus, with 
 
 TEST_CASE("input that no window of the thread gets is reported")
 {
-    HWND window = ::CreateWindowA("Static", "", WS_POPUP, 0, 0, 50, 50, nullptr, nullptr, nullptr,
-                                  nullptr);
+    HWND window =
+        ::CreateWindowA("Static", "", WS_POPUP, 0, 0, 50, 50, nullptr, nullptr, nullptr, nullptr);
     ::SetFocus(nullptr);
     PumpMessages();
     CHECK_FALSE(Click(window, {10, 10}));

@@ -11,8 +11,8 @@ class MessageWindow
 {
 public:
     MessageWindow()
-        : window_(::CreateWindowA("Static", "", 0, 0, 0, 0, 0, HWND_MESSAGE, nullptr, nullptr,
-                                  nullptr))
+        : window_(
+              ::CreateWindowA("Static", "", 0, 0, 0, 0, 0, HWND_MESSAGE, nullptr, nullptr, nullptr))
     {
     }
     MessageWindow(const MessageWindow&) = delete;
