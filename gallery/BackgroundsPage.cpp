@@ -1,22 +1,24 @@
 #include "BackgroundsPage.h"
 
 BEGIN_MESSAGE_MAP(CBackgroundsPage, CGalleryPage)
-    ON_CONTROL_RANGE(BN_CLICKED, IDC_SAMPLE_FIRST, IDC_SAMPLE_LAST, &CBackgroundsPage::OnSample)
-    ON_BN_CLICKED(IDC_DRAG, &CBackgroundsPage::OnDrag)
-    ON_WM_DESTROY()
+ON_CONTROL_RANGE(BN_CLICKED, IDC_SAMPLE_FIRST, IDC_SAMPLE_LAST, &CBackgroundsPage::OnSample)
+ON_BN_CLICKED(IDC_DRAG, &CBackgroundsPage::OnDrag)
+ON_WM_DESTROY()
 END_MESSAGE_MAP()
 
 namespace {
 
-const int firstOffset = 40; // Pixels from the page to its first sample window,
-const int nextOffset = 48;  // and from one to the next.
+// Pixels from the page to its first sample window, right of the buttons, and from one to the next.
+const CSize firstOffset(240, 40);
+const CSize nextOffset(40, 56);
 
 } // namespace
 
 CBackgroundsPage::CBackgroundsPage(CWnd* parent)
-    : CGalleryPage(IDD_BACKGROUNDS, parent),
-      m_samples{CSampleDialog(CSampleDialog::plain), CSampleDialog(CSampleDialog::solidFill),
-                CSampleDialog(CSampleDialog::bitmap), CSampleDialog(CSampleDialog::shaped)}
+    : CGalleryPage(IDD_BACKGROUNDS, parent), m_samples{CSampleDialog(CSampleDialog::plain),
+                                                       CSampleDialog(CSampleDialog::solidFill),
+                                                       CSampleDialog(CSampleDialog::bitmap),
+                                                       CSampleDialog(CSampleDialog::shaped)}
 {
 }
 
@@ -45,8 +47,9 @@ void CBackgroundsPage::OnSample(UINT buttonId)
     const int index = static_cast<int>(buttonId) - IDC_SAMPLE_FIRST;
     CRect page;
     GetWindowRect(&page);
-    const int offset = firstOffset + index * nextOffset;
-    m_samples[index].Open(this, page.TopLeft() + CSize(offset, offset));
+    const CSize offset(firstOffset.cx + index * nextOffset.cx,
+                       firstOffset.cy + index * nextOffset.cy);
+    m_samples[index].Open(this, page.TopLeft() + offset);
 }
 
 void CBackgroundsPage::OnDrag()

@@ -18,7 +18,7 @@ const int rowPitch = 16;
 const int rowHeight = 14;
 
 const BYTE highlight = 35; // Percent; makes the hot face plain to see.
-const BYTE coloring = 55; // Percent; leaves the shades to be seen under the tint.
+const BYTE coloring = 55;  // Percent; leaves the shades to be seen under the tint.
 const BYTE grain = 10;
 const int pictureSize = 19; // Pixels.
 const COLORREF pictureKey = RGB(0, 0, 0);
@@ -28,7 +28,9 @@ const char* const stateCaptions[CButtonsPage::stateCount] = {"Try me", "Hot", "P
 
 } // namespace
 
-CButtonsPage::CButtonsPage(CWnd* parent) : CGalleryPage(IDD_BUTTONS, parent) {}
+CButtonsPage::CButtonsPage(CWnd* parent) : CGalleryPage(IDD_BUTTONS, parent)
+{
+}
 
 BOOL CButtonsPage::OnInitDialog()
 {
@@ -70,8 +72,7 @@ void CButtonsPage::CreateMatrix()
         const int y = matrixTop + row * rowPitch;
         for (int column = 0; column < stateCount; ++column) {
             CSampleButton& button = m_matrix[row][column];
-            const CRect place =
-                Pixels(stateLeft + column * statePitch, y, stateWidth, rowHeight);
+            const CRect place = Pixels(stateLeft + column * statePitch, y, stateWidth, rowHeight);
             button.Create(stateCaptions[column], WS_CHILD | WS_VISIBLE | WS_TABSTOP, place, this,
                           IDC_MATRIX_FIRST + row * stateCount + column);
             button.SetShade(shadeStyles[row].style, grain, highlight, coloring, g_crShade);

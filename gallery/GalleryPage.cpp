@@ -3,8 +3,8 @@
 #include "Images.h"
 
 BEGIN_MESSAGE_MAP(CGalleryPage, CBaseDialog)
-    ON_WM_ERASEBKGND()
-    ON_WM_CTLCOLOR()
+ON_WM_ERASEBKGND()
+ON_WM_CTLCOLOR()
 END_MESSAGE_MAP()
 
 namespace {
@@ -23,7 +23,7 @@ const int ruleTop = 47;
 const int ruleWidth = 362;
 
 // Glyphs can be drawn a little wider than they are measured, and from the second pixel on.
-const int measuringSlack = 6;
+const int measuringSlack = 12; // Pixels.
 
 } // namespace
 
@@ -36,8 +36,8 @@ CGalleryPage::CGalleryPage(UINT templateId, CWnd* parent)
 CGalleryPage::CGalleryPage(UINT templateId, CWnd* parent, bool confirm, bool ok, bool cancel,
                            bool next, bool back, bool closeCaption, bool proceedCaption,
                            bool cancelIcon)
-    : CBaseDialog(templateId, parent, confirm, ok, cancel, next, back, closeCaption,
-                  proceedCaption, cancelIcon)
+    : CBaseDialog(templateId, parent, confirm, ok, cancel, next, back, closeCaption, proceedCaption,
+                  cancelIcon)
 {
     Prepare();
 }
@@ -97,15 +97,14 @@ void CGalleryPage::SetLabelText(CWnd& label, const CString& text)
     InvalidateRect(PlaceOf(label), TRUE);
 }
 
-void CGalleryPage::FitToText(CWnd& label)
+void CGalleryPage::FitToText(CStaticTS& label)
 {
-    CString text;
-    label.GetWindowText(text);
-    CClientDC dc(&label);
-    CFont* before = dc.SelectObject(label.GetFont());
-    const int width = dc.GetTextExtent(text).cx + measuringSlack;
-    dc.SelectObject(before);
-    label.SetWindowPos(NULL, 0, 0, width, PlaceOf(label).Height(), SWP_NOMOVE | SWP_NOZORDER);
+    FitToText(label, 0);
+}
+
+void CGalleryPage::FitToText(CHyperLink& label)
+{
+    FitToText(label, 1 - measuringSlack / 2); // Draws its text in the middle.
 }
 
 CRect CGalleryPage::PlaceOf(const CWnd& control) const
@@ -151,6 +150,20 @@ void CGalleryPage::Prepare()
     m_bSolidFill = TRUE;
     m_crFill = palette::page;
     m_pageBrush.CreateSolidBrush(palette::page);
+}
+
+void CGalleryPage::FitToText(CWnd& label, int shift)
+{
+    CString text;
+    label.GetWindowText(text);
+    CClientDC dc(&label);
+    CFont* before = dc.SelectObject(label.GetFont());
+    const int width = dc.GetTextExtent(text).cx + measuringSlack;
+    dc.SelectObject(before);
+    CRect place = PlaceOf(label);
+    place.left += shift;
+    place.right = place.left + width;
+    label.MoveWindow(&place);
 }
 
 void CGalleryPage::DrawStripFoot(CDC& dc)

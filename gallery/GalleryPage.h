@@ -1,5 +1,5 @@
-// CGalleryPage: what all pages of the gallery look like. It adds to the base dialog a title line, an
-// introduction and a footnote, and paints the strip down to the lower edge of taller pages.
+// CGalleryPage: what all pages of the gallery look like. It adds to the base dialog a title line,
+// an introduction and a footnote, and paints the strip down to the lower edge of taller pages.
 #pragma once
 
 #include "resource.h"
@@ -45,8 +45,9 @@ protected:
 
     /// Changes the text of a label, which paints over what is beneath without erasing it.
     void SetLabelText(CWnd& label, const CString& text);
-    /// Gives a label the width of its text: some draw it in their middle.
-    void FitToText(CWnd& label);
+    /// Gives a label the width of its text, which then begins at the control's left edge.
+    void FitToText(CStaticTS& label);
+    void FitToText(CHyperLink& label);
     /// The rectangle of a control, in client coordinates.
     CRect PlaceOf(const CWnd& control) const;
     CRect PlaceOf(int controlId) const;
@@ -62,5 +63,6 @@ private:
     CBrush m_pageBrush;
 
     void Prepare();
+    void FitToText(CWnd& label, int shift);
     void DrawStripFoot(CDC& dc);
 };

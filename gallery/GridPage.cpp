@@ -1,7 +1,7 @@
 #include "GridPage.h"
 
 BEGIN_MESSAGE_MAP(CGridPage, CGalleryPage)
-    ON_CONTROL_RANGE(EN_CHANGE, IDC_REQUEST_FIRST, IDC_REQUEST_LAST, &CGridPage::OnRequest)
+ON_CONTROL_RANGE(EN_CHANGE, IDC_REQUEST_FIRST, IDC_REQUEST_LAST, &CGridPage::OnRequest)
 END_MESSAGE_MAP()
 
 namespace {
@@ -12,7 +12,9 @@ const int margin = 3; // Pixels around the rectangles.
 
 } // namespace
 
-CGridPage::CGridPage(CWnd* parent) : CGalleryPage(IDD_GRID, parent) {}
+CGridPage::CGridPage(CWnd* parent) : CGalleryPage(IDD_GRID, parent)
+{
+}
 
 BOOL CGridPage::OnInitDialog()
 {

@@ -3,21 +3,20 @@
 #include "GalleryPage.h"
 
 BEGIN_MESSAGE_MAP(CGridView, CStatic)
-    ON_WM_ERASEBKGND()
-    ON_WM_PAINT()
+ON_WM_ERASEBKGND()
+ON_WM_PAINT()
 END_MESSAGE_MAP()
 
 namespace {
 
-const int largestScale = 16;  // Screen pixels for one pixel.
-const int closestLines = 3;   // Screen pixels between grid lines; closer ones are left out.
-const int unitsAcross = 4;    // Dialog units in a horizontal base, each fourth line is a strong one;
-const int unitsDown = 8;      // and in a vertical base.
+const int largestScale = 16; // Screen pixels for one pixel.
+const int closestLines = 3;  // Screen pixels between grid lines; closer ones are left out.
+const int unitsAcross = 4;   // Dialog units in a horizontal base, each fourth line is a strong one;
+const int unitsDown = 8;     // and in a vertical base.
 
 CRect Enlarge(const CRect& place, int scale)
 {
-    return CRect(place.left * scale, place.top * scale, place.right * scale,
-                 place.bottom * scale);
+    return CRect(place.left * scale, place.top * scale, place.right * scale, place.bottom * scale);
 }
 
 } // namespace

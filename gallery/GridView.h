@@ -1,5 +1,5 @@
-// CGridView: a drawing of a rectangle on the dialog-unit grid, enlarged. The control's static in the
-// template only gives the place.
+// CGridView: a drawing of a rectangle on the dialog-unit grid, enlarged. The control's static in
+// the template only gives the place.
 #pragma once
 
 #include <umbra.h>

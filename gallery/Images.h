@@ -12,5 +12,5 @@ CString ImageFolder();
 /// Whether the picture files can be had.
 bool HasImages();
 
-/// The full path of a picture file, "badge.gif".
+/// The full path of a file in the image folder, "badge.gif".
 CString PictureFile(const char* fileName);

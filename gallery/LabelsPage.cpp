@@ -20,7 +20,9 @@ const int largeExtent = 200; // What a keyed picture is cut to.
 
 } // namespace
 
-CLabelsPage::CLabelsPage(CWnd* parent) : CGalleryPage(IDD_LABELS, parent) {}
+CLabelsPage::CLabelsPage(CWnd* parent) : CGalleryPage(IDD_LABELS, parent)
+{
+}
 
 BOOL CLabelsPage::OnInitDialog()
 {
@@ -117,7 +119,7 @@ void CLabelsPage::PrepareLinks()
     m_webLink.SetURL(""); // Opens its text.
     FitToText(m_webLink);
 
-    m_fileLink.SetWindowText(PictureFile("large.gif"));
+    m_fileLink.SetWindowText(PictureFile("about.txt"));
     m_fileLink.SetLink(TRUE);
     m_fileLink.SetLabelTextColor(palette::accent);
     FitToText(m_fileLink);

@@ -6,7 +6,7 @@
 #include <vector>
 
 BEGIN_MESSAGE_MAP(CSampleDialog, CDialogTS)
-    ON_BN_CLICKED(IDC_SAMPLE_COLOUR, &CSampleDialog::OnNextColour)
+ON_BN_CLICKED(IDC_SAMPLE_COLOUR, &CSampleDialog::OnNextColour)
 END_MESSAGE_MAP()
 
 namespace {
@@ -111,7 +111,9 @@ void CSampleDialog::DoDataExchange(CDataExchange* pDX)
     DDX_Control(pDX, IDCANCEL, m_btnClose);
 }
 
-void CSampleDialog::OnOK() {}
+void CSampleDialog::OnOK()
+{
+}
 
 void CSampleDialog::OnCancel()
 {

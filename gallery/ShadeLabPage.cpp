@@ -6,10 +6,10 @@
 #include <string.h>
 
 BEGIN_MESSAGE_MAP(CShadeLabPage, CGalleryPage)
-    ON_WM_HSCROLL()
-    ON_CBN_SELCHANGE(IDC_STYLE, &CShadeLabPage::OnStyle)
-    ON_BN_CLICKED(IDC_COPY, &CShadeLabPage::OnCopy)
-    ON_BN_CLICKED(IDC_RESET, &CShadeLabPage::OnReset)
+ON_WM_HSCROLL()
+ON_CBN_SELCHANGE(IDC_STYLE, &CShadeLabPage::OnStyle)
+ON_BN_CLICKED(IDC_COPY, &CShadeLabPage::OnCopy)
+ON_BN_CLICKED(IDC_RESET, &CShadeLabPage::OnReset)
 END_MESSAGE_MAP()
 
 namespace {
@@ -39,7 +39,9 @@ bool CopyText(CWnd& owner, const CString& text)
 
 } // namespace
 
-CShadeLabPage::CShadeLabPage(CWnd* parent) : CGalleryPage(IDD_SHADE_LAB, parent) {}
+CShadeLabPage::CShadeLabPage(CWnd* parent) : CGalleryPage(IDD_SHADE_LAB, parent)
+{
+}
 
 BOOL CShadeLabPage::OnInitDialog()
 {
@@ -128,8 +130,8 @@ CString CShadeLabPage::CallText() const
     const int style = max(0, m_style.GetCurSel());
     CString text;
     text.Format("SetShade(%s, %d, %d, %d, RGB(%d, %d, %d));", shadeStyles[style].name,
-                Value(IDC_GRANULARITY), Value(IDC_HIGHLIGHT), Value(IDC_COLORING),
-                Value(IDC_RED), Value(IDC_GREEN), Value(IDC_BLUE));
+                Value(IDC_GRANULARITY), Value(IDC_HIGHLIGHT), Value(IDC_COLORING), Value(IDC_RED),
+                Value(IDC_GREEN), Value(IDC_BLUE));
     return text;
 }
 

@@ -376,17 +376,17 @@ void ShootWorking(CAlbum& album)
         album.Fail("the working window did not open");
         return;
     }
-    g_pModelessDlg->SetWindowPos(NULL, pagePlace.x, pagePlace.y, 0, 0,
-                                 SWP_NOSIZE | SWP_NOZORDER);
+    g_pModelessDlg->SetWindowPos(NULL, pagePlace.x, pagePlace.y, 0, 0, SWP_NOSIZE | SWP_NOZORDER);
     album.Take(*g_pModelessDlg, "working-begin", "The working window as the job begins.");
-    const int pieces = 270;
+    const int pieces = 900;
     for (int i = 0; i < pieces && page.WorkOn(); ++i) {
     }
     album.Take(*g_pModelessDlg, "working-amid", "Amid the job; the host has enabled Cancel.");
-    while (page.WorkOn()) {
-    }
+    Click(*g_pModelessDlg->GetDlgItem(IDCANCEL));
+    if (page.WorkOn())
+        album.Fail("the job does not hear the Cancel button");
     page.EndWork();
-    album.Take(page, "working", "Working: the job is done.");
+    album.Take(page, "working", "Working: the user has cancelled the job.");
 }
 
 } // namespace

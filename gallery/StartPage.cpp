@@ -9,7 +9,7 @@
 #include "WorkingPage.h"
 
 BEGIN_MESSAGE_MAP(CStartPage, CGalleryPage)
-    ON_CONTROL_RANGE(BN_CLICKED, IDC_ROOM_FIRST, IDC_ROOM_LAST, &CStartPage::OnRoom)
+ON_CONTROL_RANGE(BN_CLICKED, IDC_ROOM_FIRST, IDC_ROOM_LAST, &CStartPage::OnRoom)
 END_MESSAGE_MAP()
 
 namespace {
@@ -30,7 +30,9 @@ void (*const rooms[])(CWnd* parent) = {
 
 } // namespace
 
-CStartPage::CStartPage(CWnd* parent) : CGalleryPage(IDD_START, parent) {}
+CStartPage::CStartPage(CWnd* parent) : CGalleryPage(IDD_START, parent)
+{
+}
 
 BOOL CStartPage::OnInitDialog()
 {

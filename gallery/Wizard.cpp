@@ -53,7 +53,7 @@ CString IndexPage(const WizardTask& task)
                    "</title>\r\n<style>\r\n"
                    "body { font-family: sans-serif; background: #f0f3f8; color: #2b3852; }\r\n"
                    "figure { display: inline-block; margin: 12px; vertical-align: top; }\r\n"
-                   "img { max-width: 320px; border: 1px solid #beCADB; }\r\n"
+                   "img { max-width: 320px; border: 1px solid #becadb; }\r\n"
                    "</style>\r\n</head>\r\n<body>\r\n<h1>" +
                    heading + "</h1>\r\n";
     for (const CString& picture : task.pictures) {
@@ -111,9 +111,8 @@ std::vector<CString> FindPictures(const CString& folder)
         if (!finder.IsDirectory() && IsPicture(finder.GetFileName()))
             names.push_back(finder.GetFileName());
     }
-    std::sort(names.begin(), names.end(), [](const CString& a, const CString& b) {
-        return a.CompareNoCase(b) < 0;
-    });
+    std::sort(names.begin(), names.end(),
+              [](const CString& a, const CString& b) { return a.CompareNoCase(b) < 0; });
     return names;
 }
 

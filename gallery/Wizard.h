@@ -8,10 +8,10 @@
 /// What the pages hand on to each other.
 struct WizardTask
 {
-    CString folder;  ///< With a backslash at its end.
-    CString heading; ///< Of the index page.
+    CString folder;                ///< With a backslash at its end.
+    CString heading;               ///< Of the index page.
     std::vector<CString> pictures; ///< File names.
-    CString indexFile; ///< Full path of what was written; empty when that failed.
+    CString indexFile;             ///< Full path of what was written; empty when that failed.
 };
 
 /// Leads through the pages until the user has finished or given up.

@@ -5,17 +5,17 @@
 #include <shlobj.h>
 
 BEGIN_MESSAGE_MAP(CWizardPage, CGalleryPage)
-    ON_BN_CLICKED(IDC_BACK, &CWizardPage::OnBack)
-    ON_WM_DESTROY()
+ON_BN_CLICKED(IDC_BACK, &CWizardPage::OnBack)
+ON_WM_DESTROY()
 END_MESSAGE_MAP()
 
 BEGIN_MESSAGE_MAP(CWizardFolderPage, CWizardPage)
-    ON_EN_CHANGE(IDC_FOLDER, &CWizardFolderPage::OnFolder)
-    ON_BN_CLICKED(IDC_BROWSE, &CWizardFolderPage::OnBrowse)
+ON_EN_CHANGE(IDC_FOLDER, &CWizardFolderPage::OnFolder)
+ON_BN_CLICKED(IDC_BROWSE, &CWizardFolderPage::OnBrowse)
 END_MESSAGE_MAP()
 
 BEGIN_MESSAGE_MAP(CWizardPicturesPage, CWizardPage)
-    ON_LBN_SELCHANGE(IDC_PICTURES, &CWizardPicturesPage::OnPicture)
+ON_LBN_SELCHANGE(IDC_PICTURES, &CWizardPicturesPage::OnPicture)
 END_MESSAGE_MAP()
 
 BEGIN_MESSAGE_MAP(CWizardConfirmPage, CWizardPage)
@@ -43,8 +43,7 @@ CString Count(size_t number)
 } // namespace
 
 CWizardPage::CWizardPage(UINT templateId, WizardTask& task, CWnd* parent, bool confirm, bool ok,
-                         bool cancel, bool next, bool back, bool closeCaption,
-                         bool proceedCaption)
+                         bool cancel, bool next, bool back, bool closeCaption, bool proceedCaption)
     : CGalleryPage(templateId, parent, confirm, ok, cancel, next, back, closeCaption,
                    proceedCaption, cancel),
       m_task(task)
@@ -137,8 +136,9 @@ CString CWizardFolderPage::Folder() const
 void CWizardFolderPage::ShowFound()
 {
     const size_t count = FindPictures(Folder()).size();
-    SetLabelText(m_found, count > 0 ? Count(count) + " found there (bmp, gif and jpg files)."
-                                    : CString("There are no pictures there: choose another folder."));
+    SetLabelText(m_found, count > 0
+                              ? Count(count) + " found there (bmp, gif and jpg files)."
+                              : CString("There are no pictures there: choose another folder."));
     m_btnOk.EnableWindow(count > 0);
 }
 

@@ -14,8 +14,8 @@ public:
 
 protected:
     /// The flags are those of CBaseDialog.
-    CWizardPage(UINT templateId, WizardTask& task, CWnd* parent, bool confirm, bool ok,
-                bool cancel, bool next, bool back, bool closeCaption, bool proceedCaption);
+    CWizardPage(UINT templateId, WizardTask& task, CWnd* parent, bool confirm, bool ok, bool cancel,
+                bool next, bool back, bool closeCaption, bool proceedCaption);
 
     WizardTask& m_task;
 

@@ -4,7 +4,7 @@ BEGIN_MESSAGE_MAP(CWorkingDialog, CModellessDlg)
 END_MESSAGE_MAP()
 
 BEGIN_MESSAGE_MAP(CWorkingPage, CGalleryPage)
-    ON_BN_CLICKED(IDC_START_WORK, &CWorkingPage::OnStart)
+ON_BN_CLICKED(IDC_START_WORK, &CWorkingPage::OnStart)
 END_MESSAGE_MAP()
 
 namespace {
@@ -14,9 +14,11 @@ const RECT progressPlace = {62, 128, 346, 140};
 
 // The job: counting the prime numbers below a limit, in pieces of some milliseconds.
 const unsigned firstNumber = 3;
-const unsigned limit = 6000000;
-const unsigned pieceSize = 10000;
+const unsigned limit = 40000000;
+const unsigned pieceSize = 20000;
 const int percentMax = 100;
+const int percentToCancel = 10;
+const DWORD reportTime = 150; // Milliseconds from one report to the next.
 
 bool IsPrime(unsigned odd)
 {
@@ -38,7 +40,6 @@ CWorkingDialog::CWorkingDialog() : CModellessDlg(NULL)
 BOOL CWorkingDialog::OnInitDialog()
 {
     CModellessDlg::OnInitDialog();
-    SetWindowText("Umbra gallery - Working");
     m_title.SetWindowText("Counting prime numbers");
     m_detail.SetWindowText("");
     m_hint.SetWindowText("Drag this window, or press Tab: it answers between the pieces of work.");
@@ -63,7 +64,9 @@ void CWorkingDialog::ShowProgress(int percent, const CString& detail)
     SetLabelText(m_detail, detail);
 }
 
-void CWorkingDialog::OnOK() {}
+void CWorkingDialog::OnOK()
+{
+}
 
 void CWorkingDialog::OnCancel()
 {
@@ -86,7 +89,9 @@ void CWorkingDialog::SetLabelText(CHyperLink& label, const CString& text)
     InvalidateRect(&place, TRUE);
 }
 
-CWorkingPage::CWorkingPage(CWnd* parent) : CGalleryPage(IDD_WORKING, parent) {}
+CWorkingPage::CWorkingPage(CWnd* parent) : CGalleryPage(IDD_WORKING, parent)
+{
+}
 
 BOOL CWorkingPage::OnInitDialog()
 {
@@ -118,13 +123,10 @@ bool CWorkingPage::WorkOn()
     for (; m_next < end; m_next += 2)
         m_primes += IsPrime(m_next);
 
-    const int percent = static_cast<int>(100.0 * m_next / limit);
-    CString detail;
-    detail.Format("%u of %u tested: %u are prime.", min(m_next, limit), limit,
-                  m_primes);
-    Dialog()->ShowProgress(percent, detail);
+    if (::GetTickCount() - m_lastReport >= reportTime)
+        Report();
     // Not at once: a click meant for the Start button is not to cancel the work.
-    if (percent >= 10 && m_btnAllowCancel.GetCheck() == BST_CHECKED)
+    if (Percent() >= percentToCancel && m_btnAllowCancel.GetCheck() == BST_CHECKED)
         Dialog()->AllowCancel();
     g_pModelessDlg->PumpMessages();
     return m_next < limit && !Dialog()->IsCancelled();
@@ -171,4 +173,17 @@ void CWorkingPage::OnStart()
     m_btnStart.EnableWindow(TRUE);
     m_btnCancel.EnableWindow(TRUE);
     m_btnStart.SetFocus();
+}
+
+int CWorkingPage::Percent() const
+{
+    return static_cast<int>(100.0 * min(m_next, limit) / limit);
+}
+
+void CWorkingPage::Report()
+{
+    m_lastReport = ::GetTickCount();
+    CString detail;
+    detail.Format("%u of %u tested: %u are prime.", min(m_next, limit), limit, m_primes);
+    Dialog()->ShowProgress(Percent(), detail);
 }

@@ -54,8 +54,11 @@ protected:
     afx_msg void OnStart();
 
 private:
-    unsigned m_next = 0;   ///< The number to be tested next.
-    unsigned m_primes = 0; ///< Found so far.
+    unsigned m_next = 0;    ///< The number to be tested next.
+    unsigned m_primes = 0;  ///< Found so far.
+    DWORD m_lastReport = 0; ///< In the milliseconds of the system.
 
+    int Percent() const;
+    void Report();
     CWorkingDialog* Dialog() const { return static_cast<CWorkingDialog*>(g_pModelessDlg); }
 };

@@ -47,7 +47,7 @@
 #define IDC_RADIO_LAST 1059
 #define IDC_TIP 1060
 #define IDC_STYLE_NAME_FIRST 1061 // One static a style.
-#define IDC_MATRIX_FIRST 1100 // The shade styles by rows, the states by columns.
+#define IDC_MATRIX_FIRST 1100     // The shade styles by rows, the states by columns.
 
 #define IDD_SHADE_LAB 140
 #define IDC_STYLE 1200
