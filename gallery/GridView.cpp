@@ -14,9 +14,15 @@ const int closestLines = 3;  // Screen pixels between grid lines; closer ones ar
 const int unitsAcross = 4;   // Dialog units in a horizontal base, each fourth line is a strong one;
 const int unitsDown = 8;     // and in a vertical base.
 
-CRect Enlarge(const CRect& place, int scale)
+int Scaled(int pixels, double scale)
 {
-    return CRect(place.left * scale, place.top * scale, place.right * scale, place.bottom * scale);
+    return static_cast<int>(pixels * scale);
+}
+
+CRect Scaled(const CRect& place, double scale)
+{
+    return CRect(Scaled(place.left, scale), Scaled(place.top, scale), Scaled(place.right, scale),
+                 Scaled(place.bottom, scale));
 }
 
 } // namespace
@@ -50,20 +56,24 @@ void CGridView::OnPaint()
     memory.SelectObject(before);
 }
 
-int CGridView::Scale(const CRect& client) const
+// A whole number of screen pixels for each pixel, unless the extent is too large for that.
+double CGridView::Scale(const CRect& client) const
 {
-    const int across = client.Width() / max(1, static_cast<int>(m_extent.cx));
-    const int down = client.Height() / max(1, static_cast<int>(m_extent.cy));
-    return max(1, min(largestScale, min(across, down)));
+    const double across =
+        static_cast<double>(client.Width()) / max(1, static_cast<int>(m_extent.cx));
+    const double down =
+        static_cast<double>(client.Height()) / max(1, static_cast<int>(m_extent.cy));
+    const double scale = min(across, down);
+    return scale < 1 ? scale : min(largestScale, static_cast<int>(scale));
 }
 
 void CGridView::DrawView(CDC& dc, const CRect& client)
 {
     dc.FillSolidRect(&client, palette::paper);
-    const int scale = Scale(client);
+    const double scale = Scale(client);
     DrawGrid(dc, client, scale);
 
-    const CRect place = Enlarge(m_rectangle, scale);
+    const CRect place = Scaled(m_rectangle, scale);
     CBrush frame(m_color);
     CRect edge = place;
     for (int i = 0; i < 2; ++i) {
@@ -71,30 +81,33 @@ void CGridView::DrawView(CDC& dc, const CRect& client)
         edge.DeflateRect(1, 1);
     }
     if (!m_outline.IsRectEmpty())
-        DrawOutline(dc, Enlarge(m_outline, scale));
+        DrawOutline(dc, Scaled(m_outline, scale));
 
     CBrush border(palette::line);
     dc.FrameRect(&client, &border);
 }
 
-void CGridView::DrawGrid(CDC& dc, const CRect& client, int scale)
+void CGridView::DrawGrid(CDC& dc, const CRect& client, double scale)
 {
     UINT horizontal = 0;
     UINT vertical = 0;
     GetFontBaseUnits(&horizontal, &vertical);
     const DialogUnits::Base base = {horizontal, vertical};
-    const bool allAcross = static_cast<int>(horizontal) * scale >= closestLines * unitsAcross;
-    const bool allDown = static_cast<int>(vertical) * scale >= closestLines * unitsDown;
-    const int last = max(client.Width(), client.Height());
-    for (int unit = 0; unit <= last; ++unit) {
+    const double across = horizontal * scale;
+    const double down = vertical * scale;
+    for (int unit = 0;; ++unit) {
         const DialogUnits::Box at = DialogUnits::ToPixels({unit, unit, 0, 0}, base);
+        const int x = Scaled(at.x, scale);
+        const int y = Scaled(at.y, scale);
+        if (x >= client.Width() && y >= client.Height())
+            return;
         const bool strongAcross = unit % unitsAcross == 0;
         const bool strongDown = unit % unitsDown == 0;
-        if (at.x * scale < client.Width() && (strongAcross || allAcross))
-            dc.FillSolidRect(at.x * scale, 0, 1, client.Height(),
+        if (across >= (strongAcross ? closestLines : closestLines * unitsAcross))
+            dc.FillSolidRect(x, 0, 1, client.Height(),
                              strongAcross ? palette::line : palette::faintLine);
-        if (at.y * scale < client.Height() && (strongDown || allDown))
-            dc.FillSolidRect(0, at.y * scale, client.Width(), 1,
+        if (down >= (strongDown ? closestLines : closestLines * unitsDown))
+            dc.FillSolidRect(0, y, client.Width(), 1,
                              strongDown ? palette::line : palette::faintLine);
     }
 }

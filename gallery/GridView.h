@@ -1,5 +1,5 @@
-// CGridView: a drawing of a rectangle on the dialog-unit grid, enlarged. The control's static in
-// the template only gives the place.
+// CGridView: a drawing of a rectangle on the dialog-unit grid, enlarged where there is room. The
+// static control of the template only gives the place.
 #pragma once
 
 #include <umbra.h>
@@ -22,8 +22,8 @@ protected:
     afx_msg void OnPaint();
 
 private:
-    int Scale(const CRect& client) const;
+    double Scale(const CRect& client) const;
     void DrawView(CDC& dc, const CRect& client);
-    void DrawGrid(CDC& dc, const CRect& client, int scale);
+    void DrawGrid(CDC& dc, const CRect& client, double scale);
     void DrawOutline(CDC& dc, CRect place);
 };
