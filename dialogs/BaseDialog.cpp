@@ -31,7 +31,9 @@ CBaseDialog::CBaseDialog(UINT templateId, CWnd* parent, bool confirm, bool ok, b
 {
 }
 
-CBaseDialog::~CBaseDialog() {}
+CBaseDialog::~CBaseDialog()
+{
+}
 
 BOOL CBaseDialog::OnInitDialog()
 {
@@ -76,7 +78,7 @@ void CBaseDialog::ShowPicture(UINT stringId)
     if (m_picture.GetSafeHwnd() == NULL)
         m_picture.Create("", 0, pictureBox, this, pictureId);
     m_picture.SetTransparentColor(imageKey);
-    m_picture.LoadPicture(ImagePath(stringId));
+    m_picture.LoadPicture(PathOfStringImage(stringId));
     m_picture.ShowWindow(SW_SHOWNORMAL);
 }
 
@@ -102,7 +104,7 @@ void CBaseDialog::OnPaint()
     dc.BitBlt(0, 0, record.bmWidth, record.bmHeight, &memory, 0, 0, SRCCOPY);
 }
 
-CString CBaseDialog::ImagePath(UINT stringId) const
+CString CBaseDialog::PathOfStringImage(UINT stringId) const
 {
     CString name;
     name.LoadString(stringId);
@@ -117,6 +119,6 @@ void CBaseDialog::SetButton(CxShadeButton& button, const char* caption)
 
 void CBaseDialog::SetButtonIcon(CxShadeButton& button, UINT stringId)
 {
-    button.SetPicture(ImagePath(stringId), CxShadeButton::alignLeft, iconExtent, iconExtent,
+    button.SetPicture(PathOfStringImage(stringId), CxShadeButton::alignLeft, iconExtent, iconExtent,
                       imageKey);
 }

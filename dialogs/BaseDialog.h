@@ -2,9 +2,9 @@
 // shaded standard buttons to fixed control ids, gives them captions, faces and icons as eight flags
 // say, and can show one picture.
 //
-// A page calls the base versions of DoDataExchange and OnInitDialog first from its own. Its template
-// has the control IDCANCEL, with a confirm or next flag also IDOK, and with the back flag IDC_BACK
-// (3046); a missing one fails the exchange, as with any control.
+// A page calls the base versions of DoDataExchange and OnInitDialog first from its own. Its
+// template has the control IDCANCEL, with a confirm or next flag also IDOK, and with the back flag
+// IDC_BACK (3046); a missing one fails the exchange, as with any control.
 #pragma once
 
 #include "DialogTS.h"
@@ -62,7 +62,7 @@ protected:
     afx_msg virtual void OnPaint();
 
 private:
-    CString ImagePath(UINT stringId) const;
+    CString PathOfStringImage(UINT stringId) const;
     void SetButton(CxShadeButton& button, const char* caption);
     void SetButtonIcon(CxShadeButton& button, UINT stringId);
 };

@@ -22,17 +22,17 @@ public:
     void DrawShaped(CDC* pDC, int cx, int cy);
 
     // Read in this order when the background is erased: shaped, solid fill, bitmap.
-    BOOL m_bShaped = FALSE;      ///< The background is m_bmpBack seen through m_bmpMask.
-    BOOL m_bSolidFill = FALSE;   ///< The client area is filled with m_crFill.
-    BOOL m_bCaptionText = FALSE; ///< The window text is drawn over the bitmap, in white.
-    BOOL m_bDragAnywhere = FALSE; ///< A press anywhere in the client area moves the dialog.
-    BOOL m_bMaskBuilt = FALSE;   ///< Cleared with m_bHasBitmap; not read by the toolkit.
-    BOOL m_bHasBitmap = FALSE;   ///< m_bmpBack holds a background bitmap to be drawn.
-    HBRUSH m_hBackBrush;         ///< The stock null brush; no painting uses it.
+    BOOL m_bShaped = FALSE;           ///< The background is m_bmpBack seen through m_bmpMask.
+    BOOL m_bSolidFill = FALSE;        ///< The client area is filled with m_crFill.
+    BOOL m_bCaptionText = FALSE;      ///< The window text is drawn over the bitmap, in white.
+    BOOL m_bDragAnywhere = FALSE;     ///< A press anywhere in the client area moves the dialog.
+    BOOL m_bMaskBuilt = FALSE;        ///< Cleared with m_bHasBitmap; not read by the toolkit.
+    BOOL m_bHasBitmap = FALSE;        ///< m_bmpBack holds a background bitmap to be drawn.
+    HBRUSH m_hBackBrush;              ///< The stock null brush; no painting uses it.
     COLORREF m_crFill = RGB(0, 0, 0); ///< Set it together with m_bSolidFill.
-    CBitmap m_bmpBack;           ///< The image. Not stretched, not tiled.
-    CBitmap m_bmpMask;           ///< Black where the image shows; white (and the image black there)
-                                 ///< where the screen behind is kept.
+    CBitmap m_bmpBack;                ///< The image. Not stretched, not tiled.
+    CBitmap m_bmpMask; ///< Black where the image shows; white (and the image black there)
+                       ///< where the screen behind is kept.
 
 protected:
     DECLARE_MESSAGE_MAP()

@@ -81,8 +81,8 @@ int RoundHalfDown(double x)
     const int above = static_cast<int>(ceil(x));
     const int below = static_cast<int>(floor(x));
     // The sum wraps, which only unsigned arithmetic may.
-    const int sum = static_cast<int>(static_cast<unsigned int>(below) +
-                                     static_cast<unsigned int>(above));
+    const int sum =
+        static_cast<int>(static_cast<unsigned int>(below) + static_cast<unsigned int>(above));
     return x > sum * 0.5 ? above : below;
 }
 

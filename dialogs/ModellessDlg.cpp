@@ -23,7 +23,9 @@ CModellessDlg::CModellessDlg(CWnd* parent)
     AfxGetApp()->BeginWaitCursor();
 }
 
-CModellessDlg::~CModellessDlg() {}
+CModellessDlg::~CModellessDlg()
+{
+}
 
 BOOL CModellessDlg::OnInitDialog()
 {

@@ -5,23 +5,24 @@
 #include <olectl.h>
 #include <string.h>
 
-#include <vector>
+#include <memory>
+#include <new>
 
 namespace {
 
 const int workingPathCapacity = 256;
 const size_t longestPath = 0x40000000; // Characters, with the terminator; refused from here on.
 
-/// The path in UTF-16; empty when it cannot be converted.
-std::vector<wchar_t> WidenPath(const char* path)
+/// The path in UTF-16; NULL when it cannot be converted.
+std::unique_ptr<wchar_t[]> WidenPath(const char* path)
 {
     const size_t length = strlen(path) + 1;
     if (length >= longestPath)
-        return {};
-    std::vector<wchar_t> wide(length);
-    if (::MultiByteToWideChar(CP_THREAD_ACP, 0, path, -1, wide.data(),
-                              static_cast<int>(length)) == 0)
-        return {};
+        return nullptr;
+    std::unique_ptr<wchar_t[]> wide(new (std::nothrow) wchar_t[length]);
+    if (wide == nullptr || ::MultiByteToWideChar(CP_THREAD_ACP, 0, path, -1, wide.get(),
+                                                 static_cast<int>(length)) == 0)
+        return nullptr;
     return wide;
 }
 
@@ -29,9 +30,9 @@ std::vector<wchar_t> WidenPath(const char* path)
 /// code of the loader is of no interest: what counts is whether a picture came back.
 IPicture* OpenPicture(const char* path)
 {
-    std::vector<wchar_t> wide = WidenPath(path);
+    const std::unique_ptr<wchar_t[]> wide = WidenPath(path);
     void* picture = NULL;
-    ::OleLoadPicturePath(wide.empty() ? NULL : wide.data(), NULL, 0, 0, IID_IPicture, &picture);
+    ::OleLoadPicturePath(wide.get(), NULL, 0, 0, IID_IPicture, &picture);
     return static_cast<IPicture*>(picture);
 }
 

@@ -54,8 +54,8 @@ LONG QueryRegistryDefault(HKEY root, const char* subKey, char* out)
 UINT ShellOpen(const char* target, int showCommand, const char* extension)
 {
     // The shell's result is a number of 32 bits, whatever its type says.
-    const UINT shellResult = static_cast<UINT>(reinterpret_cast<UINT_PTR>(
-        ::ShellExecute(NULL, "open", target, NULL, NULL, showCommand)));
+    const UINT shellResult = static_cast<UINT>(
+        reinterpret_cast<UINT_PTR>(::ShellExecute(NULL, "open", target, NULL, NULL, showCommand)));
     if (shellResult > lastShellFailure)
         return shellResult;
 
