@@ -1,0 +1,405 @@
+// Holds the figures of docs/object-budget.md.
+#include "GdiSweeper.h"
+#include "Stage.h"
+
+#include <tests/dialogs/PageTemplate.h>
+
+#include <controls/HyperLink.h>
+#include <controls/NoteStatic.h>
+#include <controls/ShadeButton.h>
+#include <dialogs/DialogUnits.h>
+#include <dialogs/ModellessDlg.h>
+#include <shell/HandCursor.h>
+#include <shell/PictureLoader.h>
+
+#include <doctest/doctest.h>
+
+#include <functional>
+#include <stdlib.h>
+#include <string>
+
+using namespace umbra::testing;
+
+namespace {
+
+/// What the document says of one operation.
+struct Budget
+{
+    int fontsOfEach = 0; ///< Left by each object, once the operation was called.
+    int bitmapsOfEach = 0;
+    int fontsOfCall = 0; ///< Left by each call.
+    int bitmapsOfCall = 0;
+};
+
+std::string Describe(const GdiSweeper::Left& left)
+{
+    return std::to_string(left.fonts) + " fonts, " + std::to_string(left.bitmaps) + " bitmaps, " +
+           std::to_string(left.others) + " others";
+}
+
+/// How often an object is made, used and destroyed.
+int CountCycles()
+{
+    const char* wanted = getenv("UMBRA_CYCLES");
+    return wanted != nullptr ? atoi(wanted) : 200;
+}
+
+/// One object that makes so many calls of the operation.
+using Cycle = std::function<void(int calls)>;
+
+void CheckCycles(int cycles, int calls, const Budget& budget, const Cycle& cycle)
+{
+    const int batch = 200; // Even the class that leaves most does not fill the table.
+    cycle(calls);          // What the system keeps for itself is there afterwards.
+    cycle(calls);
+    GdiSweeper sweeper;
+    for (int done = 0; done < cycles;) {
+        const int count = min(batch, cycles - done);
+        for (int i = 0; i < count; ++i)
+            cycle(calls);
+        done += count;
+        GdiSweeper::Left expected;
+        expected.fonts = count * (budget.fontsOfEach + calls * budget.fontsOfCall);
+        expected.bitmaps = count * (budget.bitmapsOfEach + calls * budget.bitmapsOfCall);
+        const GdiSweeper::Left left = sweeper.Sweep();
+        INFO("left ", Describe(left), " in ", count, " cycles, expected ", Describe(expected));
+        REQUIRE(left == expected);
+    }
+}
+
+void CheckOperation(const std::string& name, const Budget& budget, const Cycle& cycle)
+{
+    INFO(name);
+    CheckCycles(3, 1, budget, cycle);
+    CheckCycles(3, 3, budget, cycle);
+}
+
+/// A label over a window, made, given so many calls, and destroyed.
+template <class Label>
+Cycle OnLabel(const std::function<void(Label&)>& call)
+{
+    return [call](int calls) {
+        Stage stage;
+        Label label;
+        label.SubclassWindow(stage.AddLabel());
+        stage.Show();
+        for (int i = 0; i < calls; ++i)
+            call(label);
+        stage.Close();
+    };
+}
+
+Cycle OnButton(const std::function<void(CxShadeButton&)>& call, DWORD style = BS_AUTOCHECKBOX)
+{
+    return [call, style](int calls) {
+        Stage stage;
+        CxShadeButton button;
+        button.SubclassWindow(stage.AddButton(style));
+        button.SetShade(SHADE_DIAGONAL, 0, 0, 100, RGB(180, 200, 230));
+        stage.Show();
+        for (int i = 0; i < calls; ++i)
+            call(button);
+        stage.Show();
+        stage.Close();
+    };
+}
+
+const Budget nothing;
+const Budget oneFontACall = {0, 0, 1, 0};
+const Budget oneBitmapACall = {0, 0, 0, 1};
+const Budget oneBitmapACallAndTheMask = {0, 1, 0, 1};
+
+CString Picture(const char* name = "Info.gif")
+{
+    return ProgramFolder() + "\\images\\" + name;
+}
+
+HICON MakeIcon()
+{
+    return ::CopyIcon(::LoadIcon(NULL, IDI_ASTERISK));
+}
+
+/// The bitmaps that an icon costs where the system counts them.
+int BitmapsOfIcon()
+{
+    ::DestroyIcon(MakeIcon());
+    const GdiCount before = CountGdiObjects();
+    const HICON icon = MakeIcon();
+    const int bitmaps = CountGdiObjects().bitmaps - before.bitmaps;
+    ::DestroyIcon(icon);
+    return bitmaps;
+}
+
+class Page : public CBaseDialog
+{
+public:
+    Page(bool confirm, bool ok, bool cancel, bool next, bool back, bool cancelIcon)
+        : CBaseDialog(0U, NULL, confirm, ok, cancel, next, back, false, false, cancelIcon)
+    {
+        g_strImageDir = ProgramFolder();
+        CreateIndirect(MakePageTemplate().Get());
+        Stage::Paint(m_hWnd);
+    }
+    ~Page() override { DestroyWindow(); }
+};
+
+void ShowModeless()
+{
+    g_strImageDir = ProgramFolder();
+    CModellessDlg dialog(NULL);
+    dialog.Create(CModellessDlg::IDD, NULL);
+    dialog.ShowWindow(SW_SHOW);
+    dialog.PumpMessages();
+    Stage::Paint(dialog.m_hWnd);
+    dialog.DestroyWindow();
+    AfxGetApp()->EndWaitCursor();
+}
+
+void ShowDialog(const std::function<void(CDialogTS&)>& setUp)
+{
+    CDialogTS dialog(0U);
+    setUp(dialog);
+    dialog.CreateIndirect(
+        DialogTemplate(20, 20, 150, 100, WS_POPUP | WS_VISIBLE, "A caption").Get());
+    Stage::Paint(dialog.m_hWnd);
+    dialog.DestroyWindow();
+}
+
+} // namespace
+
+TEST_CASE("what each operation of CStaticTS leaves for good")
+{
+    using Label = CStaticTS;
+    CheckOperation("painting", nothing, OnLabel<Label>([](Label& l) { Stage::Paint(l.m_hWnd); }));
+    CheckOperation("SetLink", oneFontACall, OnLabel<Label>([](Label& l) { l.SetLink(TRUE); }));
+    CheckOperation("SetLabelFont", oneFontACall, OnLabel<Label>([](Label& l) {
+                       l.ShowWindow(SW_HIDE); // It repaints.
+                       l.SetLabelFont(static_cast<HFONT>(::GetStockObject(ANSI_VAR_FONT)));
+                   }));
+    CheckOperation("painting while m_bOwnFont is 0", oneFontACall, OnLabel<Label>([](Label& l) {
+                       l.m_bOwnFont = FALSE;
+                       Stage::Paint(l.m_hWnd);
+                   }));
+    CheckOperation("painting no text while m_bOwnFont is 0", nothing, OnLabel<Label>([](Label& l) {
+                       l.m_bOwnFont = FALSE;
+                       l.SetWindowText("");
+                       Stage::Paint(l.m_hWnd);
+                   }));
+    CheckOperation("LoadPicture, opaque", oneBitmapACall,
+                   OnLabel<Label>([](Label& l) { l.LoadPicture(Picture()); }));
+    CheckOperation("LoadPicture, keyed", oneBitmapACallAndTheMask, OnLabel<Label>([](Label& l) {
+                       l.SetTransparentColor(RGB(0, 0, 0));
+                       l.LoadPicture(Picture());
+                       Stage::Paint(l.m_hWnd);
+                   }));
+    CheckOperation("LoadPicture, no such file", nothing,
+                   OnLabel<Label>([](Label& l) { l.LoadPicture("no such.gif"); }));
+    CheckOperation("colour requests", nothing, OnLabel<Label>([](Label& l) {
+                       const HDC dc = ::GetDC(l.m_hWnd);
+                       for (const COLORREF color : {RGB(1, 2, 3), RGB(4, 5, 6)}) {
+                           l.SetBackColor(color);
+                           ::SendMessage(::GetParent(l.m_hWnd), WM_CTLCOLORSTATIC,
+                                         reinterpret_cast<WPARAM>(dc),
+                                         reinterpret_cast<LPARAM>(l.m_hWnd));
+                       }
+                       ::ReleaseDC(l.m_hWnd, dc);
+                   }));
+    CheckOperation("everything else", nothing, OnLabel<Label>([](Label& l) {
+                       l.SetLabelTextColor(RGB(1, 2, 3));
+                       l.SetLinkTarget("target");
+                       l.SetEmbossed(TRUE);
+                       l.SetTransparent(TRUE);
+                       Stage::Paint(l.m_hWnd);
+                   }));
+}
+
+TEST_CASE("what each operation of CNoteStatic leaves for good")
+{
+    // A copy, and what SetLabelFont derives from it.
+    CheckOperation("CopyWindowFont", {0, 0, 2, 0}, OnLabel<CNoteStatic>([](CNoteStatic& note) {
+                       note.ShowWindow(SW_HIDE); // It repaints.
+                       note.CopyWindowFont();
+                   }));
+    CheckOperation("painting after CopyWindowFont", {2, 0, 1, 0}, [](int calls) {
+        Stage stage;
+        CNoteStatic note;
+        note.SubclassWindow(stage.AddLabel());
+        note.CopyWindowFont();
+        for (int i = 0; i < calls; ++i)
+            Stage::Paint(note.m_hWnd);
+        stage.Close();
+    });
+    CheckOperation("painting after CopyWindowFont with m_bOwnFont set again", {2, 0, 0, 0},
+                   [](int calls) {
+                       Stage stage;
+                       CNoteStatic note;
+                       note.SubclassWindow(stage.AddLabel());
+                       note.CopyWindowFont();
+                       note.m_bOwnFont = TRUE;
+                       for (int i = 0; i < calls; ++i)
+                           Stage::Paint(note.m_hWnd);
+                       stage.Close();
+                   });
+}
+
+TEST_CASE("what each operation of CHyperLink leaves for good")
+{
+    using Link = CHyperLink;
+    CheckOperation("painting", nothing, OnLabel<Link>([](Link& l) { Stage::Paint(l.m_hWnd); }));
+    CheckOperation("SetURL", oneFontACall, OnLabel<Link>([](Link& l) { l.SetURL("target"); }));
+    CheckOperation("ApplyLinkFont", oneFontACall, OnLabel<Link>([](Link& l) {
+                       l.ApplyLinkFont();
+                       Stage::Paint(l.m_hWnd);
+                   }));
+    CheckOperation("SetBitmapFile without a key colour", oneBitmapACall,
+                   OnLabel<Link>([](Link& l) { l.SetBitmapFile(Picture()); }));
+    CheckOperation("SetBitmapFile", oneBitmapACallAndTheMask, OnLabel<Link>([](Link& l) {
+                       l.SetTransparentColor(RGB(0, 0, 0));
+                       l.SetBitmapFile(Picture());
+                       Stage::Paint(l.m_hWnd);
+                   }));
+    CheckOperation("SetBitmapFile, no such file", nothing,
+                   OnLabel<Link>([](Link& l) { l.SetBitmapFile("no such.gif"); }));
+    CheckOperation("SetToolTipText", nothing, OnLabel<Link>([](Link& l) {
+                       l.SetToolTipText("A tip");
+                       l.RelayToolTipEvent(WM_MOUSEMOVE, 0, MAKELPARAM(5, 5));
+                   }));
+}
+
+TEST_CASE("what each operation of CxShadeButton leaves for good")
+{
+    using Button = CxShadeButton;
+    CheckOperation("painting", nothing, OnButton([](Button& b) { Stage::Paint(b.m_hWnd); }));
+    CheckOperation("SetShade", nothing, OnButton([](Button& b) {
+                       b.SetShade(SHADE_SCRATCHED, 20, 30, 40, RGB(1, 2, 3));
+                   }));
+    // The last picture goes with the button; those that it replaced stay.
+    CheckOperation("SetPicture", {0, -1, 0, 1}, OnButton([](Button& b) {
+                       b.SetPicture(Picture(), Button::alignLeft, 19, 19, RGB(0, 0, 0));
+                       Stage::Paint(b.m_hWnd);
+                   }));
+    CheckOperation("SetPicture, no such file", nothing, OnButton([](Button& b) {
+                       b.SetPicture("no such.gif", Button::alignLeft, 19, 19, RGB(0, 0, 0));
+                   }));
+    CheckOperation("SetIcons", nothing, OnButton([](Button& b) {
+                       b.SetIcons(MakeIcon(), Button::alignLeft, 32, 32, MakeIcon(), MakeIcon());
+                       Stage::Paint(b.m_hWnd);
+                   }));
+    CheckOperation("SetIcons, one icon, then SetPicture", {0, -1, 0, 1}, OnButton([](Button& b) {
+                       b.SetIcons(MakeIcon(), Button::alignLeft, 32, 32);
+                       b.SetPicture(Picture(), Button::alignLeft, 19, 19, RGB(0, 0, 0));
+                   }));
+    CheckOperation("SetIcons, three icons, then SetPicture", {0, -1, 0, 1 + BitmapsOfIcon()},
+                   OnButton([](Button& b) {
+                       b.SetIcons(MakeIcon(), Button::alignLeft, 32, 32, MakeIcon(), MakeIcon());
+                       b.SetPicture(Picture(), Button::alignLeft, 19, 19, RGB(0, 0, 0));
+                   }));
+    CheckOperation("everything else", nothing, OnButton([](Button& b) {
+                       LOGFONT font = {};
+                       font.lfHeight = -12;
+                       b.SetTextFont(font);
+                       b.SetTextColor(RGB(1, 2, 3));
+                       b.SetBorder(3);
+                       b.SetFlat(TRUE);
+                       b.Set3dBorder(FALSE);
+                       b.SetToolTipText("A tip", "Checked");
+                       b.SetCheck(BST_CHECKED);
+                       Stage::Paint(b.m_hWnd);
+                   }));
+}
+
+TEST_CASE("what the dialogs leave for good")
+{
+    CheckCycles(3, 1, nothing, [](int) { ShowDialog([](CDialogTS&) {}); });
+    CheckCycles(3, 1, nothing,
+                [](int) { ShowDialog([](CDialogTS& dialog) { dialog.m_bSolidFill = TRUE; }); });
+    CheckCycles(3, 1, nothing, [](int) {
+        ShowDialog([](CDialogTS& dialog) {
+            dialog.m_bShaped = TRUE;
+            dialog.m_bmpBack.Attach(LoadPictureBitmap(Picture()));
+            dialog.m_bmpMask.CreateBitmap(10, 10, 1, 1, NULL);
+        });
+    });
+    // The supplier's bitmap stays the supplier's.
+    CheckCycles(3, 1, oneBitmapACall, [](int) {
+        ShowDialog([](CDialogTS& dialog) {
+            dialog.m_bHasBitmap = TRUE;
+            dialog.m_bCaptionText = TRUE;
+            dialog.m_bmpBack.Attach(LoadPictureBitmap(Picture()));
+        });
+    });
+    CheckCycles(3, 1, nothing, [](int) { Page(false, false, true, true, true, true); });
+    CheckCycles(3, 1, nothing, [](int) { Page(true, true, false, false, false, false); });
+    // The icon of a flag that another flag overrides.
+    CheckCycles(3, 1, oneBitmapACall, [](int) { Page(true, false, false, true, false, false); });
+    CheckCycles(3, 1, oneBitmapACall, [](int) { Page(false, true, true, false, false, true); });
+    CheckOperation("ShowPicture", oneBitmapACallAndTheMask, [](int calls) {
+        Page page(false, false, true, false, false, false);
+        for (int i = 0; i < calls; ++i)
+            page.ShowPicture(IDS_IMAGE_INFO);
+        Stage::Paint(page.m_hWnd);
+    });
+    // The semibold label's font; two pictures and their masks.
+    CheckCycles(3, 1, {1, 4, 0, 0}, [](int) { ShowModeless(); });
+}
+
+TEST_CASE("what the services leave for good")
+{
+    CheckCycles(50, 1, oneBitmapACall, [](int) { LoadPictureBitmap(Picture()); });
+    CheckCycles(50, 1, nothing, [](int) { LoadPictureBitmap("no such.gif"); });
+    CheckCycles(50, 1, nothing, [](int) { LoadHandCursor(); });
+    CheckCycles(50, 1, nothing, [](int) {
+        int x, y, cx, cy;
+        PixelsToDialogUnits(11, 20, 100, 100, &x, &y, &cx, &cy);
+        DialogUnitsToPixels(6, 12, 57, 62, &x, &y, &cx, &cy);
+    });
+}
+
+TEST_CASE("thousands of labels are made, painted, hovered over, pressed and destroyed")
+{
+    const Cycle live = OnLabel<CStaticTS>([](CStaticTS& l) { Stage::HoverAndPress(l.m_hWnd); });
+    CheckCycles(CountCycles(), 1, nothing, live);
+}
+
+TEST_CASE("thousands of notes are made, painted, hovered over, pressed and destroyed")
+{
+    const Cycle live = OnLabel<CNoteStatic>([](CNoteStatic& l) { Stage::HoverAndPress(l.m_hWnd); });
+    CheckCycles(CountCycles(), 1, nothing, live);
+}
+
+TEST_CASE("thousands of hyperlinks are made, painted, hovered over, pressed and destroyed")
+{
+    const Cycle live = OnLabel<CHyperLink>([](CHyperLink& l) {
+        l.SetToolTipText("A tip");
+        Stage::HoverAndPress(l.m_hWnd);
+    });
+    CheckCycles(CountCycles(), 1, nothing, live);
+}
+
+TEST_CASE("thousands of buttons are made, painted, hovered over, pressed and destroyed")
+{
+    const Cycle live = OnButton([](CxShadeButton& b) {
+        b.SetPicture(Picture(), CxShadeButton::alignLeft, 19, 19, RGB(0, 0, 0));
+        Stage::HoverAndPress(b.m_hWnd);
+    });
+    CheckCycles(CountCycles(), 1, nothing, live);
+}
+
+TEST_CASE("thousands of dialogs are made, painted, pressed and destroyed")
+{
+    CheckCycles(CountCycles(), 1, nothing,
+                [](int) { ShowDialog([](CDialogTS& dialog) { dialog.m_bSolidFill = TRUE; }); });
+}
+
+TEST_CASE("thousands of pages are made, painted, hovered over, pressed and destroyed")
+{
+    CheckCycles(CountCycles(), 1, nothing, [](int) {
+        const Page page(false, false, true, true, true, true);
+        Stage::HoverAndPress(::GetDlgItem(page.m_hWnd, IDC_BACK));
+    });
+}
+
+TEST_CASE("thousands of modeless dialogs are made, painted and destroyed")
+{
+    CheckCycles(CountCycles(), 1, {1, 4, 0, 0}, [](int) { ShowModeless(); });
+}
