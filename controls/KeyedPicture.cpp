@@ -2,7 +2,8 @@
 
 #include "ScopedSelect.h"
 
-#include <vector>
+#include <memory>
+#include <new>
 
 namespace {
 
@@ -16,7 +17,10 @@ void ClearFourthBytes(HBITMAP bitmap, const BITMAP& record)
         return;
     CDC screen;
     screen.CreateCompatibleDC(NULL);
-    std::vector<DWORD> rows(static_cast<size_t>(record.bmWidth) * rowsAtOnce);
+    const size_t pixels = static_cast<size_t>(record.bmWidth) * rowsAtOnce;
+    const std::unique_ptr<DWORD[]> rows(new (std::nothrow) DWORD[pixels]);
+    if (rows == nullptr)
+        return;
     BITMAPINFO format = {};
     format.bmiHeader.biSize = sizeof(BITMAPINFOHEADER);
     format.bmiHeader.biWidth = record.bmWidth;
@@ -27,13 +31,12 @@ void ClearFourthBytes(HBITMAP bitmap, const BITMAP& record)
 
     for (int first = 0; first < record.bmHeight; first += rowsAtOnce) {
         const int count = min(rowsAtOnce, record.bmHeight - first);
-        if (::GetDIBits(screen.GetSafeHdc(), bitmap, first, count, rows.data(), &format,
+        if (::GetDIBits(screen.GetSafeHdc(), bitmap, first, count, rows.get(), &format,
                         DIB_RGB_COLORS) != count)
             return;
-        for (DWORD& pixel : rows)
-            pixel &= 0x00FFFFFF;
-        ::SetDIBits(screen.GetSafeHdc(), bitmap, first, count, rows.data(), &format,
-                    DIB_RGB_COLORS);
+        for (size_t i = 0; i < static_cast<size_t>(record.bmWidth) * count; ++i)
+            rows[i] &= 0x00FFFFFF;
+        ::SetDIBits(screen.GetSafeHdc(), bitmap, first, count, rows.get(), &format, DIB_RGB_COLORS);
     }
 }
 

@@ -19,8 +19,7 @@ const int captionHeight = 8; // Cell height in device units.
 } // namespace
 
 CDialogTS::CDialogTS(UINT nIDTemplate, CWnd* pParent)
-    : CDialog(nIDTemplate, pParent),
-      m_hBackBrush(static_cast<HBRUSH>(::GetStockObject(NULL_BRUSH)))
+    : CDialog(nIDTemplate, pParent), m_hBackBrush(static_cast<HBRUSH>(::GetStockObject(NULL_BRUSH)))
 {
 }
 
@@ -57,10 +56,12 @@ BOOL CDialogTS::OnEraseBkgnd(CDC* pDC)
 {
     if (m_bShaped) {
         // Kept: this paint cycle takes the update region, so nothing else is painted in it.
-        CPaintDC cycle(this);
+        PAINTSTRUCT cycle = {};
+        BeginPaint(&cycle);
         CRect window;
         GetWindowRect(&window);
         DrawShaped(pDC, window.Width(), window.Height());
+        EndPaint(&cycle);
         return TRUE;
     }
 
@@ -91,8 +92,8 @@ int CDialogTS::OnCreate(LPCREATESTRUCT lpCreateStruct)
     SnapToDialogUnits(*lpCreateStruct);
     if (Default() == -1)
         return -1;
-    SetWindowPos(NULL, lpCreateStruct->x, lpCreateStruct->y, lpCreateStruct->cx,
-                 lpCreateStruct->cy, 0);
+    SetWindowPos(NULL, lpCreateStruct->x, lpCreateStruct->y, lpCreateStruct->cx, lpCreateStruct->cy,
+                 0);
     return 0;
 }
 

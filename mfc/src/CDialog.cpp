@@ -299,8 +299,11 @@ BOOL CDialog::CreateFromTemplate(LPCDLGTEMPLATE dialogTemplate, CWnd* parent, HI
     const HWND owner = parent == this ? NULL : parent->GetSafeHwnd();
 
     afxint::WindowCreation creation(this);
-    const HWND window =
-        ::CreateDialogIndirectParam(module, dialogTemplate, owner, &afxint::DialogProcedure, 0);
+    HWND window = NULL;
+    if (creation.IsReady()) {
+        window = ::CreateDialogIndirectParam(module, dialogTemplate, owner,
+                                             &afxint::DialogProcedure, 0);
+    }
     if (window == NULL)
         TRACE("A dialog could not be created, error %u.\n", GetLastError());
     if (!creation.Finish(window))

@@ -312,7 +312,7 @@ bool CPropertySheet::ShowSheet(HWND owner)
     header.pfnCallback = afxint::PropertySheetHook::Procedure;
     afxint::WindowCreation creation(this);
     sheetInCreation = this;
-    const INT_PTR sheet = ::PropertySheet(&header);
+    const INT_PTR sheet = creation.IsReady() ? ::PropertySheet(&header) : -1;
     sheetInCreation = nullptr;
     const HWND window = sheet == -1 ? NULL : (HWND)sheet;
     if (!creation.Finish(window))

@@ -148,10 +148,13 @@ BOOL CWnd::CreateEx(DWORD dwExStyle, LPCTSTR lpszClassName, LPCTSTR lpszWindowNa
     }
 
     afxint::WindowCreation creation(this);
-    const HWND window = ::CreateWindowEx(
-        create.dwExStyle, create.lpszClass, create.lpszName, static_cast<DWORD>(create.style),
-        create.x, create.y, create.cx, create.cy, create.hwndParent, create.hMenu,
-        create.hInstance, create.lpCreateParams);
+    HWND window = NULL;
+    if (creation.IsReady()) {
+        window = ::CreateWindowEx(create.dwExStyle, create.lpszClass, create.lpszName,
+                                  static_cast<DWORD>(create.style), create.x, create.y, create.cx,
+                                  create.cy, create.hwndParent, create.hMenu, create.hInstance,
+                                  create.lpCreateParams);
+    }
     if (window == NULL)
         TRACE("A window could not be created, error %u.\n", GetLastError());
     // The object may have deleted itself when the creation failed.

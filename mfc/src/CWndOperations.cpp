@@ -19,7 +19,10 @@ HRGN RegionOf(const CRgn* region)
 
 BOOL ChangeStyle(HWND window, int which, DWORD remove, DWORD add, UINT positionFlags)
 {
+    ::SetLastError(ERROR_SUCCESS);
     const auto before = static_cast<DWORD>(::GetWindowLongPtr(window, which));
+    if (before == 0 && ::GetLastError() != ERROR_SUCCESS)
+        return FALSE; // The other bits would be lost.
     const DWORD after = (before & ~remove) | add;
     if (after == before)
         return FALSE;

@@ -22,7 +22,8 @@ WindowCreation::WindowCreation(CWnd* object)
     : object_(object), hook_(SetWindowsHookEx(WH_CBT, &OnHook, NULL, GetCurrentThreadId())),
       outer_(CurrentThread().creation)
 {
-    CurrentThread().creation = this;
+    if (IsReady())
+        CurrentThread().creation = this;
 }
 
 WindowCreation::~WindowCreation()
@@ -55,10 +56,13 @@ LRESULT CALLBACK WindowCreation::OnHook(int code, WPARAM wParam, LPARAM lParam)
     CWnd* object = creation->object_;
     creation->StopWaiting();
     try {
-        WindowMessages::TakeOver(object, reinterpret_cast<HWND>(wParam));
+        if (!WindowMessages::TakeOver(object, creation->window_)) {
+            creation->window_ = NULL;
+            return 1; // No window.
+        }
     } catch (CException* e) {
         e->Delete();
-        return 1; // No window.
+        return 1;
     }
     return CallNextHookEx(NULL, code, wParam, lParam);
 }

@@ -17,6 +17,8 @@ public:
     WindowCreation(const WindowCreation&) = delete;
     WindowCreation& operator=(const WindowCreation&) = delete;
 
+    /// False when no window can be tied to the object; then none is to be made.
+    bool IsReady() const { return hook_ != NULL; }
     /// Stops waiting; `window` is what the system's function returned. False when the object has no
     /// window and nobody has called its PostNcDestroy yet. The object may be gone otherwise.
     bool Finish(HWND window);
