@@ -121,8 +121,11 @@ void CHyperLink::OnLButtonDown(UINT, CPoint)
         if (target.IsEmpty())
             GetWindowText(target);
         // Kept: the test comes before the trimming, so a target of blanks opens an empty string.
+        const HWND window = m_hWnd;
         if (!target.IsEmpty())
             ShellOpen(TrimTarget(target), SW_SHOWNORMAL, fallbackExtension);
+        if (!::IsWindow(window))
+            return; // The shell works off messages, so the host may have ended the label.
     }
     Default();
 }
@@ -156,8 +159,10 @@ void CHyperLink::OnPaint()
 
 void CHyperLink::OnMouseMove(UINT nFlags, CPoint point)
 {
+    const HWND window = m_hWnd;
     RelayToolTipEvent(WM_MOUSEMOVE, nFlags, MAKELPARAM(point.x, point.y));
-    Default();
+    if (::IsWindow(window)) // The host is notified of tool tips, and may have ended the label.
+        Default();
 }
 
 void CHyperLink::BuildTransparencyMask()

@@ -8,7 +8,6 @@
 
 #include <stdlib.h>
 
-#include <vector>
 
 BEGIN_MESSAGE_MAP(CxShadeButton, CButton)
     ON_WM_ERASEBKGND()
@@ -184,7 +183,8 @@ BOOL CxShadeButton::OnEraseBkgnd(CDC*)
 
 void CxShadeButton::OnLButtonDown(UINT nFlags, CPoint point)
 {
-    RelayToolTipEvent(WM_LBUTTONDOWN, nFlags, MAKELPARAM(point.x, point.y));
+    if (!RelayToolTipEvent(WM_LBUTTONDOWN, nFlags, MAKELPARAM(point.x, point.y)))
+        return;
     if (m_hover) {
         TRACKMOUSEEVENT leaving = {sizeof(leaving), TME_CANCEL | TME_LEAVE, m_hWnd, 0};
         if (_TrackMouseEvent(&leaving))
@@ -192,29 +192,31 @@ void CxShadeButton::OnLButtonDown(UINT nFlags, CPoint point)
     }
     const HWND window = m_hWnd;
     Default();
-    if (!::IsWindow(window))
-        return; // A handler of the host has ended the button, and perhaps this object with it.
-    m_pressing = TRUE;
+    if (::IsWindow(window))
+        m_pressing = TRUE;
 }
 
 void CxShadeButton::OnLButtonUp(UINT nFlags, CPoint point)
 {
     CPoint screen = point;
     ClientToScreen(&screen);
-    if (m_buttonKind != kindPush && m_pressing && IsOver(screen))
-        Toggle();
-    RelayToolTipEvent(WM_LBUTTONUP, nFlags, MAKELPARAM(point.x, point.y));
+    if (m_buttonKind != kindPush && m_pressing && IsOver(screen) && !Toggle())
+        return;
+    if (!RelayToolTipEvent(WM_LBUTTONUP, nFlags, MAKELPARAM(point.x, point.y)))
+        return;
     m_pressing = FALSE;
     Default();
 }
 
 void CxShadeButton::OnMouseMove(UINT nFlags, CPoint point)
 {
-    RelayToolTipEvent(WM_MOUSEMOVE, nFlags, MAKELPARAM(point.x, point.y));
+    if (!RelayToolTipEvent(WM_MOUSEMOVE, nFlags, MAKELPARAM(point.x, point.y)))
+        return;
     if (m_pressing && HasCapture()) {
         const BOOL over = IsCursorOver();
         if (IsPushed() != over) {
-            SendMessage(BM_SETSTATE, over);
+            if (!Send(BM_SETSTATE, over))
+                return;
             Invalidate();
         }
     } else if (!m_hover) {
@@ -231,7 +233,10 @@ void CxShadeButton::OnLButtonDblClk(UINT nFlags, CPoint point)
 void CxShadeButton::OnKillFocus(CWnd*)
 {
     if (HasCapture()) {
+        const HWND window = m_hWnd;
         ::ReleaseCapture();
+        if (!::IsWindow(window))
+            return;
         m_pressing = FALSE;
     }
     Default();
@@ -239,8 +244,8 @@ void CxShadeButton::OnKillFocus(CWnd*)
 
 void CxShadeButton::OnKeyDown(UINT nChar, UINT, UINT)
 {
-    if (nChar == VK_SPACE && m_buttonKind != kindPush)
-        Toggle();
+    if (nChar == VK_SPACE && m_buttonKind != kindPush && !Toggle())
+        return;
     Default();
 }
 
@@ -255,8 +260,8 @@ LRESULT CxShadeButton::OnShadeUncheck(WPARAM, LPARAM)
 {
     if (m_checked) {
         m_checked = FALSE;
-        UpdateToolTipText();
         Invalidate();
+        UpdateToolTipText();
     }
     return 0;
 }
@@ -266,10 +271,12 @@ LRESULT CxShadeButton::OnSetCheck(WPARAM wParam, LPARAM)
     m_checked = wParam != 0 && m_buttonKind != kindPush;
     if (m_buttonKind == kindRadio && m_checked)
         UncheckGroup();
+    Invalidate();
+    const HWND window = m_hWnd;
     if (m_toolTip.GetSafeHwnd() != NULL)
         m_toolTip.Pop();
-    UpdateToolTipText();
-    Invalidate();
+    if (::IsWindow(window))
+        UpdateToolTipText();
     return 0;
 }
 
@@ -508,27 +515,38 @@ void CxShadeButton::TrackLeaving()
     Invalidate();
 }
 
-/// What a click or the space bar does to a check box or radio button.
-void CxShadeButton::Toggle()
+/// What a click or the space bar does to a check box or radio button. Answers as Send.
+BOOL CxShadeButton::Toggle()
 {
-    SendMessage(BM_SETCHECK, m_buttonKind == kindRadio || !m_checked);
+    return Send(BM_SETCHECK, m_buttonKind == kindRadio || !m_checked);
+}
+
+/// Sends this button a message. FALSE: a handler of the host has ended the button meanwhile, and
+/// perhaps this object with it.
+BOOL CxShadeButton::Send(UINT message, WPARAM wParam)
+{
+    const HWND window = m_hWnd;
+    SendMessage(message, wParam);
+    return ::IsWindow(window);
 }
 
 /// Has the other buttons of the dialog group unchecked once the current message is done.
 void CxShadeButton::UncheckGroup()
 {
     const HWND parent = ::GetParent(m_hWnd);
-    std::vector<HWND> visited;
-    HWND item = ::GetNextDlgGroupItem(parent, m_hWnd, FALSE);
-    while (item != NULL && item != m_hWnd) {
-        // A hidden or disabled button is not part of the circle, so the walk need not come back.
-        for (const HWND seen : visited) {
-            if (seen == item)
-                return;
-        }
-        visited.push_back(item);
+    const HWND first = ::GetNextDlgGroupItem(parent, m_hWnd, FALSE);
+    HWND mark = first;
+    unsigned int steps = 0;
+    for (HWND item = first; item != NULL && item != m_hWnd;) {
         ::PostMessage(item, WM_SHADE_UNCHECK, 0, 0);
         item = ::GetNextDlgGroupItem(parent, item, FALSE);
+        // A hidden or disabled button is not part of the circle, so the walk need not come back to
+        // it: it ends where it has been before.
+        if (item == first || item == mark)
+            return;
+        ++steps;
+        if ((steps & (steps - 1)) == 0) // A power of two.
+            mark = item;
     }
 }
 
@@ -540,10 +558,12 @@ void CxShadeButton::UpdateToolTipText()
     m_toolTip.UpdateTipText(ownText ? m_toolTipTextChecked : m_toolTipText, this);
 }
 
-void CxShadeButton::RelayToolTipEvent(UINT message, WPARAM wParam, LPARAM lParam)
+/// Passes a mouse message on to the tool tip, which may notify the host. Answers as Send.
+BOOL CxShadeButton::RelayToolTipEvent(UINT message, WPARAM wParam, LPARAM lParam)
 {
     if (m_toolTip.GetSafeHwnd() == NULL)
-        return;
+        return TRUE;
+    const HWND window = m_hWnd;
     MSG relayed = {};
     relayed.hwnd = m_hWnd;
     relayed.message = message;
@@ -552,4 +572,5 @@ void CxShadeButton::RelayToolTipEvent(UINT message, WPARAM wParam, LPARAM lParam
     relayed.pt.x = LOWORD(lParam);
     relayed.pt.y = HIWORD(lParam);
     m_toolTip.SendMessage(TTM_RELAYEVENT, 0, reinterpret_cast<LPARAM>(&relayed));
+    return ::IsWindow(window);
 }

@@ -139,8 +139,9 @@ private:
     BOOL IsPushed();
     BOOL HasCapture() const;
     void TrackLeaving();
-    void Toggle();
+    BOOL Toggle();
+    BOOL Send(UINT message, WPARAM wParam);
     void UncheckGroup();
     void UpdateToolTipText();
-    void RelayToolTipEvent(UINT message, WPARAM wParam, LPARAM lParam);
+    BOOL RelayToolTipEvent(UINT message, WPARAM wParam, LPARAM lParam);
 };

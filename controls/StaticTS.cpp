@@ -89,6 +89,8 @@ void CStaticTS::SetLinkTarget(const CString& target)
 HBRUSH CStaticTS::CtlColor(CDC* pDC, UINT)
 {
     m_brBack.DeleteObject();
+    if (pDC == NULL)
+        return NULL; // What asks has run out of device contexts.
     if (m_bTransparent) {
         m_brBack.Attach(::GetStockObject(NULL_BRUSH));
         pDC->SetBkMode(TRANSPARENT);
@@ -143,8 +145,11 @@ void CStaticTS::OnLButtonDown(UINT, CPoint)
         CString target = m_strLinkTarget;
         if (!m_bUseLinkTarget)
             GetWindowText(target);
+        const HWND window = m_hWnd;
         if (!target.IsEmpty())
             ShellOpen(TrimTarget(target), SW_SHOWNORMAL);
+        if (!::IsWindow(window))
+            return; // The shell works off messages, so the host may have ended the label.
     }
     Default();
 }

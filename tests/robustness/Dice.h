@@ -1,0 +1,41 @@
+// Random choices that a seed repeats.
+#pragma once
+
+#include <afxcmn.h>
+
+#include <iterator>
+#include <random>
+#include <string>
+
+class Dice
+{
+public:
+    explicit Dice(unsigned seed) : m_engine(seed) {}
+
+    /// 0 to limit - 1.
+    int Below(int limit) { return static_cast<int>(m_engine() % static_cast<unsigned>(limit)); }
+    int Between(int least, int most) { return least + Below(most - least + 1); }
+    bool Percent(int chance) { return Below(100) < chance; }
+    template <class List>
+    auto Pick(const List& list)
+    {
+        return std::data(list)[Below(static_cast<int>(std::size(list)))];
+    }
+
+    COLORREF Color() { return Percent(10) ? CLR_NONE : m_engine() & 0xFFFFFF; }
+
+    /// A text of any bytes but 0, its length often at the edge of some buffer.
+    std::string Text()
+    {
+        static const int edges[] = {0,   1,   2,   255, 256,  257,  259, 260,
+                                    261, 527, 528, 529, 1023, 1024, 4096};
+        const int length = Percent(50) ? Below(40) : Pick(edges);
+        std::string text(static_cast<size_t>(length), 'x');
+        for (char& c : text)
+            c = static_cast<char>(Percent(70) ? Between('a', 'z') : Between(1, 255));
+        return text;
+    }
+
+private:
+    std::mt19937 m_engine; // Its numbers are the same on every system.
+};
