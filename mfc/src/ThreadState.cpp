@@ -1,26 +1,49 @@
 #include "ThreadState.h"
 
-#include <utility>
-
 namespace afxint {
 
 namespace {
 
-struct StateSlot
+// A thread_local object with a destructor will not do: this compiler's run-time library may free
+// its memory before the destructor runs.
+DWORD StateSlot()
 {
-    ThreadState* state = nullptr;
-    ~StateSlot() { delete std::exchange(state, nullptr); }
-};
+    static const DWORD slot = TlsAlloc();
+    return slot;
+}
 
-thread_local StateSlot slot;
+/// Deletes the temporary objects that were made deeper in handlers than `depth`.
+void DropTemporaries(ThreadState& thread, int depth)
+{
+    thread.windows.DropTemporaries(depth);
+    thread.gdiObjects.DropTemporaries(depth);
+    thread.dcs.DropTemporaries(depth);
+    thread.menus.DropTemporaries(depth);
+    thread.imageLists.DropTemporaries(depth);
+}
+
+void FreeState()
+{
+    auto* state = static_cast<ThreadState*>(TlsGetValue(StateSlot()));
+    if (state == NULL)
+        return;
+    DropTemporaries(*state, -1); // While their destructors still find the state.
+    TlsSetValue(StateSlot(), NULL);
+    delete state;
+}
 
 } // namespace
 
 ThreadState& CurrentThread()
 {
-    if (slot.state == nullptr)
-        slot.state = new ThreadState;
-    return *slot.state;
+    const DWORD error = GetLastError(); // Asking for the state must not cost a caller the error.
+    auto* state = static_cast<ThreadState*>(TlsGetValue(StateSlot()));
+    if (state == NULL) {
+        state = new ThreadState;
+        TlsSetValue(StateSlot(), state);
+    }
+    SetLastError(error);
+    return *state;
 }
 
 int HandlerDepth()
@@ -31,12 +54,14 @@ int HandlerDepth()
 void DropTemporaryObjects()
 {
     ThreadState& thread = CurrentThread();
-    const int depth = thread.handlerDepth;
-    thread.windows.DropTemporaries(depth);
-    thread.gdiObjects.DropTemporaries(depth);
-    thread.dcs.DropTemporaries(depth);
-    thread.menus.DropTemporaries(depth);
-    thread.imageLists.DropTemporaries(depth);
+    DropTemporaries(thread, thread.handlerDepth);
 }
 
 } // namespace afxint
+
+extern "C" BOOL WINAPI DllMain(HINSTANCE, DWORD reason, LPVOID)
+{
+    if (reason == DLL_THREAD_DETACH)
+        afxint::FreeState();
+    return TRUE;
+}

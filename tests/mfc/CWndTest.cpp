@@ -348,6 +348,36 @@ TEST_CASE("a temporary object outlives the idle time of loops inside its handler
     ::DestroyWindow(window.stranger);
 }
 
+TEST_CASE("threads that come and go take their temporary objects with them")
+{
+    for (int round = 0; round < 20; ++round) {
+        const HANDLE thread = ::CreateThread(
+            NULL, 0,
+            [](LPVOID) -> DWORD {
+                const HWND stranger = MakeStranger();
+                CPlain window;
+                window.Make();
+                const bool found = CWnd::FromHandle(stranger)->m_hWnd == stranger &&
+                                   CWnd::GetDesktopWindow() != NULL;
+                ::DestroyWindow(stranger);
+                return found ? 7 : 0;
+            },
+            NULL, 0, NULL);
+        REQUIRE(::WaitForSingleObject(thread, 10000) == WAIT_OBJECT_0);
+        DWORD result = 0;
+        ::GetExitCodeThread(thread, &result);
+        CHECK(result == 7);
+        ::CloseHandle(thread);
+    }
+}
+
+TEST_CASE("asking for an object leaves the last error as it was")
+{
+    ::SetLastError(1234);
+    CWnd::FromHandlePermanent(::GetDesktopWindow());
+    CHECK(::GetLastError() == 1234);
+}
+
 TEST_CASE("GetSafeHwnd may be asked of no object")
 {
     CWnd* volatile none = NULL;
