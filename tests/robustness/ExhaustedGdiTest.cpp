@@ -143,5 +143,4 @@ TEST_CASE("every life can be lived while the table of graphics objects is full")
         full.Free(5);
         life.run();
     }
-    CHECK(true); // Nothing crashed.
 }

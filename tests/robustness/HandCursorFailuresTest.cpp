@@ -1,0 +1,108 @@
+// The hand cursor is loaded once in a process, so each failing call has a process of its own.
+#include "ChildProgram.h"
+#include "FailureTable.h"
+#include "Stage.h"
+
+#include <tests/programs/HelpProgram.h>
+
+#include <controls/StaticTS.h>
+#include <shell/HandCursor.h>
+
+#include <doctest/doctest.h>
+
+#include <memory>
+#include <stdio.h>
+#include <stdlib.h>
+#include <vector>
+
+using namespace umbra::testing;
+
+namespace {
+
+const char childTest[] = "part: the hand cursor with a failing call";
+const int mostImports = 1024;
+
+/// What parent and child share.
+struct Progress
+{
+    volatile LONG beat;
+    LONG import; ///< Whose first call fails; -1: none, calls are counted.
+    LONG calls[mostImports];
+    LONG hasHand;
+    LONG isHandled; ///< What the label answered.
+};
+
+std::vector<Import> ImportsThatCanFail()
+{
+    std::vector<Import> imports;
+    for (const Import& import : ImportsOf(FindModule("umbra.dll"))) {
+        if (!import.name.empty() && import.dll != "umbra-mfc.dll" && CanFail(import))
+            imports.push_back(import);
+    }
+    return imports;
+}
+
+std::string ShareName()
+{
+    return "umbra-hand-" + std::to_string(::GetCurrentProcessId());
+}
+
+} // namespace
+
+TEST_CASE("part: the hand cursor with a failing call" * doctest::skip())
+{
+    const SharedMemory memory(ChildArgument(), sizeof(Progress));
+    auto& progress = *static_cast<Progress*>(memory.Get());
+    const std::vector<Import> imports = ImportsThatCanFail();
+    Stage stage;
+    CStaticTS label;
+    label.SubclassWindow(stage.AddLabel());
+    label.SetLink(TRUE);
+    {
+        std::vector<std::unique_ptr<CallFault>> faults;
+        for (size_t i = 0; i < imports.size(); ++i) {
+            const bool fails = progress.import == static_cast<LONG>(i);
+            faults.push_back(std::make_unique<CallFault>(
+                FindModule("umbra.dll"), imports[i].dll.c_str(), imports[i].name.c_str(), 1,
+                fails ? 1 : 0, FailureOf(imports[i])));
+        }
+        progress.hasHand = LoadHandCursor() != NULL;
+        progress.isHandled = static_cast<LONG>(
+            ::SendMessage(label.m_hWnd, WM_SETCURSOR, reinterpret_cast<WPARAM>(label.m_hWnd),
+                          MAKELPARAM(HTCLIENT, WM_MOUSEMOVE)));
+        for (size_t i = 0; i < imports.size(); ++i)
+            progress.calls[i] = static_cast<LONG>(faults[i]->Calls());
+    }
+    stage.Close();
+}
+
+TEST_CASE("whichever call fails, there is a hand or there is none, and the pointer is looked after")
+{
+    const HelpProgram help;
+    REQUIRE(help.IsInstalled());
+    const SharedMemory memory(ShareName(), sizeof(Progress));
+    auto& progress = *static_cast<Progress*>(memory.Get());
+    const auto run = [&] { return RunChild(childTest, ShareName(), [&] { return progress.beat; }); };
+
+    progress.import = -1;
+    REQUIRE(run().IsGood());
+    REQUIRE(progress.hasHand);
+    const std::vector<Import> imports = ImportsThatCanFail();
+    const std::vector<LONG> calls(progress.calls, progress.calls + imports.size());
+
+    int tried = 0;
+    for (size_t i = 0; i < imports.size(); ++i) {
+        if (calls[i] == 0)
+            continue;
+        INFO(imports[i].name);
+        ++tried;
+        progress.import = static_cast<LONG>(i);
+        progress.isHandled = FALSE;
+        const ChildEnd end = run();
+        INFO(end.Describe());
+        CHECK(end.IsGood());
+        CHECK(progress.isHandled);
+    }
+    printf("%d functions failed while the hand was loaded\n", tried);
+    CHECK(tried >= 4); // The folder, the program, its cursor, a copy.
+}
