@@ -43,10 +43,10 @@ LONG QueryRegistryDefault(HKEY root, const char* subKey, char* out)
 
     char value[MAX_PATH] = "";
     LONG size = MAX_PATH;
-    if (::RegQueryValue(key, NULL, value, &size) != ERROR_SUCCESS)
-        value[0] = '\0';
-    value[MAX_PATH - 1] = '\0'; // The registry does not promise a terminator.
-    strcpy(out, value);
+    const LONG read = ::RegQueryValue(key, NULL, value, &size);
+    // The registry does not promise a terminator; a value that fills the buffer without one is cut.
+    const BOOL whole = read == ERROR_SUCCESS && memchr(value, '\0', MAX_PATH) != NULL;
+    strcpy(out, whole ? value : "");
     ::RegCloseKey(key);
     return opened;
 }
