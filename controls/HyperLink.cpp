@@ -3,6 +3,7 @@
 #include "KeyedPicture.h"
 #include "LinkActions.h"
 #include "ScopedSelect.h"
+#include "ToolTipRelay.h"
 
 #include <shell/PictureLoader.h>
 #include <shell/ShellOpen.h>
@@ -102,16 +103,8 @@ void CHyperLink::ApplyLinkFont()
 
 void CHyperLink::RelayToolTipEvent(UINT message, WPARAM wParam, LPARAM lParam)
 {
-    if (!m_bToolTip)
-        return;
-    MSG relayed = {};
-    relayed.hwnd = m_hWnd;
-    relayed.message = message;
-    relayed.wParam = wParam;
-    relayed.lParam = lParam;
-    relayed.pt.x = LOWORD(lParam);
-    relayed.pt.y = HIWORD(lParam);
-    m_ToolTip.SendMessage(TTM_RELAYEVENT, 0, reinterpret_cast<LPARAM>(&relayed));
+    if (m_bToolTip)
+        RelayToToolTip(m_ToolTip, *this, message, wParam, lParam);
 }
 
 void CHyperLink::OnLButtonDown(UINT, CPoint)

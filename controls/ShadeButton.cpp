@@ -3,6 +3,7 @@
 #include "KeyedPicture.h"
 #include "ScopedSelect.h"
 #include "ShadeGenerator.h"
+#include "ToolTipRelay.h"
 
 #include <shell/PictureLoader.h>
 
@@ -561,16 +562,6 @@ void CxShadeButton::UpdateToolTipText()
 /// Passes a mouse message on to the tool tip, which may notify the host. Answers as Send.
 BOOL CxShadeButton::RelayToolTipEvent(UINT message, WPARAM wParam, LPARAM lParam)
 {
-    if (m_toolTip.GetSafeHwnd() == NULL)
-        return TRUE;
-    const HWND window = m_hWnd;
-    MSG relayed = {};
-    relayed.hwnd = m_hWnd;
-    relayed.message = message;
-    relayed.wParam = wParam;
-    relayed.lParam = lParam;
-    relayed.pt.x = LOWORD(lParam);
-    relayed.pt.y = HIWORD(lParam);
-    m_toolTip.SendMessage(TTM_RELAYEVENT, 0, reinterpret_cast<LPARAM>(&relayed));
-    return ::IsWindow(window);
+    return m_toolTip.GetSafeHwnd() == NULL ||
+           RelayToToolTip(m_toolTip, *this, message, wParam, lParam);
 }
