@@ -6,6 +6,8 @@
 
 #include <afxres.h>
 
+#include "WindowCreation.h"
+
 IMPLEMENT_DYNCREATE(CFrameWnd, CWnd)
 
 BEGIN_MESSAGE_MAP(CFrameWnd, CWnd)
@@ -84,9 +86,10 @@ BOOL CFrameWnd::Create(LPCTSTR lpszClassName, LPCTSTR lpszWindowName, DWORD dwSt
     }
     title_ = lpszWindowName;
     const HMENU menu = menu_;
-    const BOOL made = CreateEx(dwExStyle, lpszClassName, lpszWindowName, dwStyle, rect.left,
-                               rect.top, rect.right - rect.left, rect.bottom - rect.top,
-                               pParentWnd->GetSafeHwnd(), menu, pContext);
+    const BOOL made =
+        CreateEx(dwExStyle, lpszClassName, lpszWindowName, dwStyle, rect.left, rect.top,
+                 afxint::Extent(rect.left, rect.right), afxint::Extent(rect.top, rect.bottom),
+                 pParentWnd->GetSafeHwnd(), menu, pContext);
     // The object has deleted itself if the creation failed.
     if (!made && menu != NULL)
         ::DestroyMenu(menu);

@@ -28,10 +28,11 @@ void afxint::WindowTraits::Unwrap(CWnd* window)
     delete window;
 }
 
-CWnd::CWnd() : CWnd(NULL) {}
+CWnd::CWnd() : CWnd(NULL)
+{
+}
 
-CWnd::CWnd(HWND window)
-    : m_hWnd(window), superProc_(NULL), owner_(NULL), state_(0), modalResult_(0)
+CWnd::CWnd(HWND window) : m_hWnd(window), superProc_(NULL), owner_(NULL), state_(0), modalResult_(0)
 {
 }
 
@@ -104,8 +105,8 @@ HWND CWnd::Detach()
 BOOL CWnd::PreCreateWindow(CREATESTRUCT& cs)
 {
     if (cs.lpszClass == NULL) {
-        cs.lpszClass = AfxRegisterWndClass(CS_DBLCLKS | CS_HREDRAW | CS_VREDRAW,
-                                           LoadCursor(NULL, IDC_ARROW));
+        cs.lpszClass =
+            AfxRegisterWndClass(CS_DBLCLKS | CS_HREDRAW | CS_VREDRAW, LoadCursor(NULL, IDC_ARROW));
     }
     return TRUE;
 }
@@ -121,8 +122,9 @@ BOOL CWnd::CreateEx(DWORD dwExStyle, LPCTSTR lpszClassName, LPCTSTR lpszWindowNa
                     const RECT& rect, CWnd* pParentWnd, UINT nID, LPVOID lpParam)
 {
     return CreateEx(dwExStyle, lpszClassName, lpszWindowName, dwStyle, rect.left, rect.top,
-                    rect.right - rect.left, rect.bottom - rect.top, pParentWnd->GetSafeHwnd(),
-                    reinterpret_cast<HMENU>(static_cast<UINT_PTR>(nID)), lpParam);
+                    afxint::Extent(rect.left, rect.right), afxint::Extent(rect.top, rect.bottom),
+                    pParentWnd->GetSafeHwnd(), reinterpret_cast<HMENU>(static_cast<UINT_PTR>(nID)),
+                    lpParam);
 }
 
 BOOL CWnd::CreateEx(DWORD dwExStyle, LPCTSTR lpszClassName, LPCTSTR lpszWindowName, DWORD dwStyle,
@@ -176,7 +178,9 @@ BOOL CWnd::DestroyWindow()
     return destroyed;
 }
 
-void CWnd::PreSubclassWindow() {}
+void CWnd::PreSubclassWindow()
+{
+}
 
 BOOL CWnd::SubclassWindow(HWND hWnd)
 {
@@ -207,7 +211,9 @@ HWND CWnd::UnsubclassWindow()
     return window;
 }
 
-void CWnd::PostNcDestroy() {}
+void CWnd::PostNcDestroy()
+{
+}
 
 BOOL CWnd::PreTranslateMessage(MSG* pMsg)
 {
