@@ -6,6 +6,7 @@
 
 #include <shell/HandCursor.h>
 
+#include <testing/CallFault.h>
 #include <testing/GdiObjects.h>
 #include <testing/Input.h>
 #include <testing/Picture.h>
@@ -413,8 +414,14 @@ TEST_CASE("10,000 pointer moves over a link leave nothing behind")
     for (int i = 0; i < 10; ++i)
         move();
     const BalancedGdi objects;
+    const CountCalls cursors(FindModule("umbra.dll"), "user32", "CopyIcon");
+    const CountCalls libraries(FindModule("umbra.dll"), "kernel32", "LoadLibraryA");
+    const SIZE_T memory = WorkingSet();
     for (int i = 0; i < 10000; ++i)
         move();
+    CHECK(WorkingSet() < memory + 512 * 1024);
+    CHECK(cursors.Calls() == 0);
+    CHECK(libraries.Calls() == 0);
     CHECK_MESSAGE(objects.IsBalanced(), objects.Describe());
 }
 

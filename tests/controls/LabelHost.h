@@ -6,6 +6,8 @@
 
 #include <afxwin.h>
 
+#include <psapi.h>
+
 #include <string.h>
 #include <string>
 
@@ -48,6 +50,14 @@ public:
 private:
     CBrush m_brush;
 };
+
+/// Bytes of memory that the process has in use.
+inline SIZE_T WorkingSet()
+{
+    PROCESS_MEMORY_COUNTERS counters = {};
+    ::GetProcessMemoryInfo(::GetCurrentProcess(), &counters, sizeof(counters));
+    return counters.WorkingSetSize;
+}
 
 inline std::string ImagePath(const char* name)
 {
