@@ -1,0 +1,27 @@
+// Picture files, good and bad, as bytes.
+#pragma once
+
+#include "Dice.h"
+
+#include <string>
+#include <vector>
+
+struct PictureFile
+{
+    std::string name;
+    std::string bytes;
+};
+
+/// Files that load: GIF from the toolkit's images, bitmaps of several kinds.
+std::vector<PictureFile> GoodPictures();
+
+/// Files that were damaged by hand: cut, with senseless sizes, tables, codes and offsets.
+std::vector<PictureFile> BadPictures();
+
+/// Where the system is Wine: false for a bitmap file or icon whose head claims more than the file
+/// holds, and for a bitmap in runs. Wine's own loader reads on past the end of these, and may crash.
+bool IsSafeForSystem(const std::string& bytes);
+
+/// A good file with some bytes changed, cut out, doubled or added. Sizes stay within what a machine
+/// can hold: a picture of 65535 by 65535 pixels tries the system's memory, not the toolkit.
+PictureFile Mutate(const std::vector<PictureFile>& good, Dice& dice);
