@@ -1,5 +1,6 @@
 #include "DialogUnits.h"
 
+#include <limits.h>
 #include <math.h>
 
 namespace {
@@ -44,6 +45,12 @@ DialogUnits::Base MeasureFont(HDC screen, const LOGFONT& description)
             static_cast<unsigned int>(metrics.tmHeight + metrics.tmExternalLeading)};
 }
 
+/// A whole number in 32 bits; one that does not fit gives the least of them.
+int Truncate(double whole)
+{
+    return whole >= INT_MIN && whole <= INT_MAX ? static_cast<int>(whole) : INT_MIN;
+}
+
 DialogUnits::Base MeasureBase()
 {
     DialogUnits::Base base;
@@ -78,8 +85,8 @@ void GetFontBaseUnits(unsigned int* pHorizontal, unsigned int* pVertical)
 
 int RoundHalfDown(double x)
 {
-    const int above = static_cast<int>(ceil(x));
-    const int below = static_cast<int>(floor(x));
+    const int above = Truncate(ceil(x));
+    const int below = Truncate(floor(x));
     // The sum wraps, which only unsigned arithmetic may.
     const int sum =
         static_cast<int>(static_cast<unsigned int>(below) + static_cast<unsigned int>(above));

@@ -7,6 +7,7 @@
 #include <doctest/doctest.h>
 
 #include <limits.h>
+#include <math.h>
 #include <stdlib.h>
 #include <string>
 
@@ -95,6 +96,16 @@ TEST_CASE("everything but a half is rounded to the nearest whole number")
     CHECK(RoundHalfDown(7.0) == 7);
     CHECK(RoundHalfDown(-7.0) == -7);
     CHECK(RoundHalfDown(0.0) == 0);
+}
+
+TEST_CASE("a number that does not fit 32 bits has a result all the same")
+{
+    for (const double number : {2147483648.0, 1e10, 1e300, -1e10, -1e300, double(NAN)})
+        CHECK(RoundHalfDown(number) == INT_MIN);
+    CHECK(RoundHalfDown(2147483647.0) == INT_MAX);
+    CHECK(RoundHalfDown(-2147483648.0) == INT_MIN);
+    // An x of thousands of millions of dialog units, as a font of one pixel has it.
+    CHECK(DialogUnits::FromPixels({INT_MAX, 0, 0, 0}, {1, 1}).x == INT_MIN);
 }
 
 TEST_CASE("the sum of both neighbours wraps at 32 bits")

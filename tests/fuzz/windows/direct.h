@@ -1,0 +1,4 @@
+#pragma once
+
+char* _getcwd(char* out, int capacity);
+int _chdir(const char* folder);

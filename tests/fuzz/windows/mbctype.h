@@ -1,0 +1,4 @@
+#pragma once
+
+/// Whether the byte leads a character of two bytes.
+int _ismbblead(unsigned int byte);

@@ -1,0 +1,1 @@
+#pragma once // Its names are in afxwin.h.
