@@ -53,6 +53,8 @@ public:
         return object;
     }
 
+    size_t CountTemporaries() const { return temporary_.size(); }
+
     void Add(Handle handle, Object* owner) { permanent_[handle] = owner; }
     void Remove(Handle handle) { permanent_.erase(handle); }
 

@@ -54,7 +54,8 @@ int HandlerDepth()
 void DropTemporaryObjects()
 {
     ThreadState& thread = CurrentThread();
-    DropTemporaries(thread, thread.handlerDepth);
+    // What was made outside of handlers lives until the next idle time of any loop.
+    DropTemporaries(thread, thread.handlerDepth == 0 ? -1 : thread.handlerDepth);
 }
 
 } // namespace afxint
