@@ -53,3 +53,45 @@ export_wine_environment() {
     unset DISPLAY WAYLAND_DISPLAY
     mkdir -p "$HOME"
 }
+
+# Runs a command with the rights to change the system.
+as_root() {
+    if [ "$(id -u)" -eq 0 ]; then
+        "$@"
+    elif command -v sudo >/dev/null 2>&1 && sudo -n true 2>/dev/null; then
+        sudo -n "$@"
+    elif command -v sudo >/dev/null 2>&1 && [ -t 0 ]; then
+        sudo "$@"
+    else
+        return 1
+    fi
+}
+
+# Prints those of the packages that are not installed.
+list_missing() {
+    local package
+    for package in "$@"; do
+        [ "$(dpkg-query -W -f '${db:Status-Status}' "$package" 2>/dev/null)" = installed ] ||
+            printf '%s ' "$package"
+    done
+}
+
+# Installs those of the Debian packages that are missing; says nothing when all are there.
+install_packages() {
+    command -v dpkg-query >/dev/null 2>&1 ||
+        fail "this is no Debian system; install by hand what these Debian packages hold:" "$@"
+    local missing
+    missing=$(list_missing "$@")
+    [ -n "$missing" ] || return 0
+    as_root true || fail "no right to install packages; as root, run: apt-get install $missing"
+    say "Installing $missing"
+    export DEBIAN_FRONTEND=noninteractive
+    # The lists of a fresh machine are empty or old; with current ones the update is not needed.
+    # $missing is a list of words.
+    # shellcheck disable=SC2086
+    quietly as_root apt-get -o DPkg::Lock::Timeout=120 install -qq -y --no-install-recommends $missing 2>/dev/null ||
+        { quietly as_root apt-get -o DPkg::Lock::Timeout=120 update -qq &&
+            quietly as_root apt-get -o DPkg::Lock::Timeout=120 install -qq -y --no-install-recommends $missing; } ||
+        fail "the packages could not be fetched; with a network connection, as root, run:" \
+            "apt-get install $missing"
+}
