@@ -91,10 +91,16 @@ Progress* sharedProgress = nullptr;
 /// Of the class library's data exchange, when a control cannot be bound.
 const char notBound[] = "This operation is not supported.";
 
+/// Debug builds tell the programmer of what they did not expect; it has to be survived all the
+/// same.
+const char assertion[] = "Assertion failed";
+
 int WINAPI AnswerBox(HWND, LPCSTR text, LPCSTR, UINT)
 {
     if (strcmp(text, notBound) == 0)
         return IDOK;
+    if (strncmp(text, assertion, strlen(assertion)) == 0)
+        return IDIGNORE;
     sharedProgress->AddFinding((std::string("says \"") + text + "\"").c_str());
     return IDOK;
 }

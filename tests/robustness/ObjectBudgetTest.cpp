@@ -12,6 +12,8 @@
 #include <shell/HandCursor.h>
 #include <shell/PictureLoader.h>
 
+#include <testing/Picture.h>
+
 #include <doctest/doctest.h>
 
 #include <functional>
@@ -109,7 +111,7 @@ const Budget oneFontACall = {0, 0, 1, 0};
 const Budget oneBitmapACall = {0, 0, 0, 1};
 const Budget oneBitmapACallAndTheMask = {0, 1, 0, 1};
 
-CString Picture(const char* name = "Info.gif")
+CString ImageFile(const char* name = "Info.gif")
 {
     return ProgramFolder() + "\\images\\" + name;
 }
@@ -186,10 +188,10 @@ TEST_CASE("what each operation of CStaticTS leaves for good")
                        Stage::Paint(l.m_hWnd);
                    }));
     CheckOperation("LoadPicture, opaque", oneBitmapACall,
-                   OnLabel<Label>([](Label& l) { l.LoadPicture(Picture()); }));
+                   OnLabel<Label>([](Label& l) { l.LoadPicture(ImageFile()); }));
     CheckOperation("LoadPicture, keyed", oneBitmapACallAndTheMask, OnLabel<Label>([](Label& l) {
                        l.SetTransparentColor(RGB(0, 0, 0));
-                       l.LoadPicture(Picture());
+                       l.LoadPicture(ImageFile());
                        Stage::Paint(l.m_hWnd);
                    }));
     CheckOperation("LoadPicture, no such file", nothing,
@@ -242,6 +244,24 @@ TEST_CASE("what each operation of CNoteStatic leaves for good")
                    });
 }
 
+TEST_CASE("a note looks the same when it need not derive its font at each paint")
+{
+    GdiSweeper sweeper;
+    Stage stage;
+    CNoteStatic note;
+    note.SubclassWindow(stage.AddLabel());
+    note.CopyWindowFont();
+    REQUIRE_FALSE(note.m_bOwnFont);
+    stage.Show();
+    const Picture derived = Picture::OfWindow(stage.m_hWnd);
+    REQUIRE(derived.CountOf(derived.At(0, 0)) < derived.Width() * derived.Height());
+    note.m_bOwnFont = TRUE;
+    stage.Show();
+    CHECK(Picture::OfWindow(stage.m_hWnd).Compare(derived) == "the same");
+    stage.Close();
+    sweeper.Sweep();
+}
+
 TEST_CASE("what each operation of CHyperLink leaves for good")
 {
     using Link = CHyperLink;
@@ -252,10 +272,10 @@ TEST_CASE("what each operation of CHyperLink leaves for good")
                        Stage::Paint(l.m_hWnd);
                    }));
     CheckOperation("SetBitmapFile without a key colour", oneBitmapACall,
-                   OnLabel<Link>([](Link& l) { l.SetBitmapFile(Picture()); }));
+                   OnLabel<Link>([](Link& l) { l.SetBitmapFile(ImageFile()); }));
     CheckOperation("SetBitmapFile", oneBitmapACallAndTheMask, OnLabel<Link>([](Link& l) {
                        l.SetTransparentColor(RGB(0, 0, 0));
-                       l.SetBitmapFile(Picture());
+                       l.SetBitmapFile(ImageFile());
                        Stage::Paint(l.m_hWnd);
                    }));
     CheckOperation("SetBitmapFile, no such file", nothing,
@@ -275,7 +295,7 @@ TEST_CASE("what each operation of CxShadeButton leaves for good")
                    }));
     // The last picture goes with the button; those that it replaced stay.
     CheckOperation("SetPicture", {0, -1, 0, 1}, OnButton([](Button& b) {
-                       b.SetPicture(Picture(), Button::alignLeft, 19, 19, RGB(0, 0, 0));
+                       b.SetPicture(ImageFile(), Button::alignLeft, 19, 19, RGB(0, 0, 0));
                        Stage::Paint(b.m_hWnd);
                    }));
     CheckOperation("SetPicture, no such file", nothing, OnButton([](Button& b) {
@@ -287,12 +307,12 @@ TEST_CASE("what each operation of CxShadeButton leaves for good")
                    }));
     CheckOperation("SetIcons, one icon, then SetPicture", {0, -1, 0, 1}, OnButton([](Button& b) {
                        b.SetIcons(MakeIcon(), Button::alignLeft, 32, 32);
-                       b.SetPicture(Picture(), Button::alignLeft, 19, 19, RGB(0, 0, 0));
+                       b.SetPicture(ImageFile(), Button::alignLeft, 19, 19, RGB(0, 0, 0));
                    }));
     CheckOperation("SetIcons, three icons, then SetPicture", {0, -1, 0, 1 + BitmapsOfIcon()},
                    OnButton([](Button& b) {
                        b.SetIcons(MakeIcon(), Button::alignLeft, 32, 32, MakeIcon(), MakeIcon());
-                       b.SetPicture(Picture(), Button::alignLeft, 19, 19, RGB(0, 0, 0));
+                       b.SetPicture(ImageFile(), Button::alignLeft, 19, 19, RGB(0, 0, 0));
                    }));
     CheckOperation("everything else", nothing, OnButton([](Button& b) {
                        LOGFONT font = {};
@@ -316,7 +336,7 @@ TEST_CASE("what the dialogs leave for good")
     CheckCycles(3, 1, nothing, [](int) {
         ShowDialog([](CDialogTS& dialog) {
             dialog.m_bShaped = TRUE;
-            dialog.m_bmpBack.Attach(LoadPictureBitmap(Picture()));
+            dialog.m_bmpBack.Attach(LoadPictureBitmap(ImageFile()));
             dialog.m_bmpMask.CreateBitmap(10, 10, 1, 1, NULL);
         });
     });
@@ -325,7 +345,7 @@ TEST_CASE("what the dialogs leave for good")
         ShowDialog([](CDialogTS& dialog) {
             dialog.m_bHasBitmap = TRUE;
             dialog.m_bCaptionText = TRUE;
-            dialog.m_bmpBack.Attach(LoadPictureBitmap(Picture()));
+            dialog.m_bmpBack.Attach(LoadPictureBitmap(ImageFile()));
         });
     });
     CheckCycles(3, 1, nothing, [](int) { Page(false, false, true, true, true, true); });
@@ -345,7 +365,7 @@ TEST_CASE("what the dialogs leave for good")
 
 TEST_CASE("what the services leave for good")
 {
-    CheckCycles(50, 1, oneBitmapACall, [](int) { LoadPictureBitmap(Picture()); });
+    CheckCycles(50, 1, oneBitmapACall, [](int) { LoadPictureBitmap(ImageFile()); });
     CheckCycles(50, 1, nothing, [](int) { LoadPictureBitmap("no such.gif"); });
     CheckCycles(50, 1, nothing, [](int) { LoadHandCursor(); });
     CheckCycles(50, 1, nothing, [](int) {
@@ -379,7 +399,7 @@ TEST_CASE("thousands of hyperlinks are made, painted, hovered over, pressed and 
 TEST_CASE("thousands of buttons are made, painted, hovered over, pressed and destroyed")
 {
     const Cycle live = OnButton([](CxShadeButton& b) {
-        b.SetPicture(Picture(), CxShadeButton::alignLeft, 19, 19, RGB(0, 0, 0));
+        b.SetPicture(ImageFile(), CxShadeButton::alignLeft, 19, 19, RGB(0, 0, 0));
         Stage::HoverAndPress(b.m_hWnd);
     });
     CheckCycles(CountCycles(), 1, nothing, live);
