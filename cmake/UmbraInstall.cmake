@@ -33,3 +33,5 @@ configure_package_config_file(cmake/umbraConfig.cmake.in umbraConfig.cmake
 write_basic_package_version_file(umbraConfigVersion.cmake COMPATIBILITY SameMinorVersion)
 install(FILES ${PROJECT_BINARY_DIR}/umbraConfig.cmake
   ${PROJECT_BINARY_DIR}/umbraConfigVersion.cmake DESTINATION lib/cmake/umbra)
+# For hosts that are cross-compiled, too.
+install(FILES cmake/mingw-w64-x86_64.cmake DESTINATION lib/cmake/umbra)

@@ -1,7 +1,9 @@
 // CHyperLink: a label that can act as a link. It paints its window text over an optional
 // colour-keyed picture, shows a tool tip, has the hand cursor over it and opens its target when it
 // is pressed. Subclass a static control of a template with it, then use the setters, the key colour
-// before the picture. The control needs the style SS_NOTIFY to be clickable.
+// before the picture. The control needs the style SS_NOTIFY to be clickable. The system's static
+// control draws a new window text at once in its own way: after SetWindowText, invalidate the
+// parent under the label, erasing.
 #pragma once
 
 #include <afxcmn.h>
@@ -24,7 +26,8 @@ public:
 
     BOOL SetToolTipText(CString text); ///< Creates or updates the tool tip. Always TRUE.
 
-    void SetURL(CString target); ///< Makes the label a link; an empty target means its text.
+    /// Makes the label a link, underlined; an empty target means its text. The text colour stays.
+    void SetURL(CString target);
 
     /// Gives the control an underlined copy of its font when the label is a link, a semibold one
     /// otherwise. Each call leaves one font object behind.

@@ -10,7 +10,8 @@ public:
     ~CNoteStatic() override;
 
     /// Gives the control a font of its own, equal to its current one, which it must have. Call it
-    /// once: each call leaves one font object behind until the process ends.
+    /// once: each call leaves its font objects behind until the process ends, and so does each
+    /// paint from then on, unless m_bOwnFont is set again; see SetLabelFont.
     void CopyWindowFont();
 
 protected:

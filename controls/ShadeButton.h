@@ -6,7 +6,8 @@
 // of size. The kind follows from the style that the button has then, bit by bit: BS_AUTOCHECKBOX
 // gives a check box, BS_AUTORADIOBUTTON a radio button, and so do all styles that contain their
 // bits (BS_OWNERDRAW and BS_GROUPBOX count as check boxes); everything else, the plain BS_CHECKBOX
-// and BS_RADIOBUTTON included, gives a push button.
+// and BS_RADIOBUTTON included, gives a push button. The system sees an owner-drawn button in all of
+// them: DDX_Check and GetCheckedRadioButton work, DDX_Radio does not.
 #pragma once
 
 #include "PaletteDib.h"
@@ -34,12 +35,12 @@ public:
 
     /// Computes the faces for the button's present size: a SHADE_... style, the amplitude of the
     /// grain, how far (percent) the hot face goes towards the highlight colour, how far (percent)
-    /// all faces go towards `colour`. Always TRUE.
+    /// all faces go towards `colour`. Repaints nothing. Always TRUE.
     BOOL SetShade(UINT shade, BYTE granularity, BYTE highlight, BYTE coloring, COLORREF colour);
 
     /// Loads a picture file to be shown in width by height pixels, its mask colour transparent
     /// (CLR_NONE: none). It replaces an icon, and a former picture, which is let go, not deleted.
-    /// A file that does not load leaves the button without a picture. Always TRUE.
+    /// A file that does not load leaves the button without a picture. Repaints nothing. Always TRUE.
     BOOL SetPicture(CString path, UINT align, int width, int height, COLORREF maskColor);
 
     /// Shows an icon of width by height pixels; the pressed and hot looks have the same one unless

@@ -2,7 +2,9 @@
 // etched or as a link, over an opaque or colour-keyed picture; a click on a link opens its text or
 // a stored target. A label whose window is created through the class snaps to the dialog-unit grid.
 //
-// A control of a dialog template needs the style SS_NOTIFY to be clickable.
+// A control of a dialog template needs the style SS_NOTIFY to be clickable. The system's static
+// control draws a new window text at once in its own way: after SetWindowText, invalidate the
+// parent under the label, erasing.
 #pragma once
 
 #include <afxwin.h>
@@ -18,7 +20,7 @@ public:
     LRESULT SetLink(BOOL bLink);
 
     /// Gives the control a font, which stays the caller's. From then on each paint derives, and
-    /// leaves behind, a font of its own: one GDI object a paint.
+    /// leaves behind, a font of its own: one GDI object a paint, unless m_bOwnFont is set again.
     void SetLabelFont(HFONT hFont);
 
     /// Sets the text colour and repaints the parent under the label.
@@ -39,19 +41,19 @@ public:
     /// Offered to reflected colour requests; CLR_NONE lets the parent's colours stand.
     void SetBackColor(COLORREF color) { m_crBack = color; }
 
-    CString m_strLinkTarget;          ///< Opened by a click while m_bUseLinkTarget is set.
-    BOOL m_bTransparent = FALSE;      ///< Colour requests answer with the null brush.
-    BOOL m_bHasPicture = FALSE;       ///< m_bmpPicture holds a loaded picture.
-    BOOL m_bEmbossed = FALSE;         ///< Etched text in the system's colours; m_crText is not used.
-    BOOL m_bOwnFont = TRUE;           ///< Paint with the window's font exactly as it is.
-    BOOL m_bStyleAlign = TRUE;        ///< Each paint takes m_nTextFormat from the window style.
+    CString m_strLinkTarget;     ///< Opened by a click while m_bUseLinkTarget is set.
+    BOOL m_bTransparent = FALSE; ///< Colour requests answer with the null brush.
+    BOOL m_bHasPicture = FALSE;  ///< m_bmpPicture holds a loaded picture.
+    BOOL m_bEmbossed = FALSE;    ///< Etched text in the system's colours; m_crText is not used.
+    BOOL m_bOwnFont = TRUE;      ///< Paint with the window's font exactly as it is.
+    BOOL m_bStyleAlign = TRUE;   ///< Each paint takes m_nTextFormat from the window style.
     COLORREF m_crText = RGB(0, 0, 0);
     COLORREF m_crBack = CLR_NONE;
     COLORREF m_crTransparent = CLR_NONE;
-    CBrush m_brBack;                  ///< What the last colour request was answered with.
+    CBrush m_brBack; ///< What the last colour request was answered with.
     CBitmap m_bmpPicture;
     CBitmap m_bmpMask;
-    UINT m_nTextFormat = DT_CENTER;   ///< Horizontal alignment for DrawText.
+    UINT m_nTextFormat = DT_CENTER; ///< Horizontal alignment for DrawText.
     BYTE m_bLink = FALSE;
     BYTE m_bUseLinkTarget = FALSE;
 

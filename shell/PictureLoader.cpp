@@ -64,6 +64,17 @@ HBITMAP CopyBitmap(HBITMAP source)
     return static_cast<HBITMAP>(copy);
 }
 
+/// A copy of the picture's bitmap; releases the picture, and what it may have left behind.
+HBITMAP TakeBitmap(IPicture* picture)
+{
+    const HBITMAP source = GetPictureHandle(picture);
+    const HBITMAP copy = source != NULL ? CopyBitmap(source) : NULL;
+    picture->Release();
+    if (source != NULL)
+        ::DeleteObject(source);
+    return copy;
+}
+
 } // namespace
 
 HBITMAP LoadPictureBitmap(const char* path)
@@ -73,15 +84,10 @@ HBITMAP LoadPictureBitmap(const char* path)
     IPicture* picture = OpenPicture(path);
     if (picture == NULL)
         picture = OpenPictureBelowWorkingDirectory(path);
-    if (picture == NULL)
-        return NULL;
-
-    const HBITMAP source = GetPictureHandle(picture);
-    const HBITMAP copy = source != NULL ? CopyBitmap(source) : NULL;
-    picture->Release();
-    if (source != NULL)
-        ::DeleteObject(source);
-    return copy;
+    const HBITMAP bitmap = picture != NULL ? TakeBitmap(picture) : NULL;
+    if (bitmap == NULL)
+        TRACE("Umbra: no picture could be loaded from '%.260s'.\n", path);
+    return bitmap;
 }
 
 BOOL JoinPicturePath(const char* directory, const char* path, char* out, size_t capacity)

@@ -60,10 +60,12 @@ UINT ShellOpen(const char* target, int showCommand, const char* extension)
         return shellResult;
 
     char command[shellCommandCapacity];
-    if (!ReadOpenCommand(extension, command))
+    if (!ReadOpenCommand(extension, command) ||
+        !ComposeCommandLine(command, shellCommandCapacity, target)) {
+        TRACE("Umbra: '%.260s' cannot be opened, nor can a program for %s files.\n", target,
+              extension);
         return shellResult;
-    if (!ComposeCommandLine(command, shellCommandCapacity, target))
-        return shellResult;
+    }
     return ::WinExec(command, showCommand);
 }
 

@@ -14,7 +14,6 @@ public:
     BOOL OnInitDialog() override
     {
         CBaseDialog::OnInitDialog();
-        m_note.CopyWindowFont();
         m_note.SetLabelTextColor(RGB(40, 60, 110));
         return TRUE;
     }
