@@ -43,7 +43,7 @@ std::string Describe(const GdiSweeper::Left& left)
 int CountCycles()
 {
     const char* wanted = getenv("UMBRA_CYCLES");
-    return wanted != nullptr ? atoi(wanted) : 200;
+    return wanted != nullptr ? atoi(wanted) : 100;
 }
 
 /// One object that makes so many calls of the operation.
