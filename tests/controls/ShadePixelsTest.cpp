@@ -3,6 +3,8 @@
 #include "controls/ShadeGrain.h"
 #include "tests/controls/PlainShade.h"
 
+#include <testing/CallFault.h>
+
 #include <doctest/doctest.h>
 
 #include <algorithm>
@@ -281,5 +283,27 @@ TEST_CASE(
         for (int i = 0; i < numbers; ++i)
             expected.Next();
         CHECK(random.GetState() == expected.GetState());
+    }
+}
+
+TEST_CASE("without memory to work in nothing is drawn and no random number is taken")
+{
+    using namespace umbra::testing;
+    for (int allocation = 1; allocation <= 3; ++allocation) {
+        CAPTURE(allocation);
+        TestSurface surface(40, 30, 0);
+        ShadeRandom random(7);
+        bool filled = true;
+        {
+            const FailNth memory(FindModule("umbra.dll"), "msvcrt", "malloc", allocation);
+            REQUIRE(memory.IsInstalled());
+            filled = FillShadePixels(surface.Get(), SHADE_COLUMNS, 20, random);
+            CHECK(memory.Failed() == 1);
+        }
+        CHECK_FALSE(filled);
+        CHECK(random.GetState() == 7);
+        const ShadeSurface drawn = surface.Get();
+        for (int i = 0; i < 40 * 30; ++i)
+            REQUIRE(drawn.bits[i] == kUntouched);
     }
 }

@@ -607,3 +607,35 @@ TEST_CASE("a control without a font can be made a link and painted")
     label.SetLink(TRUE);
     CHECK(host.Show().Contains(blue));
 }
+
+TEST_CASE("a label whose creation the system refuses is not there, and is not moved")
+{
+    class RefusedLabel : public CStaticTS
+    {
+    public:
+        int m_moves = 0;
+        CPoint m_asked;
+
+    protected:
+        LRESULT DefWindowProc(UINT message, WPARAM wParam, LPARAM lParam) override
+        {
+            if (message == WM_WINDOWPOSCHANGING)
+                ++m_moves;
+            if (message != WM_CREATE)
+                return CStaticTS::DefWindowProc(message, wParam, lParam);
+            const CREATESTRUCT& creation = *reinterpret_cast<CREATESTRUCT*>(lParam);
+            m_asked = CPoint(creation.x, creation.y);
+            return -1;
+        }
+    };
+
+    LabelHost host;
+    RefusedLabel label;
+    CHECK_FALSE(label.Create("Text", WS_CHILD | WS_VISIBLE, CRect(11, 20, 111, 120), &host));
+    CHECK(label.GetSafeHwnd() == NULL);
+    CHECK(label.m_moves == 0);
+    int x, y, cx, cy;
+    PixelsToDialogUnits(11, 20, 100, 100, &x, &y, &cx, &cy);
+    DialogUnitsToPixels(x, y, cx, cy, &x, &y, &cx, &cy);
+    CHECK(label.m_asked == CPoint(x, y)); // Snapped before the system was asked.
+}

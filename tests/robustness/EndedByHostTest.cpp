@@ -159,3 +159,23 @@ TEST_CASE("a shaded button may be ended when its tool tip comes or goes")
         MovePointerAway();
     }
 }
+
+TEST_CASE("a shaded check box may be ended while the space bar toggles it")
+{
+    EndingHost host;
+    Room<HastyButton> button;
+    host.m_button = button.Get();
+    REQUIRE(button.Get()->SubclassWindow(host.Add("Button", BS_AUTOCHECKBOX)));
+    button.Get()->SetToolTipText("a tip");
+    button.Get()->HurryToolTip();
+    const HWND window = button.Get()->m_hWnd;
+    REQUIRE(MovePointer(window, {20, 20}));
+    REQUIRE(WaitUntil([&] { return button.Get()->IsToolTipShown(); }));
+    host.m_endOn = WM_NOTIFY;
+    host.m_endCode = TTN_POP;
+    ::SendMessage(window, WM_KEYDOWN, VK_SPACE, 1);
+    CHECK(host.m_button == NULL);
+    CHECK_FALSE(::IsWindow(window));
+    CHECK(button.IsUntouched());
+    MovePointerAway();
+}

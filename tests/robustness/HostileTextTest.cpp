@@ -334,6 +334,30 @@ TEST_CASE("a value of the real registry that fills the buffer without a terminat
     ::RegDeleteKeyA(HKEY_CURRENT_USER, key.c_str());
 }
 
+TEST_CASE("each label reads the registry the same way")
+{
+    class Link : public CHyperLink
+    {
+    public:
+        using CHyperLink::QueryRegistryDefault;
+    } link;
+    class Label : public CStaticTS
+    {
+    public:
+        using CStaticTS::QueryRegistryDefault;
+    } label;
+    const ScriptedRegistry registry;
+    for (const size_t length : {size_t{259}, size_t{260}}) {
+        ScriptedRegistry::Values()["key"] = Terminated(Long(length));
+        const GuardedBuffer ofLink(MAX_PATH);
+        const GuardedBuffer ofLabel(MAX_PATH);
+        CHECK(link.QueryRegistryDefault(NULL, "key", ofLink.Get()) == ERROR_SUCCESS);
+        CHECK(label.QueryRegistryDefault(NULL, "key", ofLabel.Get()) == ERROR_SUCCESS);
+        CHECK(std::string(ofLink.Get()) == (length < MAX_PATH ? Long(length) : ""));
+        CHECK(std::string(ofLabel.Get()) == ofLink.Get());
+    }
+}
+
 TEST_CASE("no command is run that was cut, whatever the lengths of type, command and target")
 {
     const size_t shorts[] = {1, 100, 258, 259, 260, 261, 527, 528, 529, 65536};
@@ -424,6 +448,36 @@ TEST_CASE("a path that ends in half a character is converted within its own leng
         CHECK(NoPictures::Paths()[0].size() <= strlen(path));
         CHECK(NoPictures::Paths()[1].size() <= strlen(path) + strlen("C:\\\x83//"));
     }
+}
+
+TEST_CASE("a path of more than a thousand million characters gives no picture")
+{
+    // One piece of memory, seen again and again at addresses that follow each other.
+    const size_t piece = 16 * 1024 * 1024;
+    const size_t pieces = 65;
+    const HANDLE memory = ::CreateFileMapping(INVALID_HANDLE_VALUE, NULL, PAGE_READWRITE, 0,
+                                              static_cast<DWORD>(piece), NULL);
+    REQUIRE(memory != NULL);
+    char* const start =
+        static_cast<char*>(::VirtualAlloc(NULL, (pieces + 1) * piece, MEM_RESERVE, PAGE_NOACCESS));
+    REQUIRE(start != NULL);
+    ::VirtualFree(start, 0, MEM_RELEASE);
+    for (size_t i = 0; i < pieces; ++i)
+        REQUIRE(::MapViewOfFileEx(memory, FILE_MAP_WRITE, 0, 0, piece, start + i * piece) != NULL);
+    memset(start, 'p', piece);
+    char* const end = static_cast<char*>(
+        ::VirtualAlloc(start + pieces * piece, piece, MEM_RESERVE | MEM_COMMIT, PAGE_READWRITE));
+    CHECK(end == start + pieces * piece); // Zeros, which end the path.
+    {
+        const NoPictures pictures;
+        if (end != NULL)
+            CHECK(LoadPictureBitmap(start) == NULL);
+        CHECK(NoPictures::Paths() == std::vector<std::wstring>{L"(none)"});
+    }
+    ::VirtualFree(end, 0, MEM_RELEASE);
+    for (size_t i = 0; i < pieces; ++i)
+        ::UnmapViewOfFile(start + i * piece);
+    ::CloseHandle(memory);
 }
 
 TEST_CASE("a page with an image folder of any length opens, and goes back to the folder it was in")

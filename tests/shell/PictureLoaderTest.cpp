@@ -295,3 +295,30 @@ TEST_CASE("a path that cannot be converted gives no picture")
     REQUIRE(conversion.IsInstalled());
     CHECK_FALSE(Loads(ImagePath("Next.gif")));
 }
+
+namespace {
+
+int copies = 0;
+
+/// Answers the picture's own bitmap where that is allowed.
+HANDLE WINAPI AnswerSource(HANDLE image, UINT type, int width, int height, UINT flags)
+{
+    ++copies;
+    return flags == LR_COPYRETURNORG ? image : ::CopyImage(image, type, width, height, flags);
+}
+
+} // namespace
+
+TEST_CASE("where the copy would be the picture's own bitmap, a real copy is made")
+{
+    const ImportHook copy(FindModule("umbra.dll"), "user32", "CopyImage", AnswerSource);
+    REQUIRE(copy.IsInstalled());
+    copies = 0;
+    const BalancedGdi objects;
+    const HBITMAP bitmap = LoadPictureBitmap(ImagePath("Next.gif").c_str());
+    REQUIRE(bitmap != NULL);
+    CHECK(copies == 2);
+    CHECK(SizeOf(bitmap) == CSize(19, 19)); // It lives, although the picture's own is deleted.
+    CHECK(::DeleteObject(bitmap));
+    CHECK_MESSAGE(objects.IsBalanced(), objects.Describe());
+}
