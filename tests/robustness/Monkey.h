@@ -12,6 +12,8 @@
 //   (WM_SYSCOMMAND, WM_SYSKEYDOWN, the Alt and F10 keys); the move that m_bDragAnywhere starts is
 //   in, and ended with the Escape key;
 // - WM_QUIT and the end of a session, which end the program; F1 and WM_HELP, which start another;
+// - the styles with which a static control shortens its text, which Wine's own drawing does not
+// bear;
 // - the class library's own messages from 0x0360 on, some of which carry addresses.
 #pragma once
 
@@ -413,14 +415,20 @@ private:
     void ChangeStyle(HWND window)
     {
         static const DWORD any[] = {WS_TABSTOP, WS_GROUP, WS_BORDER, WS_VISIBLE, WS_CLIPSIBLINGS};
-        // Only alignment and look: other types of a control draw the system's own way.
-        static const DWORD control[] = {SS_CENTER, SS_RIGHT, BS_FLAT, BS_PUSHLIKE, BS_MULTILINE};
-        const DWORD bit =
-            IsDialog(window) || m_dice.Percent(50) ? m_dice.Pick(any) : m_dice.Pick(control);
+        static const DWORD button[] = {BS_LEFT, BS_FLAT, BS_PUSHLIKE, BS_MULTILINE};
+        static const DWORD label[] = {SS_CENTER, SS_RIGHT, SS_NOPREFIX, SS_CENTERIMAGE, SS_SUNKEN};
+        DWORD bit = m_dice.Pick(any);
+        if (!IsDialog(window) && m_dice.Percent(50))
+            bit = IsButton(window) ? m_dice.Pick(button) : m_dice.Pick(label);
         const LONG style = ::GetWindowLong(window, GWL_STYLE);
         ::SetWindowLong(window, GWL_STYLE, style ^ static_cast<LONG>(bit));
         ::SetWindowPos(window, NULL, 0, 0, 0, 0,
                        SWP_NOMOVE | SWP_NOSIZE | SWP_NOZORDER | SWP_FRAMECHANGED);
+    }
+
+    static bool IsButton(HWND window)
+    {
+        return (::SendMessage(window, WM_GETDLGCODE, 0, 0) & DLGC_STATIC) == 0;
     }
 
     void ChangeControl()
