@@ -40,7 +40,8 @@ void WriteFile(const std::string& path, const std::vector<BYTE>& bytes)
 {
     FILE* file = fopen(path.c_str(), "wb");
     REQUIRE(file != nullptr);
-    fwrite(bytes.data(), 1, bytes.size(), file);
+    if (!bytes.empty())
+        fwrite(bytes.data(), 1, bytes.size(), file);
     fclose(file);
 }
 
