@@ -43,6 +43,7 @@ struct Progress
     LONG slowest; ///< Milliseconds.
     LONG lost;
     char what[200];
+    char firstLoss[200];
 };
 
 // The four ways into the loader. Each answers whether a picture came out, in the looks that take
@@ -134,10 +135,16 @@ CString TemporaryPicture()
     return path;
 }
 
-void TryFile(const Loader& loader, const PictureFile& file, Progress& progress)
+CString WritePicture(const PictureFile& file)
 {
     const CString path = TemporaryPicture();
     std::ofstream(static_cast<const char*>(path), std::ios::binary) << file.bytes;
+    return path;
+}
+
+void TryFile(const Loader& loader, const PictureFile& file, Progress& progress)
+{
+    const CString path = WritePicture(file);
     snprintf(progress.what, sizeof(progress.what), "%s, file %ld (%s)", loader.name, progress.file,
              file.name.c_str());
     progress.beat = progress.beat + 1;
@@ -146,7 +153,6 @@ void TryFile(const Loader& loader, const PictureFile& file, Progress& progress)
     if (loader.load(path))
         ++progress.loaded;
     progress.slowest = max(progress.slowest, static_cast<LONG>(::GetTickCount() - start));
-    ::DeleteFile(path);
 }
 
 /// All files through one loader, from where a crash has ended the former child.
@@ -170,9 +176,19 @@ void TryFiles(LONG loaderIndex, LONG first, Progress& progress)
         }
         progress.file = i;
         TryFile(loader, file, progress);
+        GdiSweeper::Left left = sweeper.Sweep();
+        // What the system caches does not come again for ever; a loss does.
+        for (int cached = left.others; left.others > 0 && cached <= GdiSweeper::systemCache;
+             cached += left.others) {
+            loader.load(WritePicture(file));
+            left.others = sweeper.Sweep().others;
+        }
+        const LONG lost = left.bitmaps + left.fonts + left.others;
+        if (lost != 0 && progress.lost == 0)
+            memcpy(progress.firstLoss, progress.what, sizeof(progress.what));
+        progress.lost += lost;
     }
-    const GdiSweeper::Left left = sweeper.Sweep();
-    progress.lost += left.bitmaps + left.fonts + left.others;
+    ::DeleteFile(TemporaryPicture());
 }
 
 } // namespace
@@ -192,14 +208,13 @@ TEST_CASE("part: broken pictures" * doctest::skip())
 
 TEST_CASE("the good pictures load through every loader")
 {
-    const CString path = TemporaryPicture();
     for (const PictureFile& file : GoodPictures()) {
         INFO(file.name);
-        std::ofstream(static_cast<const char*>(path), std::ios::binary) << file.bytes;
+        const CString path = WritePicture(file);
         for (const Loader& loader : loaders)
             CHECK_MESSAGE(loader.load(path), loader.name);
     }
-    ::DeleteFile(path);
+    ::DeleteFile(TemporaryPicture());
 }
 
 TEST_CASE("broken pictures give a bitmap or none, and nothing crashes, hangs or is lost")
@@ -223,6 +238,7 @@ TEST_CASE("broken pictures give a bitmap or none, and nothing crashes, hangs or 
     CHECK(progress.finished);
     CHECK(progress.loaded > progress.tried / 10); // Or the damage is too crude to get anywhere.
     CHECK(progress.loaded < progress.tried);
+    INFO("first lost by ", std::string(progress.firstLoss));
     CHECK(progress.lost == 0);
     CHECK(progress.slowest < static_cast<LONG>(longestLoad));
 }

@@ -21,6 +21,10 @@ public:
         }
     };
 
+    /// The most objects of other kinds that the system itself keeps: Wine has up to 64 device
+    /// contexts of windows for later use, each with two regions, and adds to them at any time.
+    static constexpr int systemCache = 3 * 64;
+
     GdiSweeper() { Remember(); }
 
     Left Sweep()

@@ -234,7 +234,7 @@ bool IsTrueIcon(const std::string& bytes)
 bool IsOfReasonableSize(const std::string& bytes)
 {
     const long long mostPixels = 4000000;
-    if (bytes.compare(0, 3, "GIF") == 0)
+    if (bytes.compare(0, 2, "GI") == 0)
         return 1LL * Get<WORD>(bytes, 6) * Get<WORD>(bytes, 8) <= mostPixels;
     if (bytes.compare(0, 2, "BM") == 0) {
         const long long w = Get<LONG>(bytes, width);
@@ -317,6 +317,8 @@ bool IsSafeForSystem(const std::string& bytes)
         return true;
     if (bytes.compare(0, 2, "BM") == 0)
         return IsTrueBitmap(bytes);
+    if (bytes.compare(0, 2, "GI") == 0) // All that Wine looks at.
+        return Get<WORD>(bytes, 6) != 0 && Get<WORD>(bytes, 8) != 0;
     const bool isIcon = bytes.size() >= 2 && bytes[0] == 0 && bytes[1] == 0;
     return !isIcon || IsTrueIcon(bytes);
 }

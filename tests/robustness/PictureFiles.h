@@ -19,7 +19,8 @@ std::vector<PictureFile> GoodPictures();
 std::vector<PictureFile> BadPictures();
 
 /// Where the system is Wine: false for a bitmap file or icon whose head claims more than the file
-/// holds, and for a bitmap in runs. Wine's own loader reads on past the end of these, and may crash.
+/// holds, for a bitmap in runs and for a GIF file of no size. Wine's own loader reads on past the end
+/// of these, and may crash.
 bool IsSafeForSystem(const std::string& bytes);
 
 /// A good file with some bytes changed, cut out, doubled or added. Sizes stay within what a machine
