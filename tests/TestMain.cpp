@@ -10,6 +10,7 @@
 
 #include <cstdio>
 #include <cstdlib>
+#include <malloc.h>
 
 namespace {
 
@@ -26,8 +27,9 @@ class TestApp : public CWinApp
 } theApp;
 
 int casesRun = 0;
+bool heapIsBroken = false;
 
-/// Tells a crash report which test was running, and counts.
+/// Tells a crash report which test was running, counts, and looks at the heap after each test.
 class CurrentTest : public doctest::IReporter
 {
 public:
@@ -36,10 +38,15 @@ public:
     void test_case_start(const doctest::TestCaseData& test) override
     {
         ++casesRun;
+        name_ = test.m_name;
         umbra::testing::SetCrashContext(test.m_name);
     }
     void test_case_end(const doctest::CurrentTestCaseStats&) override
     {
+        if (!heapIsBroken && _heapchk() != _HEAPOK) {
+            heapIsBroken = true;
+            std::fprintf(stderr, "the heap is broken at the end of: %s\n", name_);
+        }
         umbra::testing::SetCrashContext(nullptr);
     }
 
@@ -53,6 +60,9 @@ public:
     void log_assert(const doctest::AssertData&) override {}
     void log_message(const doctest::MessageData&) override {}
     void test_case_skipped(const doctest::TestCaseData&) override {}
+
+private:
+    const char* name_ = "";
 };
 REGISTER_LISTENER("current-test", 1, CurrentTest);
 
@@ -77,5 +87,5 @@ int main(int argc, char** argv)
         std::fputs("no test case matches the filter\n", stderr);
         return EXIT_FAILURE;
     }
-    return result;
+    return heapIsBroken ? EXIT_FAILURE : result;
 }
