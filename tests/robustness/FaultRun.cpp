@@ -27,8 +27,8 @@ const int longestFinding = 300;
 const int mostCrashes = 60;
 
 // Which of a function's calls fail: all of the first ones, then as many spread over the rest.
-const int firstCalls = 6;
-const int spreadCalls = 3;
+const int firstCalls = 4;
+const int spreadCalls = 2;
 
 /// Which life, which import, which call: a place on the way through all of them.
 struct Place
