@@ -71,8 +71,7 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size
                                 static_cast<BYTE>(input.Byte()), static_cast<BYTE>(input.Byte()));
             break;
         case 3:
-            dib.SetPixelIndex(MakeSize(input) - 3, MakeSize(input) - 3,
-                              static_cast<BYTE>(input.Byte()));
+            dib.SetPixelIndex(MakeSize(input), MakeSize(input), static_cast<BYTE>(input.Byte()));
             break;
         case 4:
             dib.BlendPalette(input.Number(), input.Byte());

@@ -3,8 +3,10 @@
 #pragma once
 
 #include <climits>
+#include <cstdarg>
 #include <cstddef>
 #include <cstdint>
+#include <cstdio>
 #include <cstring>
 #include <strings.h>
 
@@ -36,6 +38,16 @@ using HBITMAP = void*;
 using HKEY = HandleTarget*;
 using HINSTANCE = HandleTarget*;
 using HWND = HandleTarget*;
+
+/// Formats, so that what a trace reads is watched as well, and says nothing.
+__attribute__((format(printf, 1, 2))) inline void TRACE(const char* format, ...)
+{
+    char text[1024];
+    va_list arguments;
+    va_start(arguments, format);
+    std::vsnprintf(text, sizeof text, format, arguments);
+    va_end(arguments);
+}
 
 inline WORD LOWORD(LONG value)
 {
