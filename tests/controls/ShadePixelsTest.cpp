@@ -286,6 +286,17 @@ TEST_CASE(
     }
 }
 
+TEST_CASE("a side of 2^26 pixels or more is refused before anything is drawn")
+{
+    std::uint8_t pixel = kUntouched;
+    for (const auto& [width, height] : {std::pair(1 << 26, 1), {1, 1 << 26}, {INT_MAX, INT_MAX}}) {
+        ShadeRandom random(7);
+        CHECK_FALSE(FillShadePixels({&pixel, width, height, 0}, SHADE_NOISE, 20, random));
+        CHECK(random.GetState() == 7);
+        CHECK(pixel == kUntouched);
+    }
+}
+
 TEST_CASE("without memory to work in nothing is drawn and no random number is taken")
 {
     using namespace umbra::testing;
