@@ -1,9 +1,9 @@
 #include "BackgroundsPage.h"
 
 BEGIN_MESSAGE_MAP(CBackgroundsPage, CGalleryPage)
-ON_CONTROL_RANGE(BN_CLICKED, IDC_SAMPLE_FIRST, IDC_SAMPLE_LAST, &CBackgroundsPage::OnSample)
-ON_BN_CLICKED(IDC_DRAG, &CBackgroundsPage::OnDrag)
-ON_WM_DESTROY()
+    ON_CONTROL_RANGE(BN_CLICKED, IDC_SAMPLE_FIRST, IDC_SAMPLE_LAST, &CBackgroundsPage::OnSample)
+    ON_BN_CLICKED(IDC_DRAG, &CBackgroundsPage::OnDrag)
+    ON_WM_DESTROY()
 END_MESSAGE_MAP()
 
 namespace {

@@ -82,7 +82,7 @@ void CButtonsPage::CreateMatrix()
         m_matrix[row][2].HoldPressed();
         m_matrix[row][2].ModifyStyle(WS_TABSTOP, 0);
         m_matrix[row][3].EnableWindow(FALSE);
-        GetDlgItem(IDC_STYLE_NAME_FIRST + row)->SetWindowText(shadeStyles[row].text);
+        SetDlgItemText(IDC_STYLE_NAME_FIRST + row, shadeStyles[row].text);
     }
 }
 

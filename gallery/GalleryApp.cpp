@@ -20,7 +20,7 @@ BOOL CGalleryApp::InitInstance()
                                                         ICC_UPDOWN_CLASS | ICC_PROGRESS_CLASS};
     ::InitCommonControlsEx(&classes);
     CWinApp::InitInstance();
-    g_strImageDir = ProgramFolder();
+    g_strImageDir = GalleryFolder();
     g_crShade = palette::tint;
 
     if (__argc > 1) {

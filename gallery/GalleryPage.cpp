@@ -3,8 +3,8 @@
 #include "Images.h"
 
 BEGIN_MESSAGE_MAP(CGalleryPage, CBaseDialog)
-ON_WM_ERASEBKGND()
-ON_WM_CTLCOLOR()
+    ON_WM_ERASEBKGND()
+    ON_WM_CTLCOLOR()
 END_MESSAGE_MAP()
 
 namespace {
@@ -117,7 +117,8 @@ CRect CGalleryPage::PlaceOf(const CWnd& control) const
 
 CRect CGalleryPage::PlaceOf(int controlId) const
 {
-    return PlaceOf(*GetDlgItem(controlId));
+    const CWnd* control = GetDlgItem(controlId);
+    return control != NULL ? PlaceOf(*control) : CRect();
 }
 
 CRect CGalleryPage::Pixels(int x, int y, int width, int height)

@@ -3,8 +3,8 @@
 #include "GalleryPage.h"
 
 BEGIN_MESSAGE_MAP(CGridView, CStatic)
-ON_WM_ERASEBKGND()
-ON_WM_PAINT()
+    ON_WM_ERASEBKGND()
+    ON_WM_PAINT()
 END_MESSAGE_MAP()
 
 namespace {
@@ -95,6 +95,9 @@ void CGridView::DrawGrid(CDC& dc, const CRect& client, double scale)
     const DialogUnits::Base base = {horizontal, vertical};
     const double across = horizontal * scale;
     const double down = vertical * scale;
+    // Nothing could be measured, or no line would have room: it would go on for ever.
+    if (across == 0 || down == 0 || (across < closestLines && down < closestLines))
+        return;
     for (int unit = 0;; ++unit) {
         const DialogUnits::Box at = DialogUnits::ToPixels({unit, unit, 0, 0}, base);
         const int x = Scaled(at.x, scale);

@@ -1,6 +1,6 @@
 #include "Images.h"
 
-CString ProgramFolder()
+CString GalleryFolder()
 {
     CString path;
     ::GetModuleFileName(NULL, path.GetBuffer(MAX_PATH), MAX_PATH);

@@ -4,7 +4,7 @@
 #include <umbra.h>
 
 /// The folder of the program file, with a backslash at its end.
-CString ProgramFolder();
+CString GalleryFolder();
 
 /// The toolkit's image folder, with a backslash at its end.
 CString ImageFolder();

@@ -3,8 +3,8 @@
 #include "GalleryPage.h"
 
 BEGIN_MESSAGE_MAP(CPicturePreview, CStatic)
-ON_WM_ERASEBKGND()
-ON_WM_PAINT()
+    ON_WM_ERASEBKGND()
+    ON_WM_PAINT()
 END_MESSAGE_MAP()
 
 namespace {

@@ -1,7 +1,7 @@
 #include "SampleButton.h"
 
 BEGIN_MESSAGE_MAP(CSampleButton, CxShadeButton)
-ON_WM_NCHITTEST()
+    ON_WM_NCHITTEST()
 END_MESSAGE_MAP()
 
 void CSampleButton::HoldHot()

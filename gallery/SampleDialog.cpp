@@ -6,7 +6,7 @@
 #include <vector>
 
 BEGIN_MESSAGE_MAP(CSampleDialog, CDialogTS)
-ON_BN_CLICKED(IDC_SAMPLE_COLOUR, &CSampleDialog::OnNextColour)
+    ON_BN_CLICKED(IDC_SAMPLE_COLOUR, &CSampleDialog::OnNextColour)
 END_MESSAGE_MAP()
 
 namespace {
@@ -188,5 +188,6 @@ void CSampleDialog::CutOutShape()
                 ++x;
         }
     }
-    SetWindowRgn(static_cast<HRGN>(shape.Detach()), TRUE); // The window owns it from here on.
+    if (SetWindowRgn(static_cast<HRGN>(shape.GetSafeHandle()), TRUE) != 0)
+        shape.Detach(); // The window owns it from here on.
 }

@@ -6,10 +6,10 @@
 #include <string.h>
 
 BEGIN_MESSAGE_MAP(CShadeLabPage, CGalleryPage)
-ON_WM_HSCROLL()
-ON_CBN_SELCHANGE(IDC_STYLE, &CShadeLabPage::OnStyle)
-ON_BN_CLICKED(IDC_COPY, &CShadeLabPage::OnCopy)
-ON_BN_CLICKED(IDC_RESET, &CShadeLabPage::OnReset)
+    ON_WM_HSCROLL()
+    ON_CBN_SELCHANGE(IDC_STYLE, &CShadeLabPage::OnStyle)
+    ON_BN_CLICKED(IDC_COPY, &CShadeLabPage::OnCopy)
+    ON_BN_CLICKED(IDC_RESET, &CShadeLabPage::OnReset)
 END_MESSAGE_MAP()
 
 namespace {

@@ -9,7 +9,7 @@
 #include "WorkingPage.h"
 
 BEGIN_MESSAGE_MAP(CStartPage, CGalleryPage)
-ON_CONTROL_RANGE(BN_CLICKED, IDC_ROOM_FIRST, IDC_ROOM_LAST, &CStartPage::OnRoom)
+    ON_CONTROL_RANGE(BN_CLICKED, IDC_ROOM_FIRST, IDC_ROOM_LAST, &CStartPage::OnRoom)
 END_MESSAGE_MAP()
 
 namespace {

@@ -5,17 +5,17 @@
 #include <shlobj.h>
 
 BEGIN_MESSAGE_MAP(CWizardPage, CGalleryPage)
-ON_BN_CLICKED(IDC_BACK, &CWizardPage::OnBack)
-ON_WM_DESTROY()
+    ON_BN_CLICKED(IDC_BACK, &CWizardPage::OnBack)
+    ON_WM_DESTROY()
 END_MESSAGE_MAP()
 
 BEGIN_MESSAGE_MAP(CWizardFolderPage, CWizardPage)
-ON_EN_CHANGE(IDC_FOLDER, &CWizardFolderPage::OnFolder)
-ON_BN_CLICKED(IDC_BROWSE, &CWizardFolderPage::OnBrowse)
+    ON_EN_CHANGE(IDC_FOLDER, &CWizardFolderPage::OnFolder)
+    ON_BN_CLICKED(IDC_BROWSE, &CWizardFolderPage::OnBrowse)
 END_MESSAGE_MAP()
 
 BEGIN_MESSAGE_MAP(CWizardPicturesPage, CWizardPage)
-ON_LBN_SELCHANGE(IDC_PICTURES, &CWizardPicturesPage::OnPicture)
+    ON_LBN_SELCHANGE(IDC_PICTURES, &CWizardPicturesPage::OnPicture)
 END_MESSAGE_MAP()
 
 BEGIN_MESSAGE_MAP(CWizardConfirmPage, CWizardPage)
@@ -224,7 +224,7 @@ BOOL CWizardResultPage::OnInitDialog()
     m_summary.SetLabelTextColor(palette::text);
     const bool done = !m_task.indexFile.IsEmpty();
     ShowPicture(done ? IDS_IMAGE_INFO : IDS_IMAGE_ERROR);
-    GetDlgItem(IDC_BACK)->ShowWindow(done ? SW_HIDE : SW_SHOW);
+    m_btnBack.ShowWindow(done ? SW_HIDE : SW_SHOW);
     if (!done) {
         SetLabelText(m_intro, "Nothing was written.");
         m_summary.SetWindowText("No file can be made in the folder\n" + m_task.folder +

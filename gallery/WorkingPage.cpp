@@ -4,7 +4,7 @@ BEGIN_MESSAGE_MAP(CWorkingDialog, CModellessDlg)
 END_MESSAGE_MAP()
 
 BEGIN_MESSAGE_MAP(CWorkingPage, CGalleryPage)
-ON_BN_CLICKED(IDC_START_WORK, &CWorkingPage::OnStart)
+    ON_BN_CLICKED(IDC_START_WORK, &CWorkingPage::OnStart)
 END_MESSAGE_MAP()
 
 namespace {

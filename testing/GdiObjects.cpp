@@ -159,6 +159,15 @@ void WarmUpGdi()
     ShowWindowOfEachKind();
 }
 
+void RefreshDeviceContexts()
+{
+    HDC contexts[100]; // More than are ever in use at the same time.
+    for (HDC& context : contexts)
+        context = ::GetDC(nullptr);
+    for (const HDC context : contexts)
+        ::ReleaseDC(nullptr, context);
+}
+
 BalancedGdi::BalancedGdi()
 {
     WarmUpGdi();

@@ -40,6 +40,10 @@ std::vector<HGDIOBJ> ListGdiObjects();
 /// text, a loaded picture, a window of each kind. Objects counted afterwards are the program's.
 void WarmUpGdi();
 
+/// Takes all of the system's device contexts and gives them back: each of them can keep the font
+/// and the regions of its last use until its next one, even when those have been deleted.
+void RefreshDeviceContexts();
+
 /// Remembers the count at its beginning; warms up first.
 class BalancedGdi
 {

@@ -1,19 +1,8 @@
 #include "FaultCheck.h"
 
-using umbra::testing::Import;
-
-namespace {
-
-bool IsOfSystem(const Import& import)
-{
-    return import.dll != "umbra-mfc.dll";
-}
-
-} // namespace
-
 TEST_CASE("part: lives with failing calls of umbra.dll" * doctest::skip())
 {
-    LiveWithFailures("umbra.dll", IsOfSystem);
+    LiveWithFailures("umbra.dll", IsOfSystem, LivesOfClasses());
 }
 
 TEST_CASE("whichever call of umbra.dll fails: nothing crashes or hangs and nothing is lost")

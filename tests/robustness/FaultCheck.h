@@ -5,7 +5,29 @@
 
 #include <doctest/doctest.h>
 
+#include <algorithm>
+#include <ctype.h>
 #include <stdio.h>
+
+/// Of umbra.dll: all that the system and the run-time give.
+inline bool IsOfSystem(const umbra::testing::Import& import)
+{
+    return import.dll != "umbra-mfc.dll";
+}
+
+/// Of umbra-mfc.dll: windows, graphics, pictures and resources. Memory is the run-time's, and its
+/// lack is thrown.
+inline bool IsOfWindows(const umbra::testing::Import& import)
+{
+    std::string dll = import.dll;
+    std::transform(dll.begin(), dll.end(), dll.begin(), [](unsigned char c) { return tolower(c); });
+    for (const char* name :
+         {"user32.dll", "gdi32.dll", "comctl32.dll", "oleaut32.dll", "kernel32.dll"}) {
+        if (dll == name)
+            return true;
+    }
+    return false;
+}
 
 inline void CheckReport(const FaultReport& report)
 {

@@ -3,7 +3,6 @@
 #include "ChildProgram.h"
 #include "Dice.h"
 #include "FailureTable.h"
-#include "Lives.h"
 #include "Outside.h"
 
 #include <testing/CallFault.h>
@@ -25,10 +24,6 @@ const int mostImports = 1024;
 const int mostFindings = 300;
 const int longestFinding = 300;
 const int mostCrashes = 60;
-
-// Which of a function's calls fail: all of the first ones, then as many spread over the rest.
-const int firstCalls = 4;
-const int spreadCalls = 2;
 
 /// Which life, which import, which call: a place on the way through all of them.
 struct Place
@@ -74,19 +69,20 @@ bool WantsEveryCall()
     return wanted != nullptr && strcmp(wanted, "all") == 0;
 }
 
-std::set<LONG> PickCalls(long long count)
+std::set<LONG> PickCalls(long long count, const CallSample& sample)
 {
     std::set<LONG> calls;
     const LONG last = static_cast<LONG>(count);
-    const LONG first = WantsEveryCall() ? last : min(last, LONG{firstCalls});
+    const LONG first = WantsEveryCall() ? last : min(last, sample.first);
     for (LONG call = 1; call <= first; ++call)
         calls.insert(call);
-    for (LONG i = 1; i <= spreadCalls && last > firstCalls; ++i)
-        calls.insert(firstCalls + (last - firstCalls) * i / spreadCalls);
+    for (LONG i = 1; i <= sample.spread && last > first; ++i)
+        calls.insert(first + (last - first) * i / sample.spread);
     return calls;
 }
 
 Progress* sharedProgress = nullptr;
+const char* expectedReport = nullptr;
 
 /// Of the class library's data exchange, when a control cannot be bound.
 const char notBound[] = "This operation is not supported.";
@@ -97,7 +93,8 @@ const char assertion[] = "Assertion failed";
 
 int WINAPI AnswerBox(HWND, LPCSTR text, LPCSTR, UINT)
 {
-    if (strcmp(text, notBound) == 0)
+    const bool isReport = expectedReport != nullptr && strcmp(text, expectedReport) == 0;
+    if (isReport || strcmp(text, notBound) == 0)
         return IDOK;
     if (strncmp(text, assertion, strlen(assertion)) == 0)
         return IDIGNORE;
@@ -169,8 +166,10 @@ private:
 class FaultRun
 {
 public:
-    FaultRun(HMODULE module, ImportFilter filter, Progress& progress)
-        : m_module(module), m_progress(progress), m_resume(progress.place)
+    FaultRun(HMODULE module, ImportFilter filter, const std::vector<Life>& lives,
+             const CallSample& calls, Progress& progress)
+        : m_module(module), m_lives(lives), m_calls(calls), m_progress(progress),
+          m_resume(progress.place)
     {
         for (const Import& import : ImportsOf(module)) {
             if (!import.name.empty() && CanFail(import) && filter(import))
@@ -180,10 +179,9 @@ public:
 
     void Run()
     {
-        const std::vector<Life>& lives = AllLives();
-        for (m_life = 0; m_life < static_cast<LONG>(lives.size()); ++m_life) {
-            if (m_life >= m_resume.life && IsWanted(lives[m_life]))
-                RunLife(lives[m_life]);
+        for (m_life = 0; m_life < static_cast<LONG>(m_lives.size()); ++m_life) {
+            if (m_life >= m_resume.life && IsWanted(m_lives[m_life]))
+                RunLife(m_lives[m_life]);
         }
         m_progress.finished = TRUE;
     }
@@ -205,7 +203,7 @@ private:
         const int usual = Live(life);
         for (size_t i = 0; i < m_imports.size(); ++i) {
             m_progress.called[i] |= calls[i] > 0;
-            for (const LONG call : PickCalls(calls[i])) {
+            for (const LONG call : PickCalls(calls[i], m_calls)) {
                 const Place place = {m_life, static_cast<LONG>(i), call};
                 if (!(place <= m_resume))
                     LiveWithFailure(life, place, usual);
@@ -278,12 +276,15 @@ private:
     int Restore()
     {
         m_surroundings.Restore();
+        RefreshDeviceContexts();
         return m_surroundings.TakeObjects();
     }
 
     static const unsigned firstSeed = 7;
 
     HMODULE m_module;
+    const std::vector<Life>& m_lives;
+    const CallSample m_calls;
     Progress& m_progress;
     Place m_resume; ///< All places up to here are done.
     std::vector<Import> m_imports;
@@ -324,10 +325,12 @@ FaultReport FailEachCall(const char* module, const char* childTest)
     return report;
 }
 
-void LiveWithFailures(const char* module, ImportFilter filter)
+void LiveWithFailures(const char* module, ImportFilter filter, const std::vector<Life>& lives,
+                      const FaultOptions& options)
 {
     const SharedMemory memory(ChildArgument(), sizeof(Progress));
     sharedProgress = static_cast<Progress*>(memory.Get());
+    expectedReport = options.report;
     const ImportHook boxes(FindModule("umbra-mfc.dll"), "user32", "MessageBoxA", AnswerBox);
-    FaultRun(FindModule(module), filter, *sharedProgress).Run();
+    FaultRun(FindModule(module), filter, lives, options.calls, *sharedProgress).Run();
 }

@@ -1,5 +1,7 @@
-// Every life of every class, again and again, each time with another system call that fails.
+// Lives lived again and again, each time with another system call that fails.
 #pragma once
+
+#include "Lives.h"
 
 #include <testing/ImportHook.h>
 
@@ -8,6 +10,23 @@
 
 /// Which imports of a module are made to fail, of those that can.
 using ImportFilter = bool (*)(const umbra::testing::Import&);
+
+/// Which of a function's calls in one life fail: all of the first ones, then as many spread over
+/// the rest. UMBRA_FAULT_CALLS=all makes every single one fail.
+struct CallSample
+{
+    long first = 4;
+    long spread = 2;
+};
+
+/// What is asked of a run.
+struct FaultOptions
+{
+    CallSample calls;
+    /// The message box with which the class library reports an exception of the program's own;
+    /// other boxes are findings, and this one too where it is NULL.
+    const char* report = nullptr;
+};
 
 struct FaultReport
 {
@@ -21,5 +40,6 @@ struct FaultReport
 /// life. `childTest` names the test case that calls LiveWithFailures for the module.
 FaultReport FailEachCall(const char* module, const char* childTest);
 
-/// The child's part.
-void LiveWithFailures(const char* module, ImportFilter filter);
+/// The child's part. UMBRA_FAULT_LIFE picks lives by the beginning of their name.
+void LiveWithFailures(const char* module, ImportFilter filter, const std::vector<Life>& lives,
+                      const FaultOptions& options = {});

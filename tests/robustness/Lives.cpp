@@ -1,5 +1,6 @@
 #include "Lives.h"
 
+#include "SelfEnding.h"
 #include "Stage.h"
 
 #include <tests/dialogs/PageTemplate.h>
@@ -329,40 +330,20 @@ void UseBitmapDialog()
     ::DeleteObject(image);
 }
 
-/// A page that ends itself from within, however often that takes.
-template <class Dialog>
-class SelfEnding : public Dialog
+void UseItsButton(HWND dialog)
 {
-public:
-    using Dialog::Dialog;
-
-    BOOL OnInitDialog() override
-    {
-        ::PostMessage(this->m_hWnd, WM_APP, 0, 0);
-        return Dialog::OnInitDialog();
-    }
-
-protected:
-    LRESULT WindowProc(UINT message, WPARAM wParam, LPARAM lParam) override
-    {
-        if (message != WM_APP)
-            return Dialog::WindowProc(message, wParam, lParam);
-        const HWND window = this->m_hWnd;
-        if (wParam == 0) {
-            Paint(window);
-            if (const HWND button = ::GetDlgItem(window, IDCANCEL))
-                Use(button);
-        }
-        ::PostMessage(window, WM_APP, wParam + 1, 0);
-        this->EndDialog(IDCANCEL);
-        return 0;
-    }
-};
+    Paint(dialog);
+    if (const HWND button = ::GetDlgItem(dialog, IDCANCEL))
+        Use(button);
+}
 
 class LifePage : public SelfEnding<CBaseDialog>
 {
 public:
-    LifePage() : SelfEnding(0U, nullptr, true, true, true, true, true, true, true, true) {}
+    LifePage()
+        : SelfEnding(UseItsButton, 0U, nullptr, true, true, true, true, true, true, true, true)
+    {
+    }
     using CBaseDialog::m_btnBack;
 };
 
@@ -371,7 +352,7 @@ void UseModalDialog()
     const DialogTemplate source =
         DialogTemplate(20, 20, 150, 100, WS_POPUP | WS_CAPTION, "A caption")
             .Button(IDCANCEL, "&Go on", 10, 10, 50, 14);
-    SelfEnding<CDialogTS> dialog(0U, nullptr);
+    SelfEnding<CDialogTS> dialog(UseItsButton, 0U, nullptr);
     dialog.InitModalIndirect(source.Get());
     dialog.DoModal();
 }
@@ -421,7 +402,7 @@ void UseModelessDialog()
 
 } // namespace
 
-const std::vector<Life>& AllLives()
+const std::vector<Life>& LivesOfClasses()
 {
     static const std::vector<Life> lives = {
         {"grid functions", UseGrid},

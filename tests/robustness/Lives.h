@@ -1,6 +1,6 @@
-// One whole life of each class: made, set up in every way, painted, hovered over, pressed, resized
-// and destroyed. Any system call may fail in the middle of it: what is needed around the classes is
-// made by calls of the test program's own.
+// Whole lives: made, set up in every way, painted, hovered over, pressed, resized and destroyed.
+// Any system call may fail in the middle of them: what is needed around them is made by calls of
+// the test program's own.
 #pragma once
 
 #include <vector>
@@ -11,4 +11,5 @@ struct Life
     void (*run)();
 };
 
-const std::vector<Life>& AllLives();
+/// One or more of each class of the toolkit.
+const std::vector<Life>& LivesOfClasses();

@@ -12,6 +12,8 @@
 //   (WM_SYSCOMMAND, WM_SYSKEYDOWN, the Alt and F10 keys); the move that m_bDragAnywhere starts is
 //   in, and ended with the Escape key;
 // - WM_QUIT and the end of a session, which end the program; F1 and WM_HELP, which start another;
+// - BM_SETSTYLE with the type of the automatic radio button: a click on a hidden or disabled one of
+//   these never ends under Wine, which walks around the group until it is back at the clicked one;
 // - the styles with which a static control shortens its text, which Wine's own drawing does not
 // bear;
 // - the class library's own messages from 0x0360 on, some of which carry addresses.
@@ -231,6 +233,8 @@ private:
         case WM_ERASEBKGND:
         case WM_NCPAINT:
             return message == WM_NCPAINT; // No device context; the whole frame.
+        case WM_PAINT: // Wine's own controls paint with what is given here, and a forged device
+            return 0;  // context of some values brings its graphics down.
         case WM_SETFOCUS:
         case WM_KILLFOCUS:
         case WM_SETTINGCHANGE:
@@ -246,12 +250,20 @@ private:
         case WM_COMMAND: // Of menus and accelerators; IDOK and IDCANCEL close.
             return m_dice.Percent(5) ? static_cast<WPARAM>(m_dice.Between(IDOK, IDCANCEL))
                                      : static_cast<WPARAM>(m_dice.Between(3, 0xDFFF));
+        case BM_SETSTYLE:
+            return PickButtonStyle();
         case WM_TIMER:
             return static_cast<WPARAM>(m_dice.Between(0x5000, 0x6000)); // Nobody's.
         default:
             return m_dice.Percent(70) ? static_cast<WPARAM>(m_dice.Below(3))
                                       : static_cast<WPARAM>(m_dice.Below(0x7FFFFFFF));
         }
+    }
+
+    WPARAM PickButtonStyle()
+    {
+        const DWORD style = m_dice.Percent(70) ? m_dice.Below(3) : m_dice.Below(0x7FFFFFFF);
+        return (style & BS_TYPEMASK) == BS_AUTORADIOBUTTON ? style & ~BS_TYPEMASK : style;
     }
 
     LPARAM PickLParam(HWND window, UINT message)

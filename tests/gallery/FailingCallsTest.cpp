@@ -1,0 +1,13 @@
+#include "FaultCheck.h"
+#include "GalleryLives.h"
+
+TEST_CASE("part: pages with failing calls of umbra.dll" * doctest::skip())
+{
+    LiveWithFailures("umbra.dll", IsOfSystem, LivesOfGallery(), pageOptions);
+}
+
+TEST_CASE("whichever call of umbra.dll fails while a gallery page is open: nothing crashes or "
+          "hangs and nothing is lost")
+{
+    CheckReport(FailEachCall("umbra.dll", "part: pages with failing calls of umbra.dll"));
+}

@@ -1,0 +1,13 @@
+#include "FaultCheck.h"
+#include "GalleryLives.h"
+
+TEST_CASE("part: pages with failing calls of umbra-mfc.dll" * doctest::skip())
+{
+    LiveWithFailures("umbra-mfc.dll", IsOfWindows, LivesOfGallery(), pageOptions);
+}
+
+TEST_CASE("whichever call of umbra-mfc.dll fails while a gallery page is open: nothing crashes or "
+          "hangs and nothing is lost")
+{
+    CheckReport(FailEachCall("umbra-mfc.dll", "part: pages with failing calls of umbra-mfc.dll"));
+}
