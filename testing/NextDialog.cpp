@@ -1,6 +1,5 @@
 #include <testing/NextDialog.h>
 
-#include <map>
 #include <set>
 #include <string>
 
@@ -10,11 +9,9 @@ namespace {
 
 constexpr UINT lookingMilliseconds = 10;
 
-std::map<UINT_PTR, NextDialog*>& WaitingOnes()
-{
-    static thread_local std::map<UINT_PTR, NextDialog*> waiting;
-    return waiting;
-}
+/// Those of a thread that wait, as a list. No object with a destructor: this compiler's run-time
+/// library may free the memory of such an object before it is destroyed.
+thread_local NextDialog* newest = nullptr;
 
 bool IsOpenDialog(HWND window)
 {
@@ -43,23 +40,24 @@ NextDialog::NextDialog(std::function<void(HWND)> steps)
       isOld_([old = FindOpenDialogs()](HWND dialog) { return old.count(dialog) > 0; })
 {
     timer_ = ::SetTimer(nullptr, 0, lookingMilliseconds, Look);
-    WaitingOnes()[timer_] = this;
+    if (timer_ == 0)
+        return;
+    older_ = newest;
+    newest = this;
 }
 
 NextDialog::~NextDialog()
 {
-    if (timer_ == 0)
-        return;
-    ::KillTimer(nullptr, timer_);
-    WaitingOnes().erase(timer_);
+    StopWaiting();
 }
 
 void CALLBACK NextDialog::Look(HWND, UINT, UINT_PTR timer, DWORD)
 {
-    const auto waiting = WaitingOnes().find(timer);
-    if (waiting == WaitingOnes().end())
+    NextDialog* self = newest;
+    while (self != nullptr && self->timer_ != timer)
+        self = self->older_;
+    if (self == nullptr)
         return;
-    NextDialog* self = waiting->second;
     for (HWND dialog : FindOpenDialogs()) {
         if (self->isOld_(dialog))
             continue;
@@ -70,11 +68,21 @@ void CALLBACK NextDialog::Look(HWND, UINT, UINT_PTR timer, DWORD)
 
 void NextDialog::RunSteps(HWND dialog)
 {
-    ::KillTimer(nullptr, timer_);
-    WaitingOnes().erase(timer_);
-    timer_ = 0;
+    StopWaiting();
     hasRun_ = true;
     steps_(dialog);
+}
+
+void NextDialog::StopWaiting()
+{
+    if (timer_ == 0)
+        return;
+    ::KillTimer(nullptr, timer_);
+    timer_ = 0;
+    NextDialog** link = &newest;
+    while (*link != this)
+        link = &(*link)->older_;
+    *link = older_;
 }
 
 } // namespace umbra::testing

@@ -26,10 +26,12 @@ public:
 private:
     static void CALLBACK Look(HWND, UINT, UINT_PTR timer, DWORD);
     void RunSteps(HWND dialog);
+    void StopWaiting();
 
     std::function<void(HWND)> steps_;
     std::function<bool(HWND)> isOld_; // A dialog that was there before.
-    UINT_PTR timer_ = 0;
+    UINT_PTR timer_ = 0;              // 0: waits no longer.
+    NextDialog* older_ = nullptr;     // The next one of this thread's that waits.
     bool hasRun_ = false;
 };
 
