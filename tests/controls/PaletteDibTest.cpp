@@ -156,6 +156,9 @@ TEST_CASE("a bitmap made again at its size keeps its block")
     CHECK(frees.Calls() == 1);
     CHECK(dib.GetWidth() == 200);
     CHECK(dib.GetHeight() == 300);
+    dib.Create(200, 300, 4);
+    CHECK(frees.Calls() == 2);
+    CHECK(dib.GetPaletteCount() == 16);
 }
 
 TEST_CASE("without memory the bitmap is empty")
@@ -255,6 +258,18 @@ TEST_CASE("short colour tables are blended to their end and no further")
             CheckColor(dib.GetPalette()[i], 150, 50, 100);
         CHECK(int{dib.GetBits()[0]} == 0x11);
     }
+}
+
+TEST_CASE("a bitmap of true colours has no colour table")
+{
+    PaletteDib dib;
+    REQUIRE(dib.Create(2, 2, 24) != nullptr);
+    CHECK(dib.GetPaletteCount() == 0);
+    CHECK(dib.GetPalette() == nullptr);
+    dib.Clear(0x11);
+    dib.SetPaletteIndex(0, 1, 2, 3);
+    dib.BlendPalette(RGB(200, 0, 100), 50);
+    CHECK(int{dib.GetBits()[0]} == 0x11);
 }
 
 TEST_CASE("a clone is equal and stands alone")

@@ -5,6 +5,7 @@
 
 #include <testing/ImportHook.h>
 
+#include <limits.h>
 #include <string>
 #include <vector>
 
@@ -18,6 +19,8 @@ struct CallSample
     long first = 4;
     long spread = 2;
 };
+
+constexpr CallSample everyCall = {LONG_MAX, 0};
 
 /// What is asked of a run.
 struct FaultOptions

@@ -10,6 +10,7 @@
 
 #include <doctest/doctest.h>
 
+#include <algorithm>
 #include <memory>
 #include <stdio.h>
 #include <stdlib.h>
@@ -27,6 +28,7 @@ struct Progress
 {
     volatile LONG beat;
     LONG import; ///< Whose first call fails; -1: none, calls are counted.
+    LONG result; ///< What the failing call gives back, unless 0.
     LONG calls[mostImports];
     LONG hasHand;
     LONG isHandled; ///< What the label answered.
@@ -40,6 +42,14 @@ std::vector<Import> ImportsThatCanFail()
             imports.push_back(import);
     }
     return imports;
+}
+
+Failure ChooseFailure(const Import& import, const Progress& progress)
+{
+    Failure failure = FailureOf(import);
+    if (progress.result != 0)
+        failure.result = progress.result;
+    return failure;
 }
 
 std::string ShareName()
@@ -64,7 +74,7 @@ TEST_CASE("part: the hand cursor with a failing call" * doctest::skip())
             const bool fails = progress.import == static_cast<LONG>(i);
             faults.push_back(std::make_unique<CallFault>(
                 FindModule("umbra.dll"), imports[i].dll.c_str(), imports[i].name.c_str(), 1,
-                fails ? 1 : 0, FailureOf(imports[i])));
+                fails ? 1 : 0, ChooseFailure(imports[i], progress)));
         }
         progress.hasHand = LoadHandCursor() != NULL;
         progress.isHandled = static_cast<LONG>(
@@ -105,4 +115,26 @@ TEST_CASE("whichever call fails, there is a hand or there is none, and the point
     }
     printf("%d functions failed while the hand was loaded\n", tried);
     CHECK(tried >= 4); // The folder, the program, its cursor, a copy.
+}
+
+TEST_CASE("a Windows directory that does not fit its buffer has no help program")
+{
+    const HelpProgram help;
+    REQUIRE(help.IsInstalled());
+    const SharedMemory memory(ShareName(), sizeof(Progress));
+    auto& progress = *static_cast<Progress*>(memory.Get());
+    const std::vector<Import> imports = ImportsThatCanFail();
+    const auto folder = std::find_if(imports.begin(), imports.end(), [](const Import& import) {
+        return import.name == "GetWindowsDirectoryA";
+    });
+    REQUIRE(folder != imports.end());
+    progress.import = static_cast<LONG>(folder - imports.begin());
+    for (const LONG needed : {MAX_PATH, MAX_PATH + 1, 30000}) { // What the system says it needs.
+        CAPTURE(needed);
+        progress.result = needed;
+        progress.hasHand = TRUE;
+        REQUIRE(RunChild(childTest, ShareName(), [&] { return progress.beat; }).IsGood());
+        CHECK(progress.calls[progress.import] == 1);
+        CHECK_FALSE(progress.hasHand);
+    }
 }
