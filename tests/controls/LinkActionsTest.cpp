@@ -4,42 +4,13 @@
 
 #include "LabelHost.h"
 
-#include <testing/ImportHook.h>
+#include <tests/TraceOf.h>
 
 #include <doctest/doctest.h>
 
 #include <string>
 
 using namespace umbra::testing;
-
-namespace {
-
-std::string traced;
-
-void WINAPI NoteTrace(LPCSTR text)
-{
-    traced += text;
-}
-
-/// What the toolkit tells the debugger while the steps run.
-template <class Steps>
-std::string TraceOf(Steps steps)
-{
-    const ImportHook debugger(FindModule("umbra-mfc.dll"), "kernel32", "OutputDebugStringA",
-                              NoteTrace);
-    REQUIRE(debugger.IsInstalled());
-    traced.clear();
-    steps();
-    return traced;
-}
-
-#ifdef _DEBUG
-const bool isTraced = true;
-#else
-const bool isTraced = false; // A release build tells nothing.
-#endif
-
-} // namespace
 
 TEST_CASE("a debug build traces a link that can never be clicked, by its control id")
 {

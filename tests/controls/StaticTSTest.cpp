@@ -4,6 +4,8 @@
 #include "LabelHost.h"
 #include "ShellSpy.h"
 
+#include <tests/BitmapFile.h>
+
 #include <dialogs/DialogUnits.h>
 #include <shell/HandCursor.h>
 #include <shell/PictureLoader.h>
@@ -64,37 +66,12 @@ LOGFONT DescribeFont(CWnd& window)
     return description;
 }
 
-/// A 24-bit BMP file of `width` by `height` pixels; the left half black, the right half red.
+/// A bitmap file of `width` by `height` pixels; the left half black, the right half red.
 std::string WriteHalfBlackBmp(const char* name, int width, int height)
 {
-    char folder[MAX_PATH];
-    ::GetTempPathA(MAX_PATH, folder);
-    const std::string path = std::string(folder) + name;
-    const int stride = (width * 3 + 3) / 4 * 4;
-    BITMAPFILEHEADER file = {};
-    BITMAPINFOHEADER info = {};
-    file.bfType = 0x4D42;
-    file.bfOffBits = sizeof(file) + sizeof(info);
-    file.bfSize = file.bfOffBits + stride * height;
-    info.biSize = sizeof(info);
-    info.biWidth = width;
-    info.biHeight = height;
-    info.biPlanes = 1;
-    info.biBitCount = 24;
-    std::vector<BYTE> rows(static_cast<size_t>(stride) * height);
-    for (int y = 0; y < height; ++y) {
-        for (int x = width / 2; x < width; ++x) {
-            BYTE* pixel = rows.data() + y * stride + x * 3;
-            pixel[0] = GetBValue(red);
-            pixel[1] = GetGValue(red);
-            pixel[2] = GetRValue(red);
-        }
-    }
-    FILE* out = fopen(path.c_str(), "wb");
-    fwrite(&file, sizeof(file), 1, out);
-    fwrite(&info, sizeof(info), 1, out);
-    fwrite(rows.data(), 1, rows.size(), out);
-    fclose(out);
+    const std::string path = TemporaryFile(name);
+    const auto colorAt = [=](int x, int) { return x < width / 2 ? black : red; };
+    REQUIRE(WriteBytes(path, MakeBitmapFile(width, height, colorAt, height)));
     return path;
 }
 

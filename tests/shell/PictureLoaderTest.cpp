@@ -1,5 +1,7 @@
 #include <shell/PictureLoader.h>
 
+#include <tests/BitmapFile.h>
+
 #include <testing/CallFault.h>
 #include <testing/GdiObjects.h>
 #include <testing/ImportHook.h>
@@ -29,22 +31,6 @@ std::string ImagePath(const char* name)
     return ProgramFolder() + "\\images\\" + name;
 }
 
-std::string TempFile(const char* name)
-{
-    char folder[MAX_PATH];
-    ::GetTempPathA(MAX_PATH, folder);
-    return std::string(folder) + name;
-}
-
-void WriteFile(const std::string& path, const std::vector<BYTE>& bytes)
-{
-    FILE* file = fopen(path.c_str(), "wb");
-    REQUIRE(file != nullptr);
-    if (!bytes.empty())
-        fwrite(bytes.data(), 1, bytes.size(), file);
-    fclose(file);
-}
-
 std::vector<BYTE> ReadFile(const std::string& path)
 {
     std::vector<BYTE> bytes;
@@ -58,32 +44,11 @@ std::vector<BYTE> ReadFile(const std::string& path)
     return bytes;
 }
 
-/// A 24-bit BMP of one colour; `present` of its rows are really written.
+/// A bitmap file of one colour.
 std::vector<BYTE> MakeBmp(int width, int height, COLORREF color, int present)
 {
-    const int stride = (width * 3 + 3) / 4 * 4;
-    BITMAPFILEHEADER file = {};
-    BITMAPINFOHEADER info = {};
-    file.bfType = 0x4D42;
-    file.bfOffBits = sizeof(file) + sizeof(info);
-    file.bfSize = file.bfOffBits + stride * height;
-    info.biSize = sizeof(info);
-    info.biWidth = width;
-    info.biHeight = height;
-    info.biPlanes = 1;
-    info.biBitCount = 24;
-    std::vector<BYTE> bytes(sizeof(file) + sizeof(info) + static_cast<size_t>(stride) * present);
-    memcpy(bytes.data(), &file, sizeof(file));
-    memcpy(bytes.data() + sizeof(file), &info, sizeof(info));
-    for (int row = 0; row < present; ++row) {
-        BYTE* pixel = bytes.data() + file.bfOffBits + static_cast<size_t>(row) * stride;
-        for (int x = 0; x < width; ++x) {
-            *pixel++ = GetBValue(color);
-            *pixel++ = GetGValue(color);
-            *pixel++ = GetRValue(color);
-        }
-    }
-    return bytes;
+    return MakeBitmapFile(
+        width, height, [=](int, int) { return color; }, present);
 }
 
 CSize SizeOf(HBITMAP bitmap)
@@ -190,23 +155,23 @@ TEST_CASE("broken files give no picture or a good one, and never more")
 {
     const std::vector<BYTE> whole = ReadFile(ImagePath("Next.gif"));
     REQUIRE(whole.size() > 50);
-    const std::string path = TempFile("umbra-broken.gif");
+    const std::string path = TemporaryFile("umbra-broken.gif");
     for (size_t length = 0; length < whole.size(); length += 7) {
-        WriteFile(path, std::vector<BYTE>(whole.begin(), whole.begin() + length));
+        REQUIRE(WriteBytes(path, std::vector<BYTE>(whole.begin(), whole.begin() + length)));
         Loads(path); // Checks what comes.
     }
     const char text[] = "This is no picture, whatever its name says.";
-    WriteFile(path, std::vector<BYTE>(text, text + sizeof(text)));
+    REQUIRE(WriteBytes(path, std::vector<BYTE>(text, text + sizeof(text))));
     CHECK_FALSE(Loads(path));
-    WriteFile(path, {});
+    REQUIRE(WriteBytes(path, {}));
     CHECK_FALSE(Loads(path));
     ::DeleteFileA(path.c_str());
 }
 
 TEST_CASE("a picture of one pixel loads")
 {
-    const std::string path = TempFile("umbra-one.bmp");
-    WriteFile(path, MakeBmp(1, 1, RGB(10, 20, 30), 1));
+    const std::string path = TemporaryFile("umbra-one.bmp");
+    REQUIRE(WriteBytes(path, MakeBmp(1, 1, RGB(10, 20, 30), 1)));
     const HBITMAP bitmap = LoadPictureBitmap(path.c_str());
     REQUIRE(bitmap != NULL);
     CHECK(SizeOf(bitmap) == CSize(1, 1));
@@ -217,8 +182,8 @@ TEST_CASE("a picture of one pixel loads")
 
 TEST_CASE("a picture of 10,000 by 10,000 pixels gives no picture or a good one")
 {
-    const std::string path = TempFile("umbra-huge.bmp");
-    WriteFile(path, MakeBmp(10000, 10000, RGB(10, 20, 30), 2));
+    const std::string path = TemporaryFile("umbra-huge.bmp");
+    REQUIRE(WriteBytes(path, MakeBmp(10000, 10000, RGB(10, 20, 30), 2)));
     const HBITMAP bitmap = LoadPictureBitmap(path.c_str());
     if (bitmap != NULL) {
         CHECK(SizeOf(bitmap) == CSize(10000, 10000));
@@ -242,16 +207,16 @@ TEST_CASE("an icon gives no picture")
     memcpy(icon.data(), directory, sizeof(directory));
     memcpy(icon.data() + sizeof(directory), &info, sizeof(info));
     memcpy(icon.data() + sizeof(directory) + sizeof(info), palette, sizeof(palette));
-    const std::string path = TempFile("umbra-icon.ico");
-    WriteFile(path, icon);
+    const std::string path = TemporaryFile("umbra-icon.ico");
+    REQUIRE(WriteBytes(path, icon));
     CHECK_FALSE(Loads(path));
     ::DeleteFileA(path.c_str());
 }
 
 TEST_CASE("the bitmap outlives the picture object and is no copy in name only")
 {
-    const std::string path = TempFile("umbra-copy.bmp");
-    WriteFile(path, MakeBmp(40, 30, RGB(200, 100, 50), 30));
+    const std::string path = TemporaryFile("umbra-copy.bmp");
+    REQUIRE(WriteBytes(path, MakeBmp(40, 30, RGB(200, 100, 50), 30)));
     std::vector<HBITMAP> bitmaps;
     for (int i = 0; i < 8; ++i) {
         bitmaps.push_back(LoadPictureBitmap(path.c_str()));

@@ -2,8 +2,9 @@
 #include <shell/PictureLoader.h>
 #include <shell/ShellOpen.h>
 
+#include <tests/TraceOf.h>
+
 #include <testing/CallFault.h>
-#include <testing/ImportHook.h>
 
 #include <doctest/doctest.h>
 
@@ -12,30 +13,6 @@
 using namespace umbra::testing;
 
 namespace {
-
-std::string traced;
-
-void WINAPI NoteTrace(LPCSTR text)
-{
-    traced += text;
-}
-
-template <class Steps>
-std::string TraceOf(Steps steps)
-{
-    const ImportHook debugger(FindModule("umbra-mfc.dll"), "kernel32", "OutputDebugStringA",
-                              NoteTrace);
-    REQUIRE(debugger.IsInstalled());
-    traced.clear();
-    steps();
-    return traced;
-}
-
-#ifdef _DEBUG
-const bool isTraced = true;
-#else
-const bool isTraced = false;
-#endif
 
 bool Tells(const std::string& trace, const std::string& text)
 {
