@@ -3,7 +3,7 @@
 
 TEST_CASE("part: pages with failing calls of umbra.dll" * doctest::skip())
 {
-    LiveWithFailures("umbra.dll", IsOfSystem, LivesOfGallery(), pageOptions);
+    LiveWithFailures("umbra.dll", IsOfSystem, LivesOfGallery(), PageOptions({1, 2}));
 }
 
 TEST_CASE("whichever call of umbra.dll fails while a gallery page is open: nothing crashes or "

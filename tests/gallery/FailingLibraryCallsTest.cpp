@@ -3,7 +3,7 @@
 
 TEST_CASE("part: pages with failing calls of umbra-mfc.dll" * doctest::skip())
 {
-    LiveWithFailures("umbra-mfc.dll", IsOfWindows, LivesOfGallery(), pageOptions);
+    LiveWithFailures("umbra-mfc.dll", IsOfWindows, LivesOfGallery(), PageOptions({1, 1}));
 }
 
 TEST_CASE("whichever call of umbra-mfc.dll fails while a gallery page is open: nothing crashes or "

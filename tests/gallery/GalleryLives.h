@@ -5,7 +5,10 @@
 
 const std::vector<Life>& LivesOfGallery();
 
-/// A page's life is long, and makes the same calls for each of its controls. What the gallery's own
-/// code cannot get it leaves to the class library to report, as any program does.
-const FaultOptions pageOptions = {
-    {1, 2}, "Something that the program needs could not be loaded or created."};
+/// What the gallery's own code cannot get it leaves to the class library to report, as any program
+/// does. A page's life is long and makes the same calls for each of its controls, so few of them
+/// do.
+constexpr FaultOptions PageOptions(const CallSample& calls)
+{
+    return {calls, "Something that the program needs could not be loaded or created."};
+}
