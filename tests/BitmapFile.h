@@ -1,4 +1,4 @@
-// Picture files that tests write into the folder of temporary files.
+// Picture files that tests write.
 #pragma once
 
 #include <windows.h>
@@ -6,13 +6,6 @@
 #include <fstream>
 #include <string>
 #include <vector>
-
-inline std::string TemporaryFile(const char* name)
-{
-    char folder[MAX_PATH] = "";
-    ::GetTempPathA(MAX_PATH, folder);
-    return std::string(folder) + name;
-}
 
 /// False when it could not be written.
 inline bool WriteBytes(const std::string& path, const std::vector<BYTE>& bytes)

@@ -1,6 +1,8 @@
 // A window over which labels are drawn, with what tests of labels need around it.
 #pragma once
 
+#include <tests/Folders.h>
+
 #include <testing/Picture.h>
 #include <testing/Pump.h>
 
@@ -57,14 +59,6 @@ inline SIZE_T WorkingSet()
     PROCESS_MEMORY_COUNTERS counters = {};
     ::GetProcessMemoryInfo(::GetCurrentProcess(), &counters, sizeof(counters));
     return counters.WorkingSetSize;
-}
-
-inline std::string ImagePath(const char* name)
-{
-    char path[MAX_PATH] = "";
-    ::GetModuleFileNameA(NULL, path, MAX_PATH);
-    *strrchr(path, '\\') = '\0';
-    return std::string(path) + "\\images\\" + name;
 }
 
 /// Sets the default value of a class in the registry; removes the class at its end.

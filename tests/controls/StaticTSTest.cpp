@@ -69,7 +69,7 @@ LOGFONT DescribeFont(CWnd& window)
 /// A bitmap file of `width` by `height` pixels; the left half black, the right half red.
 std::string WriteHalfBlackBmp(const char* name, int width, int height)
 {
-    const std::string path = TemporaryFile(name);
+    const std::string path = TemporaryPath(name);
     const auto colorAt = [=](int x, int) { return x < width / 2 ? black : red; };
     REQUIRE(WriteBytes(path, MakeBitmapFile(width, height, colorAt, height)));
     return path;

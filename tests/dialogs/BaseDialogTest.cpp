@@ -136,8 +136,7 @@ bool ShowsIcon(const CxShadeButton& button, const std::string& name)
     const HBITMAP shown = ButtonProbe::Picture(button);
     if (name.empty() || shown == NULL)
         return name.empty() && shown == NULL;
-    const CString path = ProgramFolder() + "\\images\\" + name.c_str() + ".gif";
-    const HBITMAP file = LoadPictureBitmap(path);
+    const HBITMAP file = LoadPictureBitmap(ImagePath((name + ".gif").c_str()).c_str());
     if (file == NULL)
         return false;
     const bool same = Picture::OfBitmap(shown) == Picture::OfBitmap(file);
@@ -175,7 +174,7 @@ void CheckButton(const CxShadeButton& button, const ExpectedButton& expected,
 /// The host's settings for the length of a test.
 struct HostSettings
 {
-    explicit HostSettings(const CString& folder = ProgramFolder())
+    explicit HostSettings(const CString& folder = ProgramFolder().c_str())
     {
         g_strImageDir = folder;
         g_crShade = tint;

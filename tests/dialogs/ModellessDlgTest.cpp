@@ -51,7 +51,7 @@ class Shown
 public:
     Shown()
     {
-        g_strImageDir = ProgramFolder();
+        g_strImageDir = ProgramFolder().c_str();
         g_crShade = RGB(180, 200, 230);
         Show();
     }
@@ -283,7 +283,7 @@ TEST_CASE("a pump takes WM_QUIT like any other message and does not end the prog
 
 TEST_CASE("a handler that runs inside a pump may end the window")
 {
-    g_strImageDir = ProgramFolder();
+    g_strImageDir = ProgramFolder().c_str();
     class Ender : public CWnd
     {
     public:
@@ -323,7 +323,7 @@ TEST_CASE("a host enables Cancel, and a real click reaches it while it pumps")
     protected:
         void OnCancel() override { m_cancelled = true; }
     };
-    g_strImageDir = ProgramFolder();
+    g_strImageDir = ProgramFolder().c_str();
     Cancellable dialog;
     REQUIRE(dialog.Create(CModellessDlg::IDD, NULL));
     dialog.ShowWindow(SW_SHOW);

@@ -1,7 +1,9 @@
-// Templates and folders for tests of dialog pages.
+// Templates for tests of dialog pages.
 #pragma once
 
 #include <resources/resource.h>
+
+#include <tests/Folders.h>
 
 #include <testing/DialogTemplate.h>
 
@@ -19,15 +21,6 @@ inline umbra::testing::DialogTemplate MakePageTemplate(bool ok = true, bool back
     if (cancel)
         page.Button(IDCANCEL, "template cancel", 340, 145, 60, 18);
     return page;
-}
-
-/// The folder of the test program, without a last backslash; the toolkit's images lie below it.
-inline CString ProgramFolder()
-{
-    char path[MAX_PATH] = "";
-    ::GetModuleFileName(NULL, path, MAX_PATH);
-    CString folder(path);
-    return folder.Left(folder.ReverseFind('\\'));
 }
 
 /// The process's working directory.

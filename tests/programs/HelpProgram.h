@@ -1,15 +1,20 @@
 // A help program in the Windows directory, for as long as it lives.
 #pragma once
 
+#include <tests/Folders.h>
+
 #include <windows.h>
 
-#include <string.h>
 #include <string>
 
 class HelpProgram
 {
 public:
-    HelpProgram() : m_installed(::CopyFileA(Source().c_str(), Path().c_str(), FALSE) != FALSE) {}
+    HelpProgram()
+        : m_installed(::CopyFileA(ProgramPath("test-helpprogram.exe").c_str(), Path().c_str(),
+                                  FALSE) != FALSE)
+    {
+    }
     ~HelpProgram() { ::DeleteFileA(Path().c_str()); }
     HelpProgram(const HelpProgram&) = delete;
     HelpProgram& operator=(const HelpProgram&) = delete;
@@ -24,13 +29,5 @@ public:
     }
 
 private:
-    static std::string Source()
-    {
-        char path[MAX_PATH] = "";
-        ::GetModuleFileNameA(nullptr, path, MAX_PATH);
-        *strrchr(path, '\\') = '\0';
-        return std::string(path) + "\\test-helpprogram.exe";
-    }
-
     bool m_installed;
 };

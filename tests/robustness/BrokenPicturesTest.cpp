@@ -3,6 +3,8 @@
 #include "PictureFiles.h"
 #include "Stage.h"
 
+#include <tests/Folders.h>
+
 #include <controls/HyperLink.h>
 #include <controls/ShadeButton.h>
 #include <controls/StaticTS.h>
@@ -128,11 +130,9 @@ const LONG loaderCount = sizeof(loaders) / sizeof(loaders[0]);
 
 CString TemporaryPicture()
 {
-    char folder[MAX_PATH] = "";
-    ::GetTempPathA(MAX_PATH, folder);
-    CString path;
-    path.Format("%sumbra-picture-%lu.bin", folder, ::GetCurrentProcessId());
-    return path;
+    CString name;
+    name.Format("umbra-picture-%lu.bin", ::GetCurrentProcessId());
+    return TemporaryPath(name).c_str();
 }
 
 CString WritePicture(const PictureFile& file)

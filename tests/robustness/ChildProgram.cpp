@@ -1,5 +1,7 @@
 #include "ChildProgram.h"
 
+#include <tests/Folders.h>
+
 #include <fstream>
 #include <sstream>
 #include <stdlib.h>
@@ -20,9 +22,8 @@ std::string OwnPath()
 
 std::string TemporaryFile()
 {
-    char folder[MAX_PATH] = "";
-    ::GetTempPathA(MAX_PATH, folder);
-    return std::string(folder) + "umbra-child-" + std::to_string(::GetCurrentProcessId()) + ".txt";
+    const std::string process = std::to_string(::GetCurrentProcessId());
+    return TemporaryPath(("umbra-child-" + process + ".txt").c_str());
 }
 
 std::string ReadAll(const std::string& path)

@@ -56,7 +56,7 @@ private:
 
 CString Image(const char* name)
 {
-    return ProgramFolder() + "\\images\\" + name;
+    return ImagePath(name).c_str();
 }
 
 /// Every kind of control in one window.

@@ -23,7 +23,7 @@ namespace {
 
 CString ImageFile(const char* name)
 {
-    return ProgramFolder() + "\\images\\" + name;
+    return ImagePath(name).c_str();
 }
 
 void Paint(HWND window)
@@ -359,7 +359,7 @@ void UseModalDialog()
 
 void UseModalPage()
 {
-    g_strImageDir = ProgramFolder();
+    g_strImageDir = ProgramFolder().c_str();
     const DialogTemplate source = MakePageTemplate();
     LifePage page;
     page.InitModalIndirect(source.Get());
@@ -368,7 +368,7 @@ void UseModalPage()
 
 void UsePage()
 {
-    g_strImageDir = ProgramFolder();
+    g_strImageDir = ProgramFolder().c_str();
     const DialogTemplate source = MakePageTemplate();
     LifePage page;
     if (!page.CreateIndirect(source.Get()))
@@ -384,7 +384,7 @@ void UsePage()
 
 void UseModelessDialog()
 {
-    g_strImageDir = ProgramFolder();
+    g_strImageDir = ProgramFolder().c_str();
     const std::unique_ptr<CModellessDlg> dialog(new CModellessDlg(NULL));
     if (dialog->Create(CModellessDlg::IDD, NULL)) {
         const HWND window = dialog->m_hWnd;

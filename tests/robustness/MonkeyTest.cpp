@@ -7,6 +7,8 @@
 // and UMBRA_MONKEY_TRACE=1 prints each of its messages.
 #include "Monkey.h"
 
+#include <tests/Folders.h>
+
 #include <testing/GdiObjects.h>
 #include <testing/Input.h>
 
@@ -95,14 +97,6 @@ void WarmUpSystem()
     framed.DestroyWindow();
 }
 
-CString FolderOfProgram()
-{
-    char path[MAX_PATH] = "";
-    ::GetModuleFileName(NULL, path, MAX_PATH);
-    *strrchr(path, '\\') = '\0';
-    return path;
-}
-
 } // namespace
 
 TEST_CASE("no storm of messages brings a page down, leaves a window or loses a graphics object")
@@ -111,7 +105,7 @@ TEST_CASE("no storm of messages brings a page down, leaves a window or loses a g
     const unsigned rounds = ReadNumber("UMBRA_MONKEY_ROUNDS", usualRounds);
     MESSAGE("seeds " << seed << " to " << seed + rounds - 1 << ", " << messagesInRound
                      << " messages each");
-    g_strImageDir = FolderOfProgram();
+    g_strImageDir = ProgramFolder().c_str();
 
     Dice shellDice(seed);
     FakeShell shell(shellDice);

@@ -118,7 +118,7 @@ const Budget oneBitmapACallAndTheMask = {0, 1, 0, 1};
 
 CString ImageFile(const char* name = "Info.gif")
 {
-    return ProgramFolder() + "\\images\\" + name;
+    return ImagePath(name).c_str();
 }
 
 HICON MakeIcon()
@@ -143,7 +143,7 @@ public:
     Page(bool confirm, bool ok, bool cancel, bool next, bool back, bool cancelIcon)
         : CBaseDialog(0U, NULL, confirm, ok, cancel, next, back, false, false, cancelIcon)
     {
-        g_strImageDir = ProgramFolder();
+        g_strImageDir = ProgramFolder().c_str();
         CreateIndirect(MakePageTemplate().Get());
         Stage::Paint(m_hWnd);
     }
@@ -152,7 +152,7 @@ public:
 
 void ShowModeless()
 {
-    g_strImageDir = ProgramFolder();
+    g_strImageDir = ProgramFolder().c_str();
     CModellessDlg dialog(NULL);
     dialog.Create(CModellessDlg::IDD, NULL);
     dialog.ShowWindow(SW_SHOW);

@@ -1,6 +1,6 @@
 #include "PictureFiles.h"
 
-#include <tests/dialogs/PageTemplate.h>
+#include <tests/Folders.h>
 
 #include <fstream>
 #include <sstream>
@@ -10,8 +10,7 @@ namespace {
 
 std::string ReadImage(const char* name)
 {
-    const CString path = ProgramFolder() + "\\images\\" + name;
-    std::ifstream file(static_cast<const char*>(path), std::ios::binary);
+    std::ifstream file(ImagePath(name), std::ios::binary);
     std::ostringstream bytes;
     bytes << file.rdbuf();
     return bytes.str();

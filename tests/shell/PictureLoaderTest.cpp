@@ -1,6 +1,7 @@
 #include <shell/PictureLoader.h>
 
 #include <tests/BitmapFile.h>
+#include <tests/Folders.h>
 
 #include <testing/CallFault.h>
 #include <testing/GdiObjects.h>
@@ -17,19 +18,6 @@
 using namespace umbra::testing;
 
 namespace {
-
-std::string ProgramFolder()
-{
-    char path[MAX_PATH] = "";
-    ::GetModuleFileNameA(nullptr, path, MAX_PATH);
-    *strrchr(path, '\\') = '\0';
-    return path;
-}
-
-std::string ImagePath(const char* name)
-{
-    return ProgramFolder() + "\\images\\" + name;
-}
 
 std::vector<BYTE> ReadFile(const std::string& path)
 {
@@ -155,7 +143,7 @@ TEST_CASE("broken files give no picture or a good one, and never more")
 {
     const std::vector<BYTE> whole = ReadFile(ImagePath("Next.gif"));
     REQUIRE(whole.size() > 50);
-    const std::string path = TemporaryFile("umbra-broken.gif");
+    const std::string path = TemporaryPath("umbra-broken.gif");
     for (size_t length = 0; length < whole.size(); length += 7) {
         REQUIRE(WriteBytes(path, std::vector<BYTE>(whole.begin(), whole.begin() + length)));
         Loads(path); // Checks what comes.
@@ -170,7 +158,7 @@ TEST_CASE("broken files give no picture or a good one, and never more")
 
 TEST_CASE("a picture of one pixel loads")
 {
-    const std::string path = TemporaryFile("umbra-one.bmp");
+    const std::string path = TemporaryPath("umbra-one.bmp");
     REQUIRE(WriteBytes(path, MakeBmp(1, 1, RGB(10, 20, 30), 1)));
     const HBITMAP bitmap = LoadPictureBitmap(path.c_str());
     REQUIRE(bitmap != NULL);
@@ -182,7 +170,7 @@ TEST_CASE("a picture of one pixel loads")
 
 TEST_CASE("a picture of 10,000 by 10,000 pixels gives no picture or a good one")
 {
-    const std::string path = TemporaryFile("umbra-huge.bmp");
+    const std::string path = TemporaryPath("umbra-huge.bmp");
     REQUIRE(WriteBytes(path, MakeBmp(10000, 10000, RGB(10, 20, 30), 2)));
     const HBITMAP bitmap = LoadPictureBitmap(path.c_str());
     if (bitmap != NULL) {
@@ -207,7 +195,7 @@ TEST_CASE("an icon gives no picture")
     memcpy(icon.data(), directory, sizeof(directory));
     memcpy(icon.data() + sizeof(directory), &info, sizeof(info));
     memcpy(icon.data() + sizeof(directory) + sizeof(info), palette, sizeof(palette));
-    const std::string path = TemporaryFile("umbra-icon.ico");
+    const std::string path = TemporaryPath("umbra-icon.ico");
     REQUIRE(WriteBytes(path, icon));
     CHECK_FALSE(Loads(path));
     ::DeleteFileA(path.c_str());
@@ -215,7 +203,7 @@ TEST_CASE("an icon gives no picture")
 
 TEST_CASE("the bitmap outlives the picture object and is no copy in name only")
 {
-    const std::string path = TemporaryFile("umbra-copy.bmp");
+    const std::string path = TemporaryPath("umbra-copy.bmp");
     REQUIRE(WriteBytes(path, MakeBmp(40, 30, RGB(200, 100, 50), 30)));
     std::vector<HBITMAP> bitmaps;
     for (int i = 0; i < 8; ++i) {
