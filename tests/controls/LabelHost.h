@@ -10,7 +10,6 @@
 
 #include <psapi.h>
 
-#include <string.h>
 #include <string>
 
 /// A visible window filled with one colour.

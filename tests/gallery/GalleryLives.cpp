@@ -93,29 +93,24 @@ template <class Page, class... Arguments>
 void Run(std::function<void(Page&)> more, Arguments&&... arguments)
 {
     g_strImageDir = GalleryFolder();
-    Page* shown = nullptr;
     SelfEnding<Page> page(
         [&](HWND window) {
             Use(window);
-            more(*shown);
+            more(page);
             Stage::Paint(window);
             Press(window, IDCANCEL);
         },
         std::forward<Arguments>(arguments)...);
-    shown = &page;
     page.DoModal();
 }
 
-template <class Page>
-void UseNothingMore(Page&)
-{
-}
+const auto nothingMore = [](auto&) {};
 
 void RunStart()
 {
     Run<CStartPage>(
         [](CStartPage& start) {
-            Run<CGridPage>(UseNothingMore<CGridPage>, &start); // A room over it.
+            Run<CGridPage>(nothingMore, &start); // A room over it.
         },
         nullptr);
 }
@@ -144,7 +139,7 @@ void RunGrid()
 
 void RunButtons()
 {
-    Run<CButtonsPage>(UseNothingMore<CButtonsPage>, nullptr);
+    Run<CButtonsPage>(nothingMore, nullptr);
 }
 
 void RunShadeLab()
@@ -159,7 +154,7 @@ void RunShadeLab()
 
 void RunLabels()
 {
-    Run<CLabelsPage>(UseNothingMore<CLabelsPage>, nullptr);
+    Run<CLabelsPage>(nothingMore, nullptr);
 }
 
 WizardTask MakeTask()
@@ -188,15 +183,15 @@ void RunWizardPictures()
 void RunWizardConfirm()
 {
     WizardTask task = MakeTask();
-    Run<CWizardConfirmPage>(UseNothingMore<CWizardConfirmPage>, task, nullptr);
+    Run<CWizardConfirmPage>(nothingMore, task, nullptr);
 }
 
 void RunWizardResult()
 {
     WizardTask task = MakeTask(); // Not carried out.
-    Run<CWizardResultPage>(UseNothingMore<CWizardResultPage>, task, nullptr);
+    Run<CWizardResultPage>(nothingMore, task, nullptr);
     task.indexFile = task.folder + "pictures.html";
-    Run<CWizardResultPage>(UseNothingMore<CWizardResultPage>, task, nullptr);
+    Run<CWizardResultPage>(nothingMore, task, nullptr);
 }
 
 void RunWorking()

@@ -5,9 +5,8 @@
 
 const std::vector<Life>& LivesOfGallery();
 
-/// What the gallery's own code cannot get it leaves to the class library to report, as any program
-/// does. A page's life is long and makes the same calls for each of its controls, so few of them
-/// do.
+/// What is asked of a run of these: which calls fail, and that the class library may report what
+/// the gallery's own code could not get, as it does for any program.
 constexpr FaultOptions PageOptions(const CallSample& calls)
 {
     return {calls, "Something that the program needs could not be loaded or created."};

@@ -86,6 +86,14 @@ private:
     Control* m_object;
 };
 
+void AddTippedCheckBox(EndingHost& host, Room<HastyButton>& button)
+{
+    host.m_button = button.Get();
+    REQUIRE(button.Get()->SubclassWindow(host.Add("Button", BS_AUTOCHECKBOX)));
+    button.Get()->SetToolTipText("a tip");
+    button.Get()->HurryToolTip();
+}
+
 } // namespace
 
 TEST_CASE("a link label may be ended while the shell opens its target")
@@ -142,10 +150,7 @@ TEST_CASE("a shaded button may be ended when its tool tip comes or goes")
         CAPTURE(static_cast<int>(code));
         EndingHost host;
         Room<HastyButton> button;
-        host.m_button = button.Get();
-        REQUIRE(button.Get()->SubclassWindow(host.Add("Button", BS_AUTOCHECKBOX)));
-        button.Get()->SetToolTipText("a tip");
-        button.Get()->HurryToolTip();
+        AddTippedCheckBox(host, button);
         const HWND window = button.Get()->m_hWnd;
         host.m_endOn = WM_NOTIFY;
         host.m_endCode = code;
@@ -164,10 +169,7 @@ TEST_CASE("a shaded check box may be ended while the space bar toggles it")
 {
     EndingHost host;
     Room<HastyButton> button;
-    host.m_button = button.Get();
-    REQUIRE(button.Get()->SubclassWindow(host.Add("Button", BS_AUTOCHECKBOX)));
-    button.Get()->SetToolTipText("a tip");
-    button.Get()->HurryToolTip();
+    AddTippedCheckBox(host, button);
     const HWND window = button.Get()->m_hWnd;
     REQUIRE(MovePointer(window, {20, 20}));
     REQUIRE(WaitUntil([&] { return button.Get()->IsToolTipShown(); }));

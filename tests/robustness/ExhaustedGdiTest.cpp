@@ -1,8 +1,6 @@
 #include "Lives.h"
 #include "Stage.h"
 
-#include <tests/dialogs/PageTemplate.h>
-
 #include <controls/HyperLink.h>
 #include <controls/NoteStatic.h>
 #include <controls/ShadeButton.h>
@@ -54,11 +52,6 @@ private:
     std::vector<HGDIOBJ> m_objects;
 };
 
-CString Image(const char* name)
-{
-    return ImagePath(name).c_str();
-}
-
 /// Every kind of control in one window.
 struct Everything
 {
@@ -71,16 +64,16 @@ struct Everything
         plain.SubclassWindow(label(0));
         keyed.SubclassWindow(label(1));
         keyed.SetTransparentColor(RGB(0, 0, 0));
-        keyed.LoadPicture(Image("Info.gif"));
+        keyed.LoadPicture(ImageFile("Info.gif"));
         note.SubclassWindow(label(2));
         note.CopyWindowFont();
         link.SubclassWindow(label(3));
         link.SetTransparentColor(RGB(0, 0, 0));
-        link.SetBitmapFile(Image("InfoIcon1.gif"));
+        link.SetBitmapFile(ImageFile("InfoIcon1.gif"));
         link.SetURL("target");
         button.SubclassWindow(stage.Add("Button", "Go on", WS_TABSTOP, place(4)));
         button.SetShade(SHADE_DIAGONAL, 0, 0, 50, RGB(180, 200, 230));
-        button.SetPicture(Image("Ok.gif"), CxShadeButton::alignLeft, 19, 19, RGB(0, 0, 0));
+        button.SetPicture(ImageFile("Ok.gif"), CxShadeButton::alignLeft, 19, 19, RGB(0, 0, 0));
     }
 
     Picture Show()
@@ -115,10 +108,10 @@ TEST_CASE("a full table of graphics objects spoils nothing for later")
             all.stage.Show();
             Stage::HoverAndPress(all.button.m_hWnd);
             Stage::HoverAndPress(all.link.m_hWnd);
-            const HBITMAP loaded = LoadPictureBitmap(Image("Info.gif"));
+            const HBITMAP loaded = LoadPictureBitmap(ImageFile("Info.gif"));
             if (loaded != NULL)
                 ::DeleteObject(loaded);
-            all.keyed.LoadPicture(Image("no such.gif"));
+            all.keyed.LoadPicture(ImageFile("no such.gif"));
         }
     }
     Stage::MovePointer(all.stage.m_hWnd, {-20, -20});
@@ -126,7 +119,7 @@ TEST_CASE("a full table of graphics objects spoils nothing for later")
     ::SetFocus(NULL);
     PumpMessages();
     CHECK(all.Show().Compare(before) == "the same");
-    const HBITMAP loaded = LoadPictureBitmap(Image("Info.gif"));
+    const HBITMAP loaded = LoadPictureBitmap(ImageFile("Info.gif"));
     CHECK(loaded != NULL);
     ::DeleteObject(loaded);
     all.stage.Close();

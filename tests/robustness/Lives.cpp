@@ -21,11 +21,6 @@ using umbra::testing::DialogTemplate;
 
 namespace {
 
-CString ImageFile(const char* name)
-{
-    return ImagePath(name).c_str();
-}
-
 void Paint(HWND window)
 {
     Stage::Paint(window);

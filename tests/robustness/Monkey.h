@@ -255,14 +255,18 @@ private:
         case WM_TIMER:
             return static_cast<WPARAM>(m_dice.Between(0x5000, 0x6000)); // Nobody's.
         default:
-            return m_dice.Percent(70) ? static_cast<WPARAM>(m_dice.Below(3))
-                                      : static_cast<WPARAM>(m_dice.Below(0x7FFFFFFF));
+            return PickNumber();
         }
+    }
+
+    WPARAM PickNumber()
+    {
+        return static_cast<WPARAM>(m_dice.Percent(70) ? m_dice.Below(3) : m_dice.Below(0x7FFFFFFF));
     }
 
     WPARAM PickButtonStyle()
     {
-        const DWORD style = m_dice.Percent(70) ? m_dice.Below(3) : m_dice.Below(0x7FFFFFFF);
+        const WPARAM style = PickNumber();
         return (style & BS_TYPEMASK) == BS_AUTORADIOBUTTON ? style & ~BS_TYPEMASK : style;
     }
 

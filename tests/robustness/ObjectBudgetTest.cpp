@@ -116,11 +116,6 @@ const Budget oneFontACall = {0, 0, 1, 0};
 const Budget oneBitmapACall = {0, 0, 0, 1};
 const Budget oneBitmapACallAndTheMask = {0, 1, 0, 1};
 
-CString ImageFile(const char* name = "Info.gif")
-{
-    return ImagePath(name).c_str();
-}
-
 HICON MakeIcon()
 {
     return ::CopyIcon(::LoadIcon(NULL, IDI_ASTERISK));
@@ -193,10 +188,10 @@ TEST_CASE("what each operation of CStaticTS leaves for good")
                        Stage::Paint(l.m_hWnd);
                    }));
     CheckOperation("LoadPicture, opaque", oneBitmapACall,
-                   OnLabel<Label>([](Label& l) { l.LoadPicture(ImageFile()); }));
+                   OnLabel<Label>([](Label& l) { l.LoadPicture(ImageFile("Info.gif")); }));
     CheckOperation("LoadPicture, keyed", oneBitmapACallAndTheMask, OnLabel<Label>([](Label& l) {
                        l.SetTransparentColor(RGB(0, 0, 0));
-                       l.LoadPicture(ImageFile());
+                       l.LoadPicture(ImageFile("Info.gif"));
                        Stage::Paint(l.m_hWnd);
                    }));
     CheckOperation("LoadPicture, no such file", nothing,
@@ -277,10 +272,10 @@ TEST_CASE("what each operation of CHyperLink leaves for good")
                        Stage::Paint(l.m_hWnd);
                    }));
     CheckOperation("SetBitmapFile without a key colour", oneBitmapACall,
-                   OnLabel<Link>([](Link& l) { l.SetBitmapFile(ImageFile()); }));
+                   OnLabel<Link>([](Link& l) { l.SetBitmapFile(ImageFile("Info.gif")); }));
     CheckOperation("SetBitmapFile", oneBitmapACallAndTheMask, OnLabel<Link>([](Link& l) {
                        l.SetTransparentColor(RGB(0, 0, 0));
-                       l.SetBitmapFile(ImageFile());
+                       l.SetBitmapFile(ImageFile("Info.gif"));
                        Stage::Paint(l.m_hWnd);
                    }));
     CheckOperation("SetBitmapFile, no such file", nothing,
@@ -300,7 +295,7 @@ TEST_CASE("what each operation of CxShadeButton leaves for good")
                    }));
     // The last picture goes with the button; those that it replaced stay.
     CheckOperation("SetPicture", {0, -1, 0, 1}, OnButton([](Button& b) {
-                       b.SetPicture(ImageFile(), Button::alignLeft, 19, 19, RGB(0, 0, 0));
+                       b.SetPicture(ImageFile("Info.gif"), Button::alignLeft, 19, 19, RGB(0, 0, 0));
                        Stage::Paint(b.m_hWnd);
                    }));
     CheckOperation("SetPicture, no such file", nothing, OnButton([](Button& b) {
@@ -312,12 +307,12 @@ TEST_CASE("what each operation of CxShadeButton leaves for good")
                    }));
     CheckOperation("SetIcons, one icon, then SetPicture", {0, -1, 0, 1}, OnButton([](Button& b) {
                        b.SetIcons(MakeIcon(), Button::alignLeft, 32, 32);
-                       b.SetPicture(ImageFile(), Button::alignLeft, 19, 19, RGB(0, 0, 0));
+                       b.SetPicture(ImageFile("Info.gif"), Button::alignLeft, 19, 19, RGB(0, 0, 0));
                    }));
     CheckOperation("SetIcons, three icons, then SetPicture", {0, -1, 0, 1 + BitmapsOfIcon()},
                    OnButton([](Button& b) {
                        b.SetIcons(MakeIcon(), Button::alignLeft, 32, 32, MakeIcon(), MakeIcon());
-                       b.SetPicture(ImageFile(), Button::alignLeft, 19, 19, RGB(0, 0, 0));
+                       b.SetPicture(ImageFile("Info.gif"), Button::alignLeft, 19, 19, RGB(0, 0, 0));
                    }));
     CheckOperation("everything else", nothing, OnButton([](Button& b) {
                        LOGFONT font = {};
@@ -341,7 +336,7 @@ TEST_CASE("what the dialogs leave for good")
     CheckCycles(3, 1, nothing, [](int) {
         ShowDialog([](CDialogTS& dialog) {
             dialog.m_bShaped = TRUE;
-            dialog.m_bmpBack.Attach(LoadPictureBitmap(ImageFile()));
+            dialog.m_bmpBack.Attach(LoadPictureBitmap(ImageFile("Info.gif")));
             dialog.m_bmpMask.CreateBitmap(10, 10, 1, 1, NULL);
         });
     });
@@ -350,7 +345,7 @@ TEST_CASE("what the dialogs leave for good")
         ShowDialog([](CDialogTS& dialog) {
             dialog.m_bHasBitmap = TRUE;
             dialog.m_bCaptionText = TRUE;
-            dialog.m_bmpBack.Attach(LoadPictureBitmap(ImageFile()));
+            dialog.m_bmpBack.Attach(LoadPictureBitmap(ImageFile("Info.gif")));
         });
     });
     CheckCycles(3, 1, nothing, [](int) { Page(false, false, true, true, true, true); });
@@ -370,7 +365,7 @@ TEST_CASE("what the dialogs leave for good")
 
 TEST_CASE("what the services leave for good")
 {
-    CheckCycles(50, 1, oneBitmapACall, [](int) { LoadPictureBitmap(ImageFile()); });
+    CheckCycles(50, 1, oneBitmapACall, [](int) { LoadPictureBitmap(ImageFile("Info.gif")); });
     CheckCycles(50, 1, nothing, [](int) { LoadPictureBitmap("no such.gif"); });
     CheckCycles(50, 1, nothing, [](int) { LoadHandCursor(); });
     CheckCycles(50, 1, nothing, [](int) {
@@ -404,7 +399,7 @@ TEST_CASE("thousands of hyperlinks are made, painted, hovered over, pressed and 
 TEST_CASE("thousands of buttons are made, painted, hovered over, pressed and destroyed")
 {
     const Cycle live = OnButton([](CxShadeButton& b) {
-        b.SetPicture(ImageFile(), CxShadeButton::alignLeft, 19, 19, RGB(0, 0, 0));
+        b.SetPicture(ImageFile("Info.gif"), CxShadeButton::alignLeft, 19, 19, RGB(0, 0, 0));
         Stage::HoverAndPress(b.m_hWnd);
     });
     CheckCycles(CountCycles(), 1, nothing, live);

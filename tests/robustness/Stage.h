@@ -2,7 +2,15 @@
 // of the toolkit or of the class library reaches it.
 #pragma once
 
+#include <tests/Folders.h>
+
 #include <afxwin.h>
+
+/// One of the toolkit's images.
+inline CString ImageFile(const char* name)
+{
+    return ImagePath(name).c_str();
+}
 
 /// A visible top-level window of the system, which the class library takes over as it can.
 class Stage : public CWnd
