@@ -4,18 +4,18 @@
 #include <afxcmn.h>
 #include <afxwin.h>
 
-#include <shell/HandCursor.h>
-#include <shell/PictureLoader.h>
-#include <shell/ShellOpen.h>
+#include "shell/HandCursor.h"
+#include "shell/PictureLoader.h"
+#include "shell/ShellOpen.h"
 
-#include <controls/HyperLink.h>
-#include <controls/KeyedPicture.h>
-#include <controls/NoteStatic.h>
-#include <controls/PaletteDib.h>
-#include <controls/ShadeButton.h>
-#include <controls/StaticTS.h>
+#include "controls/HyperLink.h"
+#include "controls/KeyedPicture.h"
+#include "controls/NoteStatic.h"
+#include "faces/PaletteDib.h"
+#include "controls/ShadeButton.h"
+#include "controls/StaticTS.h"
 
-#include <dialogs/BaseDialog.h>
-#include <dialogs/DialogTS.h>
-#include <dialogs/DialogUnits.h>
-#include <dialogs/ModellessDlg.h>
+#include "dialogs/BaseDialog.h"
+#include "dialogs/DialogTS.h"
+#include "units/DialogUnits.h"
+#include "dialogs/ModellessDlg.h"

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "controls/ShadeGenerator.h"
+#include "faces/ShadeGenerator.h"
 
 // The six bitmaps of a button made plainly: fresh memory for each on every call, and the pixels of
 // FillPlainPixels.

@@ -3,7 +3,7 @@
 #include "bench/Tables.h"
 
 #include "controls/ShadeButton.h"
-#include "controls/ShadeGenerator.h"
+#include "faces/ShadeGenerator.h"
 
 #include <cstdio>
 

@@ -12,13 +12,10 @@ endif()
 install(TARGETS ${UMBRA_EXPORTED} EXPORT umbraTargets
   RUNTIME DESTINATION bin
   ARCHIVE DESTINATION lib
-  LIBRARY DESTINATION lib)
+  LIBRARY DESTINATION lib
+  FILE_SET HEADERS DESTINATION include/umbra
+  FILE_SET forwarding DESTINATION include/umbra)
 
-install(FILES umbra.h DESTINATION include/umbra)
-foreach(folder shell controls dialogs)
-  install(DIRECTORY ${folder} DESTINATION include/umbra FILES_MATCHING PATTERN "*.h")
-endforeach()
-install(FILES resources/resource.h DESTINATION include/umbra/resources)
 install(DIRECTORY resources/images DESTINATION share/umbra)
 if(NOT UMBRA_NATIVE_MFC)
   install(DIRECTORY mfc/include/ DESTINATION include/umbra/mfc)

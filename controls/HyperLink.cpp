@@ -1,12 +1,15 @@
-#include "HyperLink.h"
+#include "controls/HyperLink.h"
 
-#include "KeyedPicture.h"
-#include "LinkActions.h"
-#include "ScopedSelect.h"
-#include "ToolTipRelay.h"
+#include "controls/Abandon.h"
+#include "controls/KeyedPicture.h"
+#include "controls/LinkActions.h"
+#include "controls/ScopedSelect.h"
+#include "controls/ToolTipRelay.h"
 
-#include <shell/PictureLoader.h>
-#include <shell/ShellOpen.h>
+#include "shell/PictureLoader.h"
+#include "shell/ShellOpen.h"
+
+using umbra::Abandon;
 
 BEGIN_MESSAGE_MAP(CHyperLink, CStatic)
     ON_WM_LBUTTONDOWN()

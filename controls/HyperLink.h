@@ -6,10 +6,12 @@
 // parent under the label, erasing.
 #pragma once
 
+#include "umbra_api.h"
+
 #include <afxcmn.h>
 #include <afxwin.h>
 
-class AFX_EXT_CLASS CHyperLink : public CStatic
+class UMBRA_API CHyperLink : public CStatic
 {
 public:
     CHyperLink();

@@ -1,6 +1,6 @@
-#include "KeyedPicture.h"
+#include "controls/KeyedPicture.h"
 
-#include "ScopedSelect.h"
+#include "controls/ScopedSelect.h"
 
 #include <memory>
 #include <new>
@@ -80,9 +80,4 @@ void DrawKeyedPicture(CDC& target, const CRect& place, CBitmap& mask, CBitmap& p
         return;
     const ScopedSelect selected(memory, picture.GetSafeHandle());
     target.BitBlt(place.left, place.top, place.Width(), place.Height(), &memory, 0, 0, SRCPAINT);
-}
-
-void Abandon(CBitmap& bitmap)
-{
-    bitmap.Detach();
 }

@@ -1,6 +1,6 @@
-#include "LinkActions.h"
+#include "controls/LinkActions.h"
 
-#include <shell/HandCursor.h>
+#include "shell/HandCursor.h"
 
 void ShowHandCursor()
 {

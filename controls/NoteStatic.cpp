@@ -1,4 +1,4 @@
-#include "NoteStatic.h"
+#include "controls/NoteStatic.h"
 
 BEGIN_MESSAGE_MAP(CNoteStatic, CStaticTS)
 END_MESSAGE_MAP()

@@ -1,9 +1,11 @@
 // CNoteStatic: a label for short notes and remarks, which can have a font object of its own.
 #pragma once
 
-#include "StaticTS.h"
+#include "umbra_api.h"
 
-class AFX_EXT_CLASS CNoteStatic : public CStaticTS
+#include "controls/StaticTS.h"
+
+class UMBRA_API CNoteStatic : public CStaticTS
 {
 public:
     CNoteStatic();

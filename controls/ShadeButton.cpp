@@ -1,14 +1,16 @@
-#include "ShadeButton.h"
+#include "controls/ShadeButton.h"
 
-#include "KeyedPicture.h"
-#include "ScopedSelect.h"
-#include "ShadeGenerator.h"
-#include "ToolTipRelay.h"
+#include "controls/Abandon.h"
+#include "controls/KeyedPicture.h"
+#include "controls/ScopedSelect.h"
+#include "faces/ShadeGenerator.h"
+#include "controls/ToolTipRelay.h"
 
-#include <shell/PictureLoader.h>
+#include "shell/PictureLoader.h"
 
 #include <stdlib.h>
 
+using umbra::Abandon;
 
 BEGIN_MESSAGE_MAP(CxShadeButton, CButton)
     ON_WM_ERASEBKGND()

@@ -10,8 +10,10 @@
 // them: DDX_Check and GetCheckedRadioButton work, DDX_Radio does not.
 #pragma once
 
-#include "PaletteDib.h"
-#include "ShadeStyle.h"
+#include "umbra_api.h"
+
+#include "faces/PaletteDib.h"
+#include "faces/ShadeStyle.h"
 
 #include <afxcmn.h>
 #include <afxwin.h>
@@ -19,7 +21,7 @@
 /// Sent among the radio buttons of a group: be unchecked.
 const UINT WM_SHADE_UNCHECK = WM_USER + 0x100;
 
-class AFX_EXT_CLASS CxShadeButton : public CButton
+class UMBRA_API CxShadeButton : public CButton
 {
 public:
     CxShadeButton();

@@ -1,12 +1,15 @@
-#include "StaticTS.h"
+#include "controls/StaticTS.h"
 
-#include "KeyedPicture.h"
-#include "LinkActions.h"
-#include "ScopedSelect.h"
+#include "controls/Abandon.h"
+#include "controls/KeyedPicture.h"
+#include "controls/LinkActions.h"
+#include "controls/ScopedSelect.h"
 
-#include <dialogs/DialogUnits.h>
-#include <shell/PictureLoader.h>
-#include <shell/ShellOpen.h>
+#include "units/DialogUnits.h"
+#include "shell/PictureLoader.h"
+#include "shell/ShellOpen.h"
+
+using umbra::Abandon;
 
 BEGIN_MESSAGE_MAP(CStaticTS, CStatic)
     ON_WM_CTLCOLOR_REFLECT()

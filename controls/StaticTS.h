@@ -7,9 +7,11 @@
 // parent under the label, erasing.
 #pragma once
 
+#include "umbra_api.h"
+
 #include <afxwin.h>
 
-class AFX_EXT_CLASS CStaticTS : public CStatic
+class UMBRA_API CStaticTS : public CStatic
 {
 public:
     CStaticTS();

@@ -1,4 +1,4 @@
-#include "ToolTipRelay.h"
+#include "controls/ToolTipRelay.h"
 
 BOOL RelayToToolTip(CToolTipCtrl& toolTip, const CWnd& tool, UINT message, WPARAM wParam,
                     LPARAM lParam)

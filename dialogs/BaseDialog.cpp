@@ -1,10 +1,10 @@
-#include "BaseDialog.h"
+#include "dialogs/BaseDialog.h"
 
-#include "WorkingFolder.h"
+#include "shell/WorkingFolder.h"
 
-#include <controls/ScopedSelect.h>
-#include <controls/ShadeGenerator.h>
-#include <resources/resource.h>
+#include "controls/ScopedSelect.h"
+#include "faces/ShadeGenerator.h"
+#include "resources/resource.h"
 
 CString g_strImageDir;
 COLORREF g_crShade = RGB(192, 192, 192);

@@ -7,19 +7,21 @@
 // IDC_BACK (3046); a missing one fails the exchange, as with any control.
 #pragma once
 
-#include "DialogTS.h"
+#include "umbra_api.h"
 
-#include <controls/ShadeButton.h>
-#include <controls/StaticTS.h>
+#include "dialogs/DialogTS.h"
+
+#include "controls/ShadeButton.h"
+#include "controls/StaticTS.h"
 
 /// The folder of the image files, with or without its last backslash; never empty. Set by the host
 /// before its first dialog is created.
-extern AFX_EXT_DATA CString g_strImageDir;
+extern UMBRA_API CString g_strImageDir;
 
 /// The tint of all standard buttons. Set by the host.
-extern AFX_EXT_DATA COLORREF g_crShade;
+extern UMBRA_API COLORREF g_crShade;
 
-class AFX_EXT_CLASS CBaseDialog : public CDialogTS
+class UMBRA_API CBaseDialog : public CDialogTS
 {
 public:
     /// The flags: the IDOK button reads "Confirm" (confirm) or "Next" (next), or "Proceed" with

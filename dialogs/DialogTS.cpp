@@ -1,8 +1,11 @@
-#include "DialogTS.h"
+#include "dialogs/DialogTS.h"
 
-#include "DialogUnits.h"
+#include "units/DialogUnits.h"
 
-#include <controls/KeyedPicture.h>
+#include "controls/Abandon.h"
+#include "controls/KeyedPicture.h"
+
+using umbra::Abandon;
 
 BEGIN_MESSAGE_MAP(CDialogTS, CDialog)
     ON_WM_ERASEBKGND()

@@ -4,9 +4,11 @@
 // members before the window is shown.
 #pragma once
 
+#include "umbra_api.h"
+
 #include <afxwin.h>
 
-class AFX_EXT_CLASS CDialogTS : public CDialog
+class UMBRA_API CDialogTS : public CDialog
 {
 public:
     explicit CDialogTS(UINT nIDTemplate, CWnd* pParent = NULL);

@@ -1,8 +1,8 @@
-#include "ModellessDlg.h"
+#include "dialogs/ModellessDlg.h"
 
-#include "WorkingFolder.h"
+#include "shell/WorkingFolder.h"
 
-#include <resources/resource.h>
+#include "resources/resource.h"
 
 CModellessDlg* g_pModelessDlg = NULL;
 

@@ -11,11 +11,13 @@
 //     }
 #pragma once
 
-#include "BaseDialog.h"
+#include "umbra_api.h"
 
-#include <controls/HyperLink.h>
+#include "dialogs/BaseDialog.h"
 
-class AFX_EXT_CLASS CModellessDlg : public CBaseDialog
+#include "controls/HyperLink.h"
+
+class UMBRA_API CModellessDlg : public CBaseDialog
 {
 public:
     enum { IDD = 3040 }; ///< Its template.
@@ -42,4 +44,4 @@ protected:
 };
 
 /// The one modeless dialog; NULL while there is none. Set and cleared by the host.
-extern AFX_EXT_DATA CModellessDlg* g_pModelessDlg;
+extern UMBRA_API CModellessDlg* g_pModelessDlg;

@@ -1,4 +1,4 @@
-#include "BackgroundsPage.h"
+#include "gallery/BackgroundsPage.h"
 
 BEGIN_MESSAGE_MAP(CBackgroundsPage, CGalleryPage)
     ON_CONTROL_RANGE(BN_CLICKED, IDC_SAMPLE_FIRST, IDC_SAMPLE_LAST, &CBackgroundsPage::OnSample)

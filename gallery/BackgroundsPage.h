@@ -1,8 +1,8 @@
 // CBackgroundsPage: the ways in which a dialog paints its own background.
 #pragma once
 
-#include "GalleryPage.h"
-#include "SampleDialog.h"
+#include "gallery/GalleryPage.h"
+#include "gallery/SampleDialog.h"
 
 class CBackgroundsPage : public CGalleryPage
 {

@@ -1,7 +1,7 @@
-#include "ButtonsPage.h"
+#include "gallery/ButtonsPage.h"
 
-#include "Images.h"
-#include "ShadeStyles.h"
+#include "gallery/Images.h"
+#include "gallery/ShadeStyles.h"
 
 BEGIN_MESSAGE_MAP(CButtonsPage, CGalleryPage)
 END_MESSAGE_MAP()

@@ -1,8 +1,8 @@
 // CButtonsPage: shaded buttons of every style, state and kind.
 #pragma once
 
-#include "GalleryPage.h"
-#include "SampleButton.h"
+#include "gallery/GalleryPage.h"
+#include "gallery/SampleButton.h"
 
 class CButtonsPage : public CGalleryPage
 {

@@ -1,8 +1,8 @@
-#include "GalleryApp.h"
+#include "gallery/GalleryApp.h"
 
-#include "Images.h"
-#include "Shoot.h"
-#include "StartPage.h"
+#include "gallery/Images.h"
+#include "gallery/Shoot.h"
+#include "gallery/StartPage.h"
 
 #include <string.h>
 

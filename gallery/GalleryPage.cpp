@@ -1,6 +1,6 @@
-#include "GalleryPage.h"
+#include "gallery/GalleryPage.h"
 
-#include "Images.h"
+#include "gallery/Images.h"
 
 BEGIN_MESSAGE_MAP(CGalleryPage, CBaseDialog)
     ON_WM_ERASEBKGND()

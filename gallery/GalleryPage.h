@@ -2,7 +2,7 @@
 // an introduction and a footnote, and paints the strip down to the lower edge of taller pages.
 #pragma once
 
-#include "resource.h"
+#include "gallery/resource.h"
 
 #include <umbra.h>
 

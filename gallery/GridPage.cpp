@@ -1,4 +1,4 @@
-#include "GridPage.h"
+#include "gallery/GridPage.h"
 
 BEGIN_MESSAGE_MAP(CGridPage, CGalleryPage)
     ON_CONTROL_RANGE(EN_CHANGE, IDC_REQUEST_FIRST, IDC_REQUEST_LAST, &CGridPage::OnRequest)

@@ -1,8 +1,8 @@
 // CGridPage: the dialog-unit grid; what becomes of a rectangle when a window is created with it.
 #pragma once
 
-#include "GalleryPage.h"
-#include "GridView.h"
+#include "gallery/GalleryPage.h"
+#include "gallery/GridView.h"
 
 class CGridPage : public CGalleryPage
 {

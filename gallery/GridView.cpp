@@ -1,6 +1,6 @@
-#include "GridView.h"
+#include "gallery/GridView.h"
 
-#include "GalleryPage.h"
+#include "gallery/GalleryPage.h"
 
 BEGIN_MESSAGE_MAP(CGridView, CStatic)
     ON_WM_ERASEBKGND()

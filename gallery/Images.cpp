@@ -1,4 +1,4 @@
-#include "Images.h"
+#include "gallery/Images.h"
 
 CString GalleryFolder()
 {

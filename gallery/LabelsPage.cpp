@@ -1,6 +1,6 @@
-#include "LabelsPage.h"
+#include "gallery/LabelsPage.h"
 
-#include "Images.h"
+#include "gallery/Images.h"
 
 BEGIN_MESSAGE_MAP(CLabelsPage, CGalleryPage)
 END_MESSAGE_MAP()

@@ -1,7 +1,7 @@
 // CLabelsPage: labels that draw themselves, pictures over a pattern, and links that open.
 #pragma once
 
-#include "GalleryPage.h"
+#include "gallery/GalleryPage.h"
 
 class CLabelsPage : public CGalleryPage
 {

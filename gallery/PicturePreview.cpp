@@ -1,6 +1,6 @@
-#include "PicturePreview.h"
+#include "gallery/PicturePreview.h"
 
-#include "GalleryPage.h"
+#include "gallery/GalleryPage.h"
 
 BEGIN_MESSAGE_MAP(CPicturePreview, CStatic)
     ON_WM_ERASEBKGND()

@@ -1,4 +1,4 @@
-#include "PngFile.h"
+#include "gallery/PngFile.h"
 
 #include <wincodec.h>
 

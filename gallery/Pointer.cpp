@@ -1,4 +1,4 @@
-#include "Pointer.h"
+#include "gallery/Pointer.h"
 
 namespace {
 

@@ -1,4 +1,4 @@
-#include "SampleButton.h"
+#include "gallery/SampleButton.h"
 
 BEGIN_MESSAGE_MAP(CSampleButton, CxShadeButton)
     ON_WM_NCHITTEST()

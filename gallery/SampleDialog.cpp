@@ -1,7 +1,7 @@
-#include "SampleDialog.h"
+#include "gallery/SampleDialog.h"
 
-#include "GalleryPage.h"
-#include "Images.h"
+#include "gallery/GalleryPage.h"
+#include "gallery/Images.h"
 
 #include <vector>
 

@@ -1,7 +1,7 @@
 // CSampleDialog: a window that shows one of the backgrounds of CDialogTS.
 #pragma once
 
-#include "resource.h"
+#include "gallery/resource.h"
 
 #include <umbra.h>
 

@@ -1,7 +1,7 @@
-#include "ShadeLabPage.h"
+#include "gallery/ShadeLabPage.h"
 
-#include "Images.h"
-#include "ShadeStyles.h"
+#include "gallery/Images.h"
+#include "gallery/ShadeStyles.h"
 
 #include <string.h>
 

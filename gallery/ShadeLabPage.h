@@ -1,7 +1,7 @@
 // CShadeLabPage: tries out what SetShade makes of its arguments, and gives the finished call.
 #pragma once
 
-#include "GalleryPage.h"
+#include "gallery/GalleryPage.h"
 
 class CShadeLabPage : public CGalleryPage
 {

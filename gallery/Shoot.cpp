@@ -1,16 +1,16 @@
-#include "Shoot.h"
+#include "gallery/Shoot.h"
 
-#include "BackgroundsPage.h"
-#include "ButtonsPage.h"
-#include "GridPage.h"
-#include "Images.h"
-#include "LabelsPage.h"
-#include "PngFile.h"
-#include "Pointer.h"
-#include "ShadeLabPage.h"
-#include "StartPage.h"
-#include "WizardPages.h"
-#include "WorkingPage.h"
+#include "gallery/BackgroundsPage.h"
+#include "gallery/ButtonsPage.h"
+#include "gallery/GridPage.h"
+#include "gallery/Images.h"
+#include "gallery/LabelsPage.h"
+#include "gallery/PngFile.h"
+#include "gallery/Pointer.h"
+#include "gallery/ShadeLabPage.h"
+#include "gallery/StartPage.h"
+#include "gallery/WizardPages.h"
+#include "gallery/WorkingPage.h"
 
 #include <stdio.h>
 

@@ -1,12 +1,12 @@
-#include "StartPage.h"
+#include "gallery/StartPage.h"
 
-#include "BackgroundsPage.h"
-#include "ButtonsPage.h"
-#include "GridPage.h"
-#include "LabelsPage.h"
-#include "ShadeLabPage.h"
-#include "Wizard.h"
-#include "WorkingPage.h"
+#include "gallery/BackgroundsPage.h"
+#include "gallery/ButtonsPage.h"
+#include "gallery/GridPage.h"
+#include "gallery/LabelsPage.h"
+#include "gallery/ShadeLabPage.h"
+#include "gallery/Wizard.h"
+#include "gallery/WorkingPage.h"
 
 BEGIN_MESSAGE_MAP(CStartPage, CGalleryPage)
     ON_CONTROL_RANGE(BN_CLICKED, IDC_ROOM_FIRST, IDC_ROOM_LAST, &CStartPage::OnRoom)

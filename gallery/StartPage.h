@@ -1,7 +1,7 @@
 // CStartPage: the way into the gallery, a list of its rooms.
 #pragma once
 
-#include "GalleryPage.h"
+#include "gallery/GalleryPage.h"
 
 class CStartPage : public CGalleryPage
 {

@@ -1,7 +1,7 @@
-#include "Wizard.h"
+#include "gallery/Wizard.h"
 
-#include "Images.h"
-#include "WizardPages.h"
+#include "gallery/Images.h"
+#include "gallery/WizardPages.h"
 
 #include <algorithm>
 

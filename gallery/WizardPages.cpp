@@ -1,6 +1,6 @@
-#include "WizardPages.h"
+#include "gallery/WizardPages.h"
 
-#include "Images.h"
+#include "gallery/Images.h"
 
 #include <shlobj.h>
 

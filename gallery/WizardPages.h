@@ -1,9 +1,9 @@
 // The four pages of the wizard.
 #pragma once
 
-#include "GalleryPage.h"
-#include "PicturePreview.h"
-#include "Wizard.h"
+#include "gallery/GalleryPage.h"
+#include "gallery/PicturePreview.h"
+#include "gallery/Wizard.h"
 
 /// What the pages have in common: the task, "Step n of 4", the Back button, and the place on the
 /// screen that the page before had.

@@ -1,4 +1,4 @@
-#include "WorkingPage.h"
+#include "gallery/WorkingPage.h"
 
 BEGIN_MESSAGE_MAP(CWorkingDialog, CModellessDlg)
 END_MESSAGE_MAP()

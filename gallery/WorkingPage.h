@@ -1,7 +1,7 @@
 // CWorkingPage: a long job of the host's own, with the modeless dialog up.
 #pragma once
 
-#include "GalleryPage.h"
+#include "gallery/GalleryPage.h"
 
 /// The modeless dialog with a bar of progress, and with an ear for its Cancel button.
 class CWorkingDialog : public CModellessDlg

@@ -1,4 +1,4 @@
-#include "HandCursor.h"
+#include "shell/HandCursor.h"
 
 #include <string.h>
 

@@ -1,4 +1,6 @@
-#include "PictureLoader.h"
+#include "shell/PictureLoader.h"
+
+#include "shell/PicturePath.h"
 
 #include <direct.h>
 #include <ocidl.h>
@@ -42,7 +44,7 @@ IPicture* OpenPictureBelowWorkingDirectory(const char* path)
     char joined[workingPathCapacity];
     if (_getcwd(directory, workingPathCapacity) == NULL)
         return NULL;
-    if (!JoinPicturePath(directory, path, joined, workingPathCapacity))
+    if (!umbra::JoinPicturePath(directory, path, joined, workingPathCapacity))
         return NULL;
     return OpenPicture(joined);
 }
@@ -88,17 +90,4 @@ HBITMAP LoadPictureBitmap(const char* path)
     if (bitmap == NULL)
         TRACE("Umbra: no picture could be loaded from '%.260s'.\n", path);
     return bitmap;
-}
-
-BOOL JoinPicturePath(const char* directory, const char* path, char* out, size_t capacity)
-{
-    // Kept: the doubled slash works as it is.
-    static const char separator[] = "//";
-    out[0] = '\0';
-    if (strlen(directory) + strlen(separator) + strlen(path) >= capacity)
-        return FALSE;
-    strcpy(out, directory);
-    strcat(out, separator);
-    strcat(out, path);
-    return TRUE;
 }

@@ -1,6 +1,7 @@
-#include "ShellOpen.h"
+#include "shell/ShellOpen.h"
 
-#include <mbctype.h>
+#include "shell/CommandLine.h"
+
 #include <shellapi.h>
 #include <string.h>
 
@@ -9,22 +10,8 @@ namespace {
 const UINT lastShellFailure = 32; // Results up to this one are errors.
 const char openVerb[] = "\\shell\\open\\command";
 
-/// The first place of `part` in a multibyte text, never within a character. Not every run-time's
-/// own search looks where characters begin.
-char* FindText(char* text, const char* part)
-{
-    const size_t length = strlen(part);
-    unsigned char* place = reinterpret_cast<unsigned char*>(text);
-    while (*place != '\0') {
-        if (strncmp(reinterpret_cast<char*>(place), part, length) == 0)
-            return reinterpret_cast<char*>(place);
-        place += _ismbblead(*place) && place[1] != '\0' ? 2 : 1;
-    }
-    return NULL;
-}
-
 /// The open command registered for files of the extension; FALSE when a key is missing.
-BOOL ReadOpenCommand(const char* extension, char (&command)[shellCommandCapacity])
+BOOL ReadOpenCommand(const char* extension, char (&command)[umbra::shellCommandCapacity])
 {
     if (QueryRegistryDefault(HKEY_CLASSES_ROOT, extension, command) != ERROR_SUCCESS)
         return FALSE;
@@ -59,36 +46,12 @@ UINT ShellOpen(const char* target, int showCommand, const char* extension)
     if (shellResult > lastShellFailure)
         return shellResult;
 
-    char command[shellCommandCapacity];
+    char command[umbra::shellCommandCapacity];
     if (!ReadOpenCommand(extension, command) ||
-        !ComposeCommandLine(command, shellCommandCapacity, target)) {
+        !umbra::ComposeCommandLine(command, sizeof(command), target)) {
         TRACE("Umbra: '%.260s' cannot be opened, nor can a program for %s files.\n", target,
               extension);
         return shellResult;
     }
     return ::WinExec(command, showCommand);
-}
-
-BOOL CutPlaceholder(char* commandLine)
-{
-    char* placeholder = FindText(commandLine, "\"%1\"");
-    if (placeholder == NULL)
-        placeholder = FindText(commandLine, "%1");
-    if (placeholder == NULL)
-        return FALSE;
-    *placeholder = '\0';
-    return TRUE;
-}
-
-BOOL ComposeCommandLine(char* commandLine, size_t capacity, const char* target)
-{
-    if (commandLine[0] == '\0')
-        return FALSE;
-    CutPlaceholder(commandLine);
-    if (strlen(commandLine) + 1 + strlen(target) >= capacity)
-        return FALSE;
-    // Kept: the target is never quoted, not even where the placeholder was.
-    strcat(commandLine, " ");
-    strcat(commandLine, target);
-    return TRUE;
 }

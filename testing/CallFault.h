@@ -1,7 +1,7 @@
 // Counts a module's calls of an imported function, and makes some of them fail.
 #pragma once
 
-#include <testing/ImportHook.h>
+#include "testing/ImportHook.h"
 
 #include <climits>
 #include <memory>

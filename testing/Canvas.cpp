@@ -1,4 +1,4 @@
-#include <testing/Canvas.h>
+#include "testing/Canvas.h"
 
 namespace umbra::testing {
 

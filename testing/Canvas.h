@@ -1,7 +1,7 @@
 // A device context in memory to paint on, and to see what was painted.
 #pragma once
 
-#include <testing/Picture.h>
+#include "testing/Picture.h"
 
 namespace umbra::testing {
 

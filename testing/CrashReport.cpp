@@ -1,4 +1,4 @@
-#include <testing/CrashReport.h>
+#include "testing/CrashReport.h"
 
 #include <csignal>
 #include <cstdio>

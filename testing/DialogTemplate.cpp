@@ -1,4 +1,4 @@
-#include <testing/DialogTemplate.h>
+#include "testing/DialogTemplate.h"
 
 #include <cstring>
 

@@ -1,5 +1,5 @@
-#include <testing/Input.h>
-#include <testing/Pump.h>
+#include "testing/Input.h"
+#include "testing/Pump.h"
 
 #include <optional>
 #include <vector>

@@ -1,4 +1,4 @@
-#include <testing/MessageLog.h>
+#include "testing/MessageLog.h"
 
 #include <commctrl.h>
 

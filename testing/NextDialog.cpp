@@ -1,4 +1,4 @@
-#include <testing/NextDialog.h>
+#include "testing/NextDialog.h"
 
 #include <set>
 #include <string>

@@ -1,6 +1,6 @@
-#include <testing/Input.h>
-#include <testing/Page.h>
-#include <testing/Pump.h>
+#include "testing/Input.h"
+#include "testing/Page.h"
+#include "testing/Pump.h"
 
 namespace umbra::testing {
 

@@ -3,8 +3,8 @@
 
 #include <afxwin.h>
 
-#include <testing/DialogTemplate.h>
-#include <testing/Picture.h>
+#include "testing/DialogTemplate.h"
+#include "testing/Picture.h"
 
 #include <string>
 

@@ -1,5 +1,5 @@
-#include <testing/Canvas.h>
-#include <testing/Picture.h>
+#include "testing/Canvas.h"
+#include "testing/Picture.h"
 
 #include <objidl.h>
 // The header of GDI+ takes these from the global namespace.

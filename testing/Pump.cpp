@@ -1,4 +1,4 @@
-#include <testing/Pump.h>
+#include "testing/Pump.h"
 
 namespace umbra::testing {
 

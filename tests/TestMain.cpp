@@ -5,8 +5,8 @@
 
 #include <doctest/doctest.h>
 
-#include <testing/CrashReport.h>
-#include <testing/Input.h>
+#include "testing/CrashReport.h"
+#include "testing/Input.h"
 
 #include <cstdio>
 #include <cstdlib>

@@ -1,7 +1,7 @@
 // What a debug build tells the debugger.
 #pragma once
 
-#include <testing/ImportHook.h>
+#include "testing/ImportHook.h"
 
 #include <doctest/doctest.h>
 

@@ -1,16 +1,16 @@
-#include <controls/HyperLink.h>
+#include "controls/HyperLink.h"
 
-#include "../programs/HelpProgram.h"
-#include "LabelHost.h"
-#include "ShellSpy.h"
+#include "tests/programs/HelpProgram.h"
+#include "tests/controls/LabelHost.h"
+#include "tests/controls/ShellSpy.h"
 
-#include <shell/HandCursor.h>
+#include "shell/HandCursor.h"
 
-#include <testing/CallFault.h>
-#include <testing/GdiObjects.h>
-#include <testing/Input.h>
-#include <testing/Picture.h>
-#include <testing/Pump.h>
+#include "testing/CallFault.h"
+#include "testing/GdiObjects.h"
+#include "testing/Input.h"
+#include "testing/Picture.h"
+#include "testing/Pump.h"
 
 #include <doctest/doctest.h>
 

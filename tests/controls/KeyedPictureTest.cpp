@@ -1,15 +1,17 @@
-#include <controls/KeyedPicture.h>
+#include "controls/Abandon.h"
+#include "controls/KeyedPicture.h"
 
-#include "LabelHost.h"
+#include "tests/controls/LabelHost.h"
 
-#include <shell/PictureLoader.h>
+#include "shell/PictureLoader.h"
 
-#include <testing/Canvas.h>
-#include <testing/GdiObjects.h>
-#include <testing/Picture.h>
+#include "testing/Canvas.h"
+#include "testing/GdiObjects.h"
+#include "testing/Picture.h"
 
 #include <doctest/doctest.h>
 
+using namespace umbra;
 using namespace umbra::testing;
 
 namespace {

@@ -1,10 +1,10 @@
 // A window over which labels are drawn, with what tests of labels need around it.
 #pragma once
 
-#include <tests/Folders.h>
+#include "tests/Folders.h"
 
-#include <testing/Picture.h>
-#include <testing/Pump.h>
+#include "testing/Picture.h"
+#include "testing/Pump.h"
 
 #include <afxwin.h>
 

@@ -1,10 +1,10 @@
-#include <controls/HyperLink.h>
-#include <controls/LinkActions.h>
-#include <controls/StaticTS.h>
+#include "controls/HyperLink.h"
+#include "controls/LinkActions.h"
+#include "controls/StaticTS.h"
 
-#include "LabelHost.h"
+#include "tests/controls/LabelHost.h"
 
-#include <tests/TraceOf.h>
+#include "tests/TraceOf.h"
 
 #include <doctest/doctest.h>
 

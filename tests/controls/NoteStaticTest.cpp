@@ -1,10 +1,10 @@
-#include <controls/NoteStatic.h>
+#include "controls/NoteStatic.h"
 
-#include "LabelHost.h"
+#include "tests/controls/LabelHost.h"
 
-#include <testing/CallFault.h>
-#include <testing/GdiObjects.h>
-#include <testing/ImportHook.h>
+#include "testing/CallFault.h"
+#include "testing/GdiObjects.h"
+#include "testing/ImportHook.h"
 
 #include <doctest/doctest.h>
 

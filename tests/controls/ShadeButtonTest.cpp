@@ -1,16 +1,16 @@
-#include <controls/ShadeButton.h>
-#include <controls/ShadeGenerator.h>
+#include "controls/ShadeButton.h"
+#include "faces/ShadeGenerator.h"
 
-#include "LabelHost.h"
+#include "tests/controls/LabelHost.h"
 
-#include <testing/CallFault.h>
-#include <testing/Canvas.h>
-#include <testing/GdiObjects.h>
-#include <testing/ImportHook.h>
-#include <testing/Input.h>
-#include <testing/MessageLog.h>
-#include <testing/Picture.h>
-#include <testing/Pump.h>
+#include "testing/CallFault.h"
+#include "testing/Canvas.h"
+#include "testing/GdiObjects.h"
+#include "testing/ImportHook.h"
+#include "testing/Input.h"
+#include "testing/MessageLog.h"
+#include "testing/Picture.h"
+#include "testing/Pump.h"
 
 #include <doctest/doctest.h>
 

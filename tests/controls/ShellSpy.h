@@ -1,7 +1,7 @@
 // Stands before the calls with which the toolkit opens things, and notes them.
 #pragma once
 
-#include <testing/ImportHook.h>
+#include "testing/ImportHook.h"
 
 #include <windows.h>
 

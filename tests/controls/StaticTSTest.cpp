@@ -1,21 +1,21 @@
-#include <controls/StaticTS.h>
+#include "controls/StaticTS.h"
 
-#include "../programs/HelpProgram.h"
-#include "LabelHost.h"
-#include "ShellSpy.h"
+#include "tests/programs/HelpProgram.h"
+#include "tests/controls/LabelHost.h"
+#include "tests/controls/ShellSpy.h"
 
-#include <tests/BitmapFile.h>
+#include "tests/BitmapFile.h"
 
-#include <dialogs/DialogUnits.h>
-#include <shell/HandCursor.h>
-#include <shell/PictureLoader.h>
+#include "units/DialogUnits.h"
+#include "shell/HandCursor.h"
+#include "shell/PictureLoader.h"
 
-#include <testing/CallFault.h>
-#include <testing/GdiObjects.h>
-#include <testing/Input.h>
-#include <testing/MessageLog.h>
-#include <testing/Picture.h>
-#include <testing/Pump.h>
+#include "testing/CallFault.h"
+#include "testing/GdiObjects.h"
+#include "testing/Input.h"
+#include "testing/MessageLog.h"
+#include "testing/Picture.h"
+#include "testing/Pump.h"
 
 #include <doctest/doctest.h>
 

@@ -1,17 +1,17 @@
-#include <dialogs/BaseDialog.h>
-#include <shell/PictureLoader.h>
+#include "dialogs/BaseDialog.h"
+#include "shell/PictureLoader.h"
 
-#include "PageTemplate.h"
+#include "tests/dialogs/PageTemplate.h"
 
-#include <testing/CallFault.h>
-#include <testing/Canvas.h>
-#include <testing/GdiObjects.h>
-#include <testing/ImportHook.h>
-#include <testing/Input.h>
-#include <testing/NextDialog.h>
-#include <testing/Page.h>
-#include <testing/Picture.h>
-#include <testing/Pump.h>
+#include "testing/CallFault.h"
+#include "testing/Canvas.h"
+#include "testing/GdiObjects.h"
+#include "testing/ImportHook.h"
+#include "testing/Input.h"
+#include "testing/NextDialog.h"
+#include "testing/Page.h"
+#include "testing/Picture.h"
+#include "testing/Pump.h"
 
 #include <doctest/doctest.h>
 

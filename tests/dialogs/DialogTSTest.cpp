@@ -1,14 +1,14 @@
-#include <dialogs/DialogTS.h>
+#include "dialogs/DialogTS.h"
 
-#include <dialogs/DialogUnits.h>
+#include "units/DialogUnits.h"
 
-#include <testing/Canvas.h>
-#include <testing/GdiObjects.h>
-#include <testing/Input.h>
-#include <testing/MessageLog.h>
-#include <testing/Page.h>
-#include <testing/Picture.h>
-#include <testing/Pump.h>
+#include "testing/Canvas.h"
+#include "testing/GdiObjects.h"
+#include "testing/Input.h"
+#include "testing/MessageLog.h"
+#include "testing/Page.h"
+#include "testing/Picture.h"
+#include "testing/Pump.h"
 
 #include <doctest/doctest.h>
 

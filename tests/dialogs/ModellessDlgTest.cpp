@@ -1,12 +1,12 @@
-#include <dialogs/ModellessDlg.h>
+#include "dialogs/ModellessDlg.h"
 
-#include "PageTemplate.h"
+#include "tests/dialogs/PageTemplate.h"
 
-#include <testing/GdiObjects.h>
-#include <testing/Input.h>
-#include <testing/Page.h>
-#include <testing/Picture.h>
-#include <testing/Pump.h>
+#include "testing/GdiObjects.h"
+#include "testing/Input.h"
+#include "testing/Page.h"
+#include "testing/Picture.h"
+#include "testing/Pump.h"
 
 #include <doctest/doctest.h>
 

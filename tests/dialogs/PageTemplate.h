@@ -1,11 +1,11 @@
 // Templates for tests of dialog pages.
 #pragma once
 
-#include <resources/resource.h>
+#include "resources/resource.h"
 
-#include <tests/Folders.h>
+#include "tests/Folders.h"
 
-#include <testing/DialogTemplate.h>
+#include "testing/DialogTemplate.h"
 
 #include <afxwin.h>
 

@@ -1,7 +1,7 @@
-// The arithmetic of dialog units, and the snapping of windows. Built from dialogs/DialogUnits.cpp.
-#include "Input.h"
+// The arithmetic of dialog units, and the snapping of windows. Built from units/DialogUnits.cpp.
+#include "tests/fuzz/Input.h"
 
-#include <dialogs/DialogUnits.h>
+#include "units/DialogUnits.h"
 
 #include <cmath>
 

@@ -1,7 +1,7 @@
-// A palette bitmap under any sequence of calls. Built from controls/PaletteDib.cpp.
-#include "Input.h"
+// A palette bitmap under any sequence of calls. Built from faces/PaletteDib.cpp.
+#include "tests/fuzz/Input.h"
 
-#include <controls/PaletteDib.h>
+#include "faces/PaletteDib.h"
 
 namespace {
 

@@ -1,13 +1,16 @@
-// Paths of pictures and working directories. Built from shell/PictureLoader.cpp and
-// dialogs/WorkingFolder.cpp.
-#include "Input.h"
+// Paths of pictures and working directories. Built from shell/PictureLoader.cpp, PicturePath.cpp and
+// WorkingFolder.cpp.
+#include "tests/fuzz/Input.h"
 
-#include <dialogs/WorkingFolder.h>
-#include <shell/PictureLoader.h>
+#include "shell/WorkingFolder.h"
+#include "shell/PictureLoader.h"
+#include "shell/PicturePath.h"
 
 #include <direct.h>
 #include <ocidl.h>
 #include <olectl.h>
+
+using namespace umbra;
 
 namespace {
 

@@ -1,10 +1,10 @@
 // The faces of buttons: every engine makes the pixels of the plain formulas and writes nowhere
-// else. Built from controls/Shade*.cpp and controls/PaletteDib.cpp.
-#include "Input.h"
+// else. Built from faces/Shade*.cpp and faces/PaletteDib.cpp.
+#include "tests/fuzz/Input.h"
 
-#include <controls/ShadeGenerator.h>
-#include <controls/ShadePixels.h>
-#include <tests/controls/PlainShade.h>
+#include "faces/ShadeGenerator.h"
+#include "faces/ShadePixels.h"
+#include "tests/faces/PlainShade.h"
 
 #include <vector>
 

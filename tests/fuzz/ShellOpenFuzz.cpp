@@ -1,9 +1,12 @@
-// Opening targets with a registry that holds anything. Built from shell/ShellOpen.cpp.
-#include "Input.h"
+// Opening targets with a registry that holds anything. Built from shell/ShellOpen.cpp and CommandLine.cpp.
+#include "tests/fuzz/Input.h"
 
-#include <shell/ShellOpen.h>
+#include "shell/CommandLine.h"
+#include "shell/ShellOpen.h"
 
 #include <vector>
+
+using namespace umbra;
 
 namespace {
 

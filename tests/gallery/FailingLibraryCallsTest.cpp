@@ -1,5 +1,5 @@
-#include "FaultCheck.h"
-#include "GalleryLives.h"
+#include "tests/robustness/FaultCheck.h"
+#include "tests/gallery/GalleryLives.h"
 
 TEST_CASE("part: pages with failing calls of umbra-mfc.dll" * doctest::skip())
 {

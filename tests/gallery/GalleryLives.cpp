@@ -1,17 +1,17 @@
-#include "GalleryLives.h"
+#include "tests/gallery/GalleryLives.h"
 
-#include <tests/robustness/SelfEnding.h>
-#include <tests/robustness/Stage.h>
+#include "tests/robustness/SelfEnding.h"
+#include "tests/robustness/Stage.h"
 
-#include <gallery/BackgroundsPage.h>
-#include <gallery/ButtonsPage.h>
-#include <gallery/GridPage.h>
-#include <gallery/Images.h>
-#include <gallery/LabelsPage.h>
-#include <gallery/ShadeLabPage.h>
-#include <gallery/StartPage.h>
-#include <gallery/WizardPages.h>
-#include <gallery/WorkingPage.h>
+#include "gallery/BackgroundsPage.h"
+#include "gallery/ButtonsPage.h"
+#include "gallery/GridPage.h"
+#include "gallery/Images.h"
+#include "gallery/LabelsPage.h"
+#include "gallery/ShadeLabPage.h"
+#include "gallery/StartPage.h"
+#include "gallery/WizardPages.h"
+#include "gallery/WorkingPage.h"
 
 #include <algorithm>
 #include <iterator>

@@ -1,7 +1,7 @@
 // One life of each page of the gallery: opened as the gallery opens it, used all over and closed.
 #pragma once
 
-#include <tests/robustness/FaultRun.h>
+#include "tests/robustness/FaultRun.h"
 
 const std::vector<Life>& LivesOfGallery();
 

@@ -1,8 +1,8 @@
-#include <gallery/GridView.h>
+#include "gallery/GridView.h"
 
-#include <tests/robustness/Stage.h>
+#include "tests/robustness/Stage.h"
 
-#include <testing/CallFault.h>
+#include "testing/CallFault.h"
 
 #include <doctest/doctest.h>
 

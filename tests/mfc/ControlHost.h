@@ -3,7 +3,7 @@
 
 #include <afxcmn.h>
 
-#include <testing/Pump.h>
+#include "testing/Pump.h"
 
 #include <algorithm>
 #include <string>

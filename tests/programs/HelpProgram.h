@@ -1,7 +1,7 @@
 // A help program in the Windows directory, for as long as it lives.
 #pragma once
 
-#include <tests/Folders.h>
+#include "tests/Folders.h"
 
 #include <windows.h>
 

@@ -1,14 +1,14 @@
-#include "ChildProgram.h"
-#include "GdiSweeper.h"
-#include "PictureFiles.h"
-#include "Stage.h"
+#include "tests/robustness/ChildProgram.h"
+#include "tests/robustness/GdiSweeper.h"
+#include "tests/robustness/PictureFiles.h"
+#include "tests/robustness/Stage.h"
 
-#include <tests/Folders.h>
+#include "tests/Folders.h"
 
-#include <controls/HyperLink.h>
-#include <controls/ShadeButton.h>
-#include <controls/StaticTS.h>
-#include <shell/PictureLoader.h>
+#include "controls/HyperLink.h"
+#include "controls/ShadeButton.h"
+#include "controls/StaticTS.h"
+#include "shell/PictureLoader.h"
 
 #include <doctest/doctest.h>
 

@@ -1,6 +1,6 @@
-#include "ChildProgram.h"
+#include "tests/robustness/ChildProgram.h"
 
-#include <tests/Folders.h>
+#include "tests/Folders.h"
 
 #include <fstream>
 #include <sstream>

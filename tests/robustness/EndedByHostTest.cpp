@@ -1,8 +1,8 @@
 // A host may end a control, and delete its object, in the middle of what the control is doing.
-#include "MonkeyPage.h"
-#include "Outside.h"
+#include "tests/robustness/MonkeyPage.h"
+#include "tests/robustness/Outside.h"
 
-#include <testing/Input.h>
+#include "testing/Input.h"
 
 #include <doctest/doctest.h>
 

@@ -1,15 +1,15 @@
-#include "Lives.h"
-#include "Stage.h"
+#include "tests/robustness/Lives.h"
+#include "tests/robustness/Stage.h"
 
-#include <controls/HyperLink.h>
-#include <controls/NoteStatic.h>
-#include <controls/ShadeButton.h>
-#include <dialogs/ModellessDlg.h>
-#include <shell/PictureLoader.h>
+#include "controls/HyperLink.h"
+#include "controls/NoteStatic.h"
+#include "controls/ShadeButton.h"
+#include "dialogs/ModellessDlg.h"
+#include "shell/PictureLoader.h"
 
-#include <testing/GdiObjects.h>
-#include <testing/Picture.h>
-#include <testing/Pump.h>
+#include "testing/GdiObjects.h"
+#include "testing/Picture.h"
+#include "testing/Pump.h"
 
 #include <doctest/doctest.h>
 

@@ -1,4 +1,4 @@
-#include "FaultCheck.h"
+#include "tests/robustness/FaultCheck.h"
 
 TEST_CASE("part: lives with failing calls of umbra-mfc.dll" * doctest::skip())
 {

@@ -1,4 +1,4 @@
-#include "FailureTable.h"
+#include "tests/robustness/FailureTable.h"
 
 #include <windows.h>
 

@@ -1,7 +1,7 @@
 // How each imported function fails on Windows.
 #pragma once
 
-#include <testing/CallFault.h>
+#include "testing/CallFault.h"
 
 /// FALSE for a function that cannot fail, or whose result is no sign of failure: leaving such a
 /// call out would be no failure but another program.

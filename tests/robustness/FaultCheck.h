@@ -1,7 +1,7 @@
 // What the tests of failing calls have in common.
 #pragma once
 
-#include "FaultRun.h"
+#include "tests/robustness/FaultRun.h"
 
 #include <doctest/doctest.h>
 

@@ -1,12 +1,12 @@
-#include "FaultRun.h"
+#include "tests/robustness/FaultRun.h"
 
-#include "ChildProgram.h"
-#include "Dice.h"
-#include "FailureTable.h"
-#include "Outside.h"
+#include "tests/robustness/ChildProgram.h"
+#include "tests/robustness/Dice.h"
+#include "tests/robustness/FailureTable.h"
+#include "tests/robustness/Outside.h"
 
-#include <testing/CallFault.h>
-#include <testing/GdiObjects.h>
+#include "testing/CallFault.h"
+#include "testing/GdiObjects.h"
 
 #include <afxwin.h>
 

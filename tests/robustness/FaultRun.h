@@ -1,9 +1,9 @@
 // Lives lived again and again, each time with another system call that fails.
 #pragma once
 
-#include "Lives.h"
+#include "tests/robustness/Lives.h"
 
-#include <testing/ImportHook.h>
+#include "testing/ImportHook.h"
 
 #include <limits.h>
 #include <string>

@@ -2,7 +2,7 @@
 // cycles fit into one table of objects.
 #pragma once
 
-#include <testing/GdiObjects.h>
+#include "testing/GdiObjects.h"
 
 #include <set>
 

@@ -1,12 +1,12 @@
 // The hand cursor is loaded once in a process, so each failing call has a process of its own.
-#include "ChildProgram.h"
-#include "FailureTable.h"
-#include "Stage.h"
+#include "tests/robustness/ChildProgram.h"
+#include "tests/robustness/FailureTable.h"
+#include "tests/robustness/Stage.h"
 
-#include <tests/programs/HelpProgram.h>
+#include "tests/programs/HelpProgram.h"
 
-#include <controls/StaticTS.h>
-#include <shell/HandCursor.h>
+#include "controls/StaticTS.h"
+#include "shell/HandCursor.h"
 
 #include <doctest/doctest.h>
 

@@ -1,8 +1,8 @@
 // The longest Windows directory that fits its buffer. The cursor is looked for once in a program's
 // life, so this is a source of its own.
-#include <shell/HandCursor.h>
+#include "shell/HandCursor.h"
 
-#include <testing/ImportHook.h>
+#include "testing/ImportHook.h"
 
 #include <doctest/doctest.h>
 

@@ -1,13 +1,15 @@
 // Texts of every length around the sizes of the toolkit's buffers, and far beyond.
-#include "GuardedBuffer.h"
+#include "tests/robustness/GuardedBuffer.h"
 
-#include <shell/PictureLoader.h>
-#include <shell/ShellOpen.h>
+#include "shell/CommandLine.h"
+#include "shell/PictureLoader.h"
+#include "shell/PicturePath.h"
+#include "shell/ShellOpen.h"
 #include <umbra.h>
 
-#include <testing/DialogTemplate.h>
-#include <testing/ImportHook.h>
-#include <testing/Pump.h>
+#include "testing/DialogTemplate.h"
+#include "testing/ImportHook.h"
+#include "testing/Pump.h"
 
 #include <doctest/doctest.h>
 
@@ -18,6 +20,7 @@
 #include <string>
 #include <vector>
 
+using namespace umbra;
 using namespace umbra::testing;
 
 namespace {

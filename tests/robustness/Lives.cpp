@@ -1,17 +1,17 @@
-#include "Lives.h"
+#include "tests/robustness/Lives.h"
 
-#include "SelfEnding.h"
-#include "Stage.h"
+#include "tests/robustness/SelfEnding.h"
+#include "tests/robustness/Stage.h"
 
-#include <tests/dialogs/PageTemplate.h>
+#include "tests/dialogs/PageTemplate.h"
 
-#include <controls/HyperLink.h>
-#include <controls/NoteStatic.h>
-#include <controls/ShadeButton.h>
-#include <dialogs/DialogUnits.h>
-#include <dialogs/ModellessDlg.h>
-#include <shell/PictureLoader.h>
-#include <shell/ShellOpen.h>
+#include "controls/HyperLink.h"
+#include "controls/NoteStatic.h"
+#include "controls/ShadeButton.h"
+#include "units/DialogUnits.h"
+#include "dialogs/ModellessDlg.h"
+#include "shell/PictureLoader.h"
+#include "shell/ShellOpen.h"
 
 #include <afxwin.h>
 

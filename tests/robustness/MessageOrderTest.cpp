@@ -1,13 +1,13 @@
 // The order in which a button and its page get messages, recorded under real input.
-#include "Stage.h"
+#include "tests/robustness/Stage.h"
 
-#include <controls/ShadeButton.h>
-#include <dialogs/BaseDialog.h>
+#include "controls/ShadeButton.h"
+#include "dialogs/BaseDialog.h"
 
-#include <testing/DialogTemplate.h>
-#include <testing/Input.h>
-#include <testing/MessageLog.h>
-#include <testing/Pump.h>
+#include "testing/DialogTemplate.h"
+#include "testing/Input.h"
+#include "testing/MessageLog.h"
+#include "testing/Pump.h"
 
 #include <commctrl.h>
 

@@ -19,12 +19,12 @@
 // - the class library's own messages from 0x0360 on, some of which carry addresses.
 #pragma once
 
-#include "MonkeyPage.h"
-#include "Outside.h"
+#include "tests/robustness/MonkeyPage.h"
+#include "tests/robustness/Outside.h"
 
-#include <testing/CrashReport.h>
-#include <testing/GdiObjects.h>
-#include <testing/MessageLog.h>
+#include "testing/CrashReport.h"
+#include "testing/GdiObjects.h"
+#include "testing/MessageLog.h"
 
 #include <stdio.h>
 

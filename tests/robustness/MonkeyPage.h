@@ -2,13 +2,13 @@
 // notifications with mischief.
 #pragma once
 
-#include "Dice.h"
+#include "tests/robustness/Dice.h"
 
 #include <umbra.h>
 
-#include <resources/resource.h>
-#include <testing/DialogTemplate.h>
-#include <testing/Pump.h>
+#include "resources/resource.h"
+#include "testing/DialogTemplate.h"
+#include "testing/Pump.h"
 
 #include <deque>
 #include <stdlib.h>

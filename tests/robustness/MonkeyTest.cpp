@@ -5,12 +5,12 @@
 //   --source-file=*MonkeyTest.cpp
 //
 // and UMBRA_MONKEY_TRACE=1 prints each of its messages.
-#include "Monkey.h"
+#include "tests/robustness/Monkey.h"
 
-#include <tests/Folders.h>
+#include "tests/Folders.h"
 
-#include <testing/GdiObjects.h>
-#include <testing/Input.h>
+#include "testing/GdiObjects.h"
+#include "testing/Input.h"
 
 #include <doctest/doctest.h>
 

@@ -1,18 +1,18 @@
 // Holds the figures of docs/object-budget.md.
-#include "GdiSweeper.h"
-#include "Stage.h"
+#include "tests/robustness/GdiSweeper.h"
+#include "tests/robustness/Stage.h"
 
-#include <tests/dialogs/PageTemplate.h>
+#include "tests/dialogs/PageTemplate.h"
 
-#include <controls/HyperLink.h>
-#include <controls/NoteStatic.h>
-#include <controls/ShadeButton.h>
-#include <dialogs/DialogUnits.h>
-#include <dialogs/ModellessDlg.h>
-#include <shell/HandCursor.h>
-#include <shell/PictureLoader.h>
+#include "controls/HyperLink.h"
+#include "controls/NoteStatic.h"
+#include "controls/ShadeButton.h"
+#include "units/DialogUnits.h"
+#include "dialogs/ModellessDlg.h"
+#include "shell/HandCursor.h"
+#include "shell/PictureLoader.h"
 
-#include <testing/Picture.h>
+#include "testing/Picture.h"
 
 #include <doctest/doctest.h>
 

@@ -2,9 +2,9 @@
 // that answers anything, and a hand that sweeps up the graphics objects left behind on purpose.
 #pragma once
 
-#include "Dice.h"
+#include "tests/robustness/Dice.h"
 
-#include <testing/ImportHook.h>
+#include "testing/ImportHook.h"
 
 #include <functional>
 #include <string.h>

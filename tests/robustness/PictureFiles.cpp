@@ -1,6 +1,6 @@
-#include "PictureFiles.h"
+#include "tests/robustness/PictureFiles.h"
 
-#include <tests/Folders.h>
+#include "tests/Folders.h"
 
 #include <fstream>
 #include <sstream>

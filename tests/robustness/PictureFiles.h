@@ -1,7 +1,7 @@
 // Picture files, good and bad, as bytes.
 #pragma once
 
-#include "Dice.h"
+#include "tests/robustness/Dice.h"
 
 #include <string>
 #include <vector>

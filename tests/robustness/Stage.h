@@ -2,7 +2,7 @@
 // of the toolkit or of the class library reaches it.
 #pragma once
 
-#include <tests/Folders.h>
+#include "tests/Folders.h"
 
 #include <afxwin.h>
 

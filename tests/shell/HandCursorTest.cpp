@@ -1,9 +1,9 @@
-#include <shell/HandCursor.h>
+#include "shell/HandCursor.h"
 
-#include "../programs/HelpProgram.h"
+#include "tests/programs/HelpProgram.h"
 
-#include <testing/CallFault.h>
-#include <testing/ImportHook.h>
+#include "testing/CallFault.h"
+#include "testing/ImportHook.h"
 
 #include <doctest/doctest.h>
 

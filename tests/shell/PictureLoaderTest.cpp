@@ -1,12 +1,13 @@
-#include <shell/PictureLoader.h>
+#include "shell/PictureLoader.h"
+#include "shell/PicturePath.h"
 
-#include <tests/BitmapFile.h>
-#include <tests/Folders.h>
+#include "tests/BitmapFile.h"
+#include "tests/Folders.h"
 
-#include <testing/CallFault.h>
-#include <testing/GdiObjects.h>
-#include <testing/ImportHook.h>
-#include <testing/Picture.h>
+#include "testing/CallFault.h"
+#include "testing/GdiObjects.h"
+#include "testing/ImportHook.h"
+#include "testing/Picture.h"
 
 #include <doctest/doctest.h>
 
@@ -15,6 +16,7 @@
 #include <string>
 #include <vector>
 
+using namespace umbra;
 using namespace umbra::testing;
 
 namespace {

@@ -1,10 +1,10 @@
 // Failures say nothing to the user; a debug build tells the debugger.
-#include <shell/PictureLoader.h>
-#include <shell/ShellOpen.h>
+#include "shell/PictureLoader.h"
+#include "shell/ShellOpen.h"
 
-#include <tests/TraceOf.h>
+#include "tests/TraceOf.h"
 
-#include <testing/CallFault.h>
+#include "testing/CallFault.h"
 
 #include <doctest/doctest.h>
 

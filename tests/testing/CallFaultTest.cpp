@@ -1,4 +1,4 @@
-#include <testing/CallFault.h>
+#include "testing/CallFault.h"
 
 #include <doctest/doctest.h>
 

@@ -1,5 +1,5 @@
-#include <testing/Canvas.h>
-#include <testing/GdiObjects.h>
+#include "testing/Canvas.h"
+#include "testing/GdiObjects.h"
 
 #include <doctest/doctest.h>
 

@@ -1,4 +1,4 @@
-#include <testing/GdiObjects.h>
+#include "testing/GdiObjects.h"
 
 #include <doctest/doctest.h>
 

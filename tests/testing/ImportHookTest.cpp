@@ -1,4 +1,4 @@
-#include <testing/ImportHook.h>
+#include "testing/ImportHook.h"
 
 #include <doctest/doctest.h>
 

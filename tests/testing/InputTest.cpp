@@ -1,8 +1,8 @@
-#include <testing/DialogTemplate.h>
-#include <testing/Input.h>
-#include <testing/MessageLog.h>
-#include <testing/Page.h>
-#include <testing/Pump.h>
+#include "testing/DialogTemplate.h"
+#include "testing/Input.h"
+#include "testing/MessageLog.h"
+#include "testing/Page.h"
+#include "testing/Pump.h"
 
 #include <doctest/doctest.h>
 

@@ -1,6 +1,6 @@
-#include <testing/NextDialog.h>
-#include <testing/Page.h>
-#include <testing/Pump.h>
+#include "testing/NextDialog.h"
+#include "testing/Page.h"
+#include "testing/Pump.h"
 
 #include <doctest/doctest.h>
 

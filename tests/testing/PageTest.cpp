@@ -1,5 +1,5 @@
-#include <testing/DialogTemplate.h>
-#include <testing/Page.h>
+#include "testing/DialogTemplate.h"
+#include "testing/Page.h"
 
 #include <doctest/doctest.h>
 

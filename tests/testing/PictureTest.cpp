@@ -1,5 +1,5 @@
-#include <testing/Canvas.h>
-#include <testing/Picture.h>
+#include "testing/Canvas.h"
+#include "testing/Picture.h"
 
 #include <doctest/doctest.h>
 

@@ -10,7 +10,7 @@
 #include <cstring>
 #include <strings.h>
 
-#define AFX_EXT_API
+#define __declspec(mark)
 #define WINAPI
 #define CALLBACK
 

@@ -1,0 +1,4 @@
+// Moved to faces/PaletteDib.h.
+#pragma once
+
+#include "faces/PaletteDib.h"

@@ -1,0 +1,4 @@
+// Moved to faces/ShadeStyle.h.
+#pragma once
+
+#include "faces/ShadeStyle.h"

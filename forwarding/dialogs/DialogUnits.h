@@ -1,0 +1,4 @@
+// Moved to units/DialogUnits.h.
+#pragma once
+
+#include "units/DialogUnits.h"

@@ -1,0 +1,87 @@
+#include <classes/CSpinButtonCtrl.h>
+
+#include "controls/ControlMessages.h"
+
+using afxint::Ask;
+
+IMPLEMENT_DYNAMIC(CSpinButtonCtrl, CWnd)
+
+CSpinButtonCtrl::CSpinButtonCtrl() = default;
+
+BOOL CSpinButtonCtrl::Create(DWORD dwStyle, const RECT& rect, CWnd* pParentWnd, UINT nID)
+{
+    afxint::NeedCommonControls(ICC_UPDOWN_CLASS);
+    return CWnd::Create(UPDOWN_CLASS, NULL, dwStyle, rect, pParentWnd, nID);
+}
+
+BOOL CSpinButtonCtrl::CreateEx(DWORD dwExStyle, DWORD dwStyle, const RECT& rect, CWnd* pParentWnd,
+                               UINT nID)
+{
+    afxint::NeedCommonControls(ICC_UPDOWN_CLASS);
+    return CWnd::CreateEx(dwExStyle, UPDOWN_CLASS, NULL, dwStyle, rect, pParentWnd, nID);
+}
+
+BOOL CSpinButtonCtrl::SetAccel(int nAccel, UDACCEL* pAccel)
+{
+    return Ask(m_hWnd, UDM_SETACCEL, nAccel, pAccel);
+}
+
+UINT CSpinButtonCtrl::GetAccel(int nAccel, UDACCEL* pAccel) const
+{
+    return Ask(m_hWnd, UDM_GETACCEL, nAccel, pAccel);
+}
+
+int CSpinButtonCtrl::SetBase(int nBase)
+{
+    return Ask(m_hWnd, UDM_SETBASE, nBase);
+}
+
+UINT CSpinButtonCtrl::GetBase() const
+{
+    return Ask(m_hWnd, UDM_GETBASE);
+}
+
+CWnd* CSpinButtonCtrl::SetBuddy(CWnd* pWndBuddy)
+{
+    return CWnd::FromHandle((HWND)Ask(m_hWnd, UDM_SETBUDDY, pWndBuddy->GetSafeHwnd()));
+}
+
+CWnd* CSpinButtonCtrl::GetBuddy() const
+{
+    return CWnd::FromHandle((HWND)Ask(m_hWnd, UDM_GETBUDDY));
+}
+
+int CSpinButtonCtrl::SetPos(int nPos)
+{
+    return Ask(m_hWnd, UDM_SETPOS, 0, MAKELPARAM(nPos, 0));
+}
+
+int CSpinButtonCtrl::GetPos() const
+{
+    return Ask(m_hWnd, UDM_GETPOS);
+}
+
+void CSpinButtonCtrl::SetRange(short nLower, short nUpper)
+{
+    Ask(m_hWnd, UDM_SETRANGE, 0, MAKELPARAM(nUpper, nLower));
+}
+
+void CSpinButtonCtrl::SetRange32(int nLower, int nUpper)
+{
+    Ask(m_hWnd, UDM_SETRANGE32, nLower, nUpper);
+}
+
+DWORD CSpinButtonCtrl::GetRange() const
+{
+    return Ask(m_hWnd, UDM_GETRANGE);
+}
+
+void CSpinButtonCtrl::GetRange(int& lower, int& upper) const
+{
+    GetRange32(lower, upper);
+}
+
+void CSpinButtonCtrl::GetRange32(int& lower, int& upper) const
+{
+    Ask(m_hWnd, UDM_GETRANGE32, &lower, &upper);
+}

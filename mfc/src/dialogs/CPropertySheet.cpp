@@ -1,0 +1,346 @@
+#include <classes/CPropertySheet.h>
+
+#include <classes/CPropertyPage.h>
+#include <classes/CTabCtrl.h>
+
+#include "controls/ControlMessages.h"
+#include "windows/WindowCreation.h"
+
+#include <algorithm>
+
+using afxint::Ask;
+
+namespace {
+
+/// The sheet whose window is being made.
+thread_local CPropertySheet* sheetInCreation = nullptr;
+
+} // namespace
+
+/// What the system calls while it makes the window of a sheet.
+struct afxint::PropertySheetHook
+{
+    static int CALLBACK Procedure(HWND, UINT message, LPARAM lParam)
+    {
+        const CPropertySheet* sheet = sheetInCreation;
+        if (message != PSCB_PRECREATE || sheet == nullptr || sheet->style_ == (DWORD)-1)
+            return 0;
+        // Both kinds of dialog templates hold the two styles, but not in the same place.
+        struct Template
+        {
+            WORD version, signature;
+            DWORD helpId, exStyle, style;
+        };
+        Template* extended = (Template*)lParam;
+        DLGTEMPLATE* plain = (DLGTEMPLATE*)lParam;
+        const bool isExtended = extended->signature == 0xffff;
+        (isExtended ? extended->style : plain->style) =
+            (sheet->style_ & ~DS_SETFONT) |
+            ((isExtended ? extended->style : plain->style) & DS_SETFONT);
+        (isExtended ? extended->exStyle : plain->dwExtendedStyle) = sheet->exStyle_;
+        return 0;
+    }
+};
+
+BEGIN_MESSAGE_MAP(CPropertySheet, CWnd)
+    ON_MESSAGE(WM_INITDIALOG, OnInitDialogMessage)
+    ON_MESSAGE(PSM_PRESSBUTTON, OnPressButtonMessage)
+    ON_WM_CLOSE()
+END_MESSAGE_MAP()
+
+IMPLEMENT_DYNAMIC(CPropertySheet, CWnd)
+
+CPropertySheet::CPropertySheet()
+{
+    Construct(_T(""));
+}
+
+CPropertySheet::CPropertySheet(UINT nIDCaption, CWnd* pParentWnd, UINT iSelectPage)
+{
+    Construct(nIDCaption, pParentWnd, iSelectPage);
+}
+
+CPropertySheet::CPropertySheet(LPCTSTR pszCaption, CWnd* pParentWnd, UINT iSelectPage)
+{
+    Construct(pszCaption, pParentWnd, iSelectPage);
+}
+
+void CPropertySheet::Construct(UINT nIDCaption, CWnd* pParentWnd, UINT iSelectPage)
+{
+    CString caption;
+    VERIFY(caption.LoadString(nIDCaption));
+    Construct(caption, pParentWnd, iSelectPage);
+}
+
+void CPropertySheet::Construct(LPCTSTR pszCaption, CWnd* pParentWnd, UINT iSelectPage)
+{
+    caption_ = pszCaption;
+    parent_ = pParentWnd;
+    m_psh = {};
+    m_psh.dwSize = sizeof(m_psh);
+    m_psh.pszCaption = caption_;
+    m_psh.nStartPage = iSelectPage;
+}
+
+INT_PTR CPropertySheet::DoModal()
+{
+    HWND disabledTop = NULL;
+    CWnd* owner = CWnd::GetSafeOwner(parent_, &disabledTop);
+    const HWND ownerWindow = owner->GetSafeHwnd();
+    const bool disabledOwner = ownerWindow != NULL && ::IsWindowEnabled(ownerWindow);
+    if (disabledOwner)
+        ::EnableWindow(ownerWindow, FALSE);
+
+    // The system's own modal loop knows no PreTranslateMessage, so the sheet runs modeless to the
+    // system, inside a loop of the library.
+    modal_ = true;
+    lastButton_ = IDCANCEL;
+    style_ = (DWORD)-1;
+    INT_PTR result = -1;
+    if (ShowSheet(ownerWindow))
+        result = RunModalLoop();
+    modal_ = false;
+
+    if (disabledOwner)
+        ::EnableWindow(ownerWindow, TRUE);
+    if (disabledTop != NULL)
+        ::EnableWindow(disabledTop, TRUE);
+    if (m_hWnd != NULL) {
+        if (ownerWindow != NULL && ::GetActiveWindow() == m_hWnd)
+            ::SetActiveWindow(ownerWindow);
+        DestroyWindow();
+    }
+    return result;
+}
+
+BOOL CPropertySheet::Create(CWnd* pParentWnd, DWORD dwStyle, DWORD dwExStyle)
+{
+    style_ = dwStyle;
+    exStyle_ = dwExStyle;
+    parent_ = pParentWnd;
+    return ShowSheet(pParentWnd->GetSafeHwnd());
+}
+
+void CPropertySheet::AddPage(CPropertyPage* pPage)
+{
+    pages_.push_back(pPage);
+    if (m_hWnd != NULL)
+        Ask(m_hWnd, PSM_ADDPAGE, 0, pPage->MakeSystemPage());
+}
+
+void CPropertySheet::RemovePage(CPropertyPage* pPage)
+{
+    const int index = GetPageIndex(pPage);
+    if (index >= 0)
+        RemovePage(index);
+}
+
+void CPropertySheet::RemovePage(int nPage)
+{
+    if (m_hWnd != NULL)
+        Ask(m_hWnd, PSM_REMOVEPAGE, nPage);
+    pages_.erase(pages_.begin() + nPage);
+}
+
+int CPropertySheet::GetPageCount() const
+{
+    return static_cast<int>(pages_.size());
+}
+
+CPropertyPage* CPropertySheet::GetPage(int nPage) const
+{
+    return pages_[nPage];
+}
+
+int CPropertySheet::GetPageIndex(CPropertyPage* pPage)
+{
+    const auto found = std::find(pages_.begin(), pages_.end(), pPage);
+    return found == pages_.end() ? -1 : static_cast<int>(found - pages_.begin());
+}
+
+CPropertyPage* CPropertySheet::GetActivePage() const
+{
+    const int index = GetActiveIndex();
+    return index >= 0 && index < GetPageCount() ? pages_[index] : NULL;
+}
+
+int CPropertySheet::GetActiveIndex() const
+{
+    return m_hWnd != NULL ? GetTabControl()->GetCurSel() : static_cast<int>(m_psh.nStartPage);
+}
+
+BOOL CPropertySheet::SetActivePage(int nPage)
+{
+    if (m_hWnd != NULL)
+        return Ask(m_hWnd, PSM_SETCURSEL, nPage);
+    m_psh.nStartPage = nPage;
+    return TRUE;
+}
+
+BOOL CPropertySheet::SetActivePage(CPropertyPage* pPage)
+{
+    const int index = GetPageIndex(pPage);
+    return index >= 0 && SetActivePage(index);
+}
+
+CTabCtrl* CPropertySheet::GetTabControl() const
+{
+    return (CTabCtrl*)CWnd::FromHandle((HWND)Ask(m_hWnd, PSM_GETTABCONTROL));
+}
+
+void CPropertySheet::SetTitle(LPCTSTR lpszText, UINT nStyle)
+{
+    if (m_hWnd != NULL) {
+        Ask(m_hWnd, PSM_SETTITLE, nStyle, lpszText);
+        return;
+    }
+    caption_ = lpszText;
+    m_psh.pszCaption = caption_;
+    m_psh.dwFlags = (m_psh.dwFlags & ~PSH_PROPTITLE) | nStyle;
+}
+
+void CPropertySheet::EnableStackedTabs(BOOL bStacked)
+{
+    stacked_ = bStacked;
+}
+
+void CPropertySheet::SetWizardMode()
+{
+    m_psh.dwFlags |= PSH_WIZARD;
+}
+
+void CPropertySheet::SetFinishText(LPCTSTR lpszText)
+{
+    Ask(m_hWnd, PSM_SETFINISHTEXT, 0, lpszText);
+}
+
+void CPropertySheet::SetWizardButtons(DWORD dwFlags)
+{
+    // Posted, as the page that asks for it in OnSetActive is not the active one yet.
+    PostMessage(PSM_SETWIZBUTTONS, 0, dwFlags);
+}
+
+void CPropertySheet::PressButton(int nButton)
+{
+    PostMessage(PSM_PRESSBUTTON, nButton);
+}
+
+void CPropertySheet::EndDialog(int nEndID)
+{
+    if (modal_)
+        EndModalLoop(nEndID);
+    else
+        DestroyWindow();
+}
+
+void CPropertySheet::MapDialogRect(LPRECT lpRect) const
+{
+    ::MapDialogRect(m_hWnd, lpRect);
+}
+
+BOOL CPropertySheet::OnInitDialog()
+{
+    const BOOL systemSetsFocus = Default(); // The system makes the tabs and the first page.
+    if (!stacked_)
+        GetTabControl()->ModifyStyle(TCS_MULTILINE, TCS_SINGLELINE);
+    if (!modal_ && !(m_psh.dwFlags & PSH_WIZARD))
+        HideButtons();
+    return systemSetsFocus;
+}
+
+BOOL CPropertySheet::ContinueModal()
+{
+    // A sheet that the system sees as modeless does not close: it only has no current page.
+    if (modal_ && m_hWnd != NULL && Ask(m_hWnd, PSM_GETCURRENTPAGEHWND) == 0)
+        EndModalLoop(lastButton_);
+    return CWnd::ContinueModal();
+}
+
+BOOL CPropertySheet::PreTranslateMessage(MSG* pMsg)
+{
+    if (CWnd::PreTranslateMessage(pMsg))
+        return TRUE;
+    return m_hWnd != NULL && Ask(m_hWnd, PSM_ISDIALOGMESSAGE, 0, pMsg);
+}
+
+BOOL CPropertySheet::OnCommand(WPARAM wParam, LPARAM lParam)
+{
+    const int id = LOWORD(wParam);
+    if (id == IDOK || id == IDCANCEL || id == ID_WIZFINISH)
+        lastButton_ = id;
+    return CWnd::OnCommand(wParam, lParam);
+}
+
+LRESULT CPropertySheet::OnInitDialogMessage(WPARAM, LPARAM)
+{
+    return OnInitDialog();
+}
+
+LRESULT CPropertySheet::OnPressButtonMessage(WPARAM wParam, LPARAM)
+{
+    // The system does what the button would do, without its command.
+    if (wParam == PSBTN_OK)
+        lastButton_ = IDOK;
+    else if (wParam == PSBTN_CANCEL)
+        lastButton_ = IDCANCEL;
+    else if (wParam == PSBTN_FINISH)
+        lastButton_ = ID_WIZFINISH;
+    return Default();
+}
+
+void CPropertySheet::OnClose()
+{
+    if (modal_)
+        PressButton(PSBTN_CANCEL);
+    else
+        DestroyWindow();
+}
+
+bool CPropertySheet::ShowSheet(HWND owner)
+{
+    afxint::NeedCommonControls(ICC_WIN95_CLASSES);
+    std::vector<HPROPSHEETPAGE> systemPages;
+    for (CPropertyPage* page : pages_)
+        systemPages.push_back(page->MakeSystemPage());
+
+    PROPSHEETHEADER header = m_psh;
+    header.dwFlags |= PSH_MODELESS | PSH_USECALLBACK;
+    header.dwFlags &= ~PSH_PROPSHEETPAGE;
+    header.hwndParent = owner;
+    header.nPages = systemPages.size();
+    header.phpage = systemPages.data();
+    header.pfnCallback = afxint::PropertySheetHook::Procedure;
+    afxint::WindowCreation creation(this);
+    sheetInCreation = this;
+    const INT_PTR sheet = creation.IsReady() ? ::PropertySheet(&header) : -1;
+    sheetInCreation = nullptr;
+    const HWND window = sheet == -1 ? NULL : (HWND)sheet;
+    if (!creation.Finish(window))
+        PostNcDestroy();
+    return window != NULL;
+}
+
+void CPropertySheet::HideButtons()
+{
+    int top = INT_MAX;
+    for (int id : {IDOK, IDCANCEL, ID_APPLY_NOW, IDHELP}) {
+        const HWND button = ::GetDlgItem(m_hWnd, id);
+        if (button == NULL)
+            continue;
+        CRect place;
+        ::GetWindowRect(button, place);
+        top = min(top, place.top);
+        ::ShowWindow(button, SW_HIDE);
+        ::EnableWindow(button, FALSE);
+    }
+    if (top == INT_MAX)
+        return;
+
+    CRect frame, client;
+    GetWindowRect(frame);
+    GetClientRect(client);
+    ClientToScreen(client);
+    frame.bottom -= client.bottom - top;
+    SetWindowPos(NULL, 0, 0, frame.Width(), frame.Height(),
+                 SWP_NOMOVE | SWP_NOZORDER | SWP_NOACTIVATE);
+}

@@ -1,0 +1,78 @@
+#include <classes/CRuntimeClass.h>
+
+#include <classes/CObject.h>
+
+#include "application/ModuleState.h"
+
+namespace {
+
+afxint::ClassRegistration* firstRegistration = nullptr; // Guarded by the module's lock.
+
+} // namespace
+
+CObject* CRuntimeClass::CreateObject()
+{
+    return m_pfnCreateObject == NULL ? NULL : m_pfnCreateObject();
+}
+
+BOOL CRuntimeClass::IsDerivedFrom(const CRuntimeClass* pBaseClass) const
+{
+    const CRuntimeClass* candidate = this;
+    while (candidate != NULL && candidate != pBaseClass)
+        candidate = candidate->m_pfnGetBaseClass();
+    return candidate != NULL;
+}
+
+CRuntimeClass* CRuntimeClass::FromName(LPCSTR lpszClassName)
+{
+    if (lpszClassName == NULL)
+        return NULL;
+    const afxint::ScopedLock lock(afxint::Module().lock);
+    for (const auto* entry = firstRegistration; entry != nullptr; entry = entry->next_) {
+        if (strcmp(entry->class_->m_lpszClassName, lpszClassName) == 0)
+            return entry->class_;
+    }
+    return NULL;
+}
+
+CRuntimeClass* CRuntimeClass::FromName(LPCWSTR lpszClassName)
+{
+    char name[256];
+    if (lpszClassName == NULL ||
+        WideCharToMultiByte(CP_ACP, 0, lpszClassName, -1, name, sizeof(name), NULL, NULL) == 0)
+        return NULL;
+    return FromName(name);
+}
+
+CObject* CRuntimeClass::CreateObject(LPCSTR lpszClassName)
+{
+    CRuntimeClass* named = FromName(lpszClassName);
+    return named == NULL ? NULL : named->CreateObject();
+}
+
+CObject* CRuntimeClass::CreateObject(LPCWSTR lpszClassName)
+{
+    CRuntimeClass* named = FromName(lpszClassName);
+    return named == NULL ? NULL : named->CreateObject();
+}
+
+namespace afxint {
+
+ClassRegistration::ClassRegistration(CRuntimeClass* runtimeClass) : class_(runtimeClass)
+{
+    const ScopedLock lock(Module().lock);
+    next_ = firstRegistration;
+    firstRegistration = this;
+}
+
+ClassRegistration::~ClassRegistration()
+{
+    const ScopedLock lock(Module().lock);
+    ClassRegistration** link = &firstRegistration;
+    while (*link != nullptr && *link != this)
+        link = &(*link)->next_;
+    if (*link == this)
+        *link = next_;
+}
+
+} // namespace afxint

@@ -1,0 +1,68 @@
+#include "threads/ThreadState.h"
+
+namespace afxint {
+
+namespace {
+
+// A thread_local object with a destructor will not do: this compiler's run-time library may free
+// its memory before the destructor runs.
+DWORD StateSlot()
+{
+    static const DWORD slot = TlsAlloc();
+    return slot;
+}
+
+/// Deletes the temporary objects that were made deeper in handlers than `depth`.
+void DropTemporaries(ThreadState& thread, int depth)
+{
+    thread.windows.DropTemporaries(depth);
+    thread.gdiObjects.DropTemporaries(depth);
+    thread.dcs.DropTemporaries(depth);
+    thread.menus.DropTemporaries(depth);
+    thread.imageLists.DropTemporaries(depth);
+}
+
+void FreeState()
+{
+    auto* state = static_cast<ThreadState*>(TlsGetValue(StateSlot()));
+    if (state == NULL)
+        return;
+    DropTemporaries(*state, -1); // While their destructors still find the state.
+    TlsSetValue(StateSlot(), NULL);
+    delete state;
+}
+
+} // namespace
+
+ThreadState& CurrentThread()
+{
+    const DWORD error = GetLastError(); // Asking for the state must not cost a caller the error.
+    auto* state = static_cast<ThreadState*>(TlsGetValue(StateSlot()));
+    if (state == NULL) {
+        state = new ThreadState;
+        TlsSetValue(StateSlot(), state);
+    }
+    SetLastError(error);
+    return *state;
+}
+
+int HandlerDepth()
+{
+    return CurrentThread().handlerDepth;
+}
+
+void DropTemporaryObjects()
+{
+    ThreadState& thread = CurrentThread();
+    // What was made outside of handlers lives until the next idle time of any loop.
+    DropTemporaries(thread, thread.handlerDepth == 0 ? -1 : thread.handlerDepth);
+}
+
+} // namespace afxint
+
+extern "C" BOOL WINAPI DllMain(HINSTANCE, DWORD reason, LPVOID)
+{
+    if (reason == DLL_THREAD_DETACH)
+        afxint::FreeState();
+    return TRUE;
+}

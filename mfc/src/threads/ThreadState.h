@@ -1,0 +1,75 @@
+// What the class library keeps for each thread.
+#pragma once
+
+#include "objects/HandleMap.h"
+
+class CDC;
+class CGdiObject;
+class CImageList;
+class CMenu;
+class CWinThread;
+class CWnd;
+
+namespace afxint {
+
+class WindowCreation;
+
+// Wrap and Unwrap of each kind stand in the source of the class.
+struct WindowTraits
+{
+    using Handle = HWND;
+    using Object = CWnd;
+    static CWnd* Wrap(HWND window);
+    static void Unwrap(CWnd* window);
+};
+struct GdiObjectTraits
+{
+    using Handle = HGDIOBJ;
+    using Object = CGdiObject;
+    static CGdiObject* Wrap(HGDIOBJ handle);
+    static void Unwrap(CGdiObject* object);
+};
+struct DcTraits
+{
+    using Handle = HDC;
+    using Object = CDC;
+    static CDC* Wrap(HDC handle);
+    static void Unwrap(CDC* dc);
+};
+struct MenuTraits
+{
+    using Handle = HMENU;
+    using Object = CMenu;
+    static CMenu* Wrap(HMENU handle);
+    static void Unwrap(CMenu* menu);
+};
+struct ImageListTraits
+{
+    using Handle = HIMAGELIST;
+    using Object = CImageList;
+    static CImageList* Wrap(HIMAGELIST handle);
+    static void Unwrap(CImageList* list);
+};
+
+struct ThreadState
+{
+    CWinThread* thread = nullptr;        ///< What AfxGetThread answers; not owned.
+    int handlerDepth = 0;                ///< Message handlers on the stack.
+    MSG currentMessage{};                ///< The message that Default() hands on.
+    WindowCreation* creation = nullptr;  ///< Waits for the next window that is created.
+    HMENU openedMenu = nullptr;          ///< The menu whose items may be measured next.
+
+    HandleMap<WindowTraits> windows;
+    HandleMap<GdiObjectTraits> gdiObjects;
+    HandleMap<DcTraits> dcs;
+    HandleMap<MenuTraits> menus;
+    HandleMap<ImageListTraits> imageLists;
+};
+
+/// The state of the calling thread, made on first use and freed when the thread ends.
+ThreadState& CurrentThread();
+
+/// Deletes the temporary objects of the calling thread that no running handler can still hold.
+void DropTemporaryObjects();
+
+} // namespace afxint

@@ -1,0 +1,265 @@
+#include <classes/CException.h>
+#include <classes/CTime.h>
+
+#include "text/FormatResource.h"
+
+namespace {
+
+__time64_t TimeOfParts(const SYSTEMTIME& st, int dst)
+{
+    struct tm parts = {};
+    parts.tm_year = st.wYear - 1900;
+    parts.tm_mon = st.wMonth - 1;
+    parts.tm_mday = st.wDay;
+    parts.tm_hour = st.wHour;
+    parts.tm_min = st.wMinute;
+    parts.tm_sec = st.wSecond;
+    parts.tm_isdst = dst;
+    const bool isDate = st.wYear >= 1900 && st.wMonth >= 1 && st.wMonth <= 12 && st.wDay >= 1 &&
+                        st.wDay <= 31 && st.wHour <= 23 && st.wMinute <= 59 && st.wSecond <= 59;
+    const __time64_t time = isDate ? _mktime64(&parts) : -1;
+    if (time == -1)
+        AfxThrowInvalidArgException();
+    return time;
+}
+
+/// Parts as a SYSTEMTIME; those that do not fit become invalid ones.
+SYSTEMTIME PartsOf(int year, int month, int day, int hour, int minute, int second)
+{
+    const auto fit = [](int part) {
+        return static_cast<WORD>(part < 0 ? 0xFFFF : min(part, 0xFFFF));
+    };
+    SYSTEMTIME st = {};
+    st.wYear = fit(year);
+    st.wMonth = fit(month);
+    st.wDay = fit(day);
+    st.wHour = fit(hour);
+    st.wMinute = fit(minute);
+    st.wSecond = fit(second);
+    return st;
+}
+
+__time64_t TimeOfFileTime(const FILETIME& ft)
+{
+    // File times count units of 100 ns from 1601 on, in universal time like ours.
+    constexpr LONGLONG unitsOfSecond = 10'000'000;
+    constexpr LONGLONG secondsTo1970 = 11'644'473'600;
+    const LONGLONG units =
+        static_cast<LONGLONG>(static_cast<ULONGLONG>(ft.dwHighDateTime) << 32 | ft.dwLowDateTime);
+    if (units / unitsOfSecond < secondsTo1970)
+        AfxThrowInvalidArgException();
+    return units / unitsOfSecond - secondsTo1970;
+}
+
+CString FormatParts(const struct tm* parts, LPCTSTR format)
+{
+    if (format == nullptr || parts == nullptr)
+        AfxThrowInvalidArgException();
+    CString result;
+    if (*format == '\0')
+        return result;
+    // A result of no characters cannot be told from one that did not fit: a mark at the end helps.
+    const CString marked = CString(format) + '.';
+    for (int room = 128; room <= 128 * 1024; room *= 4) {
+        const size_t length = strftime(result.GetBuffer(room), room, marked, parts);
+        result.ReleaseBufferSetLength(length == 0 ? 0 : static_cast<int>(length) - 1);
+        if (length != 0)
+            return result;
+    }
+    AfxThrowInvalidArgException();
+}
+
+} // namespace
+
+CTime WINAPI CTime::GetCurrentTime()
+{
+    return CTime(_time64(nullptr));
+}
+
+CTime::CTime() : m_time(0)
+{
+}
+
+CTime::CTime(__time64_t time) : m_time(time)
+{
+}
+
+CTime::CTime(int nYear, int nMonth, int nDay, int nHour, int nMin, int nSec, int nDST)
+    : CTime(PartsOf(nYear, nMonth, nDay, nHour, nMin, nSec), nDST)
+{
+}
+
+CTime::CTime(WORD wDosDate, WORD wDosTime, int nDST)
+    : CTime((wDosDate >> 9) + 1980, (wDosDate >> 5) & 15, wDosDate & 31, wDosTime >> 11,
+            (wDosTime >> 5) & 63, (wDosTime & 31) * 2, nDST)
+{
+}
+
+CTime::CTime(const SYSTEMTIME& st, int nDST) : m_time(TimeOfParts(st, nDST))
+{
+}
+
+CTime::CTime(const FILETIME& ft, int /*nDST*/) : m_time(TimeOfFileTime(ft))
+{
+}
+
+CTime& CTime::operator=(__time64_t time)
+{
+    m_time = time;
+    return *this;
+}
+
+CTime& CTime::operator+=(CTimeSpan span)
+{
+    m_time += span.GetTimeSpan();
+    return *this;
+}
+
+CTime& CTime::operator-=(CTimeSpan span)
+{
+    m_time -= span.GetTimeSpan();
+    return *this;
+}
+
+CTimeSpan CTime::operator-(CTime time) const
+{
+    return CTimeSpan(m_time - time.m_time);
+}
+
+CTime CTime::operator-(CTimeSpan span) const
+{
+    return CTime(m_time - span.GetTimeSpan());
+}
+
+CTime CTime::operator+(CTimeSpan span) const
+{
+    return CTime(m_time + span.GetTimeSpan());
+}
+
+bool CTime::operator==(CTime time) const
+{
+    return m_time == time.m_time;
+}
+
+bool CTime::operator!=(CTime time) const
+{
+    return m_time != time.m_time;
+}
+
+bool CTime::operator<(CTime time) const
+{
+    return m_time < time.m_time;
+}
+
+bool CTime::operator>(CTime time) const
+{
+    return m_time > time.m_time;
+}
+
+bool CTime::operator<=(CTime time) const
+{
+    return m_time <= time.m_time;
+}
+
+bool CTime::operator>=(CTime time) const
+{
+    return m_time >= time.m_time;
+}
+
+struct tm* CTime::GetGmtTm(struct tm* ptm) const
+{
+    const struct tm* parts = ptm == nullptr ? nullptr : _gmtime64(&m_time);
+    if (parts == nullptr)
+        return nullptr;
+    *ptm = *parts;
+    return ptm;
+}
+
+struct tm* CTime::GetLocalTm(struct tm* ptm) const
+{
+    const struct tm* parts = ptm == nullptr ? nullptr : _localtime64(&m_time);
+    if (parts == nullptr)
+        return nullptr;
+    *ptm = *parts;
+    return ptm;
+}
+
+bool CTime::GetAsSystemTime(SYSTEMTIME& st) const
+{
+    struct tm parts;
+    if (GetLocalTm(&parts) == nullptr)
+        return false;
+    st = PartsOf(parts.tm_year + 1900, parts.tm_mon + 1, parts.tm_mday, parts.tm_hour, parts.tm_min,
+                 parts.tm_sec);
+    st.wDayOfWeek = static_cast<WORD>(parts.tm_wday);
+    return true;
+}
+
+__time64_t CTime::GetTime() const
+{
+    return m_time;
+}
+
+int CTime::GetYear() const
+{
+    struct tm parts;
+    return GetLocalTm(&parts) == nullptr ? 0 : parts.tm_year + 1900;
+}
+
+int CTime::GetMonth() const
+{
+    struct tm parts;
+    return GetLocalTm(&parts) == nullptr ? 0 : parts.tm_mon + 1;
+}
+
+int CTime::GetDay() const
+{
+    struct tm parts;
+    return GetLocalTm(&parts) == nullptr ? 0 : parts.tm_mday;
+}
+
+int CTime::GetHour() const
+{
+    struct tm parts;
+    return GetLocalTm(&parts) == nullptr ? -1 : parts.tm_hour;
+}
+
+int CTime::GetMinute() const
+{
+    struct tm parts;
+    return GetLocalTm(&parts) == nullptr ? -1 : parts.tm_min;
+}
+
+int CTime::GetSecond() const
+{
+    struct tm parts;
+    return GetLocalTm(&parts) == nullptr ? -1 : parts.tm_sec;
+}
+
+int CTime::GetDayOfWeek() const
+{
+    struct tm parts;
+    return GetLocalTm(&parts) == nullptr ? 0 : parts.tm_wday + 1;
+}
+
+CString CTime::Format(LPCTSTR pszFormat) const
+{
+    struct tm parts;
+    return FormatParts(GetLocalTm(&parts), pszFormat);
+}
+
+CString CTime::FormatGmt(LPCTSTR pszFormat) const
+{
+    struct tm parts;
+    return FormatParts(GetGmtTm(&parts), pszFormat);
+}
+
+CString CTime::Format(UINT nFormatID) const
+{
+    return Format(afxint::LoadFormat(nFormatID));
+}
+
+CString CTime::FormatGmt(UINT nFormatID) const
+{
+    return FormatGmt(afxint::LoadFormat(nFormatID));
+}

@@ -1,0 +1,84 @@
+#include "windows/WindowCreation.h"
+
+#include "threads/ThreadState.h"
+#include "windows/WindowMessages.h"
+
+#include <classes/CException.h>
+#include <classes/CWnd.h>
+
+namespace afxint {
+
+namespace {
+
+/// The system makes a window for input methods before the first window of a thread.
+bool IsInputMethodWindow(const CREATESTRUCT& create)
+{
+    return !IS_INTRESOURCE(create.lpszClass) && lstrcmpi(create.lpszClass, "IME") == 0;
+}
+
+} // namespace
+
+WindowCreation::WindowCreation(CWnd* object)
+    : object_(object), hook_(SetWindowsHookEx(WH_CBT, &OnHook, NULL, GetCurrentThreadId())),
+      outer_(CurrentThread().creation)
+{
+    if (IsReady())
+        CurrentThread().creation = this;
+}
+
+WindowCreation::~WindowCreation()
+{
+    StopWaiting();
+}
+
+bool WindowCreation::Finish(HWND window)
+{
+    StopWaiting();
+    if (window_ == NULL)
+        return false;
+    if (window != NULL || CWnd::FromHandlePermanent(window_) != object_)
+        return true;
+    // The window vanished without WM_NCDESTROY.
+    WindowMessages::Forget(object_);
+    return false;
+}
+
+LRESULT CALLBACK WindowCreation::OnHook(int code, WPARAM wParam, LPARAM lParam)
+{
+    WindowCreation* creation = CurrentThread().creation;
+    if (code != HCBT_CREATEWND || creation == NULL)
+        return CallNextHookEx(NULL, code, wParam, lParam);
+    const auto* details = reinterpret_cast<CBT_CREATEWND*>(lParam);
+    if (IsInputMethodWindow(*details->lpcs))
+        return CallNextHookEx(NULL, code, wParam, lParam);
+
+    creation->window_ = reinterpret_cast<HWND>(wParam);
+    CWnd* object = creation->object_;
+    creation->StopWaiting();
+    try {
+        if (!WindowMessages::TakeOver(object, creation->window_)) {
+            creation->window_ = NULL;
+            return 1; // No window.
+        }
+    } catch (CException* e) {
+        e->Delete();
+        return 1;
+    }
+    return CallNextHookEx(NULL, code, wParam, lParam);
+}
+
+void WindowCreation::StopWaiting()
+{
+    if (hook_ == NULL)
+        return;
+    UnhookWindowsHookEx(hook_);
+    hook_ = NULL;
+    CurrentThread().creation = outer_;
+}
+
+INT_PTR CALLBACK DialogProcedure(HWND, UINT, WPARAM, LPARAM)
+{
+    return FALSE;
+}
+
+} // namespace afxint

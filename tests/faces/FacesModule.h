@@ -1,0 +1,10 @@
+// Where the faces under test are: what hosts cannot see is not exported by umbra.dll, so all of
+// faces/ is linked into the test program itself.
+#pragma once
+
+#include <afxwin.h>
+
+inline HMODULE FacesModule()
+{
+    return ::GetModuleHandle(NULL);
+}

@@ -1,0 +1,252 @@
+#include <afxwin.h>
+#include <afxres.h>
+
+#include <doctest/doctest.h>
+
+#include "testing/NextDialog.h"
+
+#include "tests/mfc/MessageBoxText.h"
+
+#include <vector>
+
+using umbra::testing::NextDialog;
+
+namespace {
+
+constexpr char company[] = "Umbra Tests";
+
+/// A second application object, for its settings; the program's own stays what it is.
+class CSettingsApp : public CWinApp
+{
+public:
+    explicit CSettingsApp(LPCTSTR name) : CWinApp(name) {}
+    using CWinApp::Enable3dControls;
+    using CWinApp::Enable3dControlsStatic;
+    using CWinApp::SetRegistryKey;
+};
+
+/// Settings in the registry, removed at the end.
+struct RegistryApp
+{
+    CSettingsApp app{"Settings"};
+    RegistryApp() { app.SetRegistryKey(company); }
+    ~RegistryApp() { app.DelRegTree(HKEY_CURRENT_USER, CString("Software\\") + company); }
+};
+
+/// Settings in a file of the temporary folder.
+struct FileApp
+{
+    CSettingsApp app{"Settings"};
+    CString path;
+    FileApp()
+    {
+        char folder[MAX_PATH];
+        ::GetTempPathA(MAX_PATH, folder);
+        path.Format("%sumbra-%lu.ini", folder, ::GetCurrentProcessId());
+        app.m_pszProfileName = _tcsdup(path);
+    }
+    ~FileApp() { ::DeleteFile(path); }
+};
+
+void CheckSettings(CWinApp& app)
+{
+    CHECK(app.GetProfileInt("Window", "Left", 42) == 42);
+    CHECK(app.WriteProfileInt("Window", "Left", -7));
+    CHECK(int(app.GetProfileInt("Window", "Left", 42)) == -7);
+
+    CHECK(app.GetProfileString("Window", "Title", "none") == "none");
+    CHECK(app.GetProfileString("Window", "Title") == "");
+    CHECK(app.WriteProfileString("Window", "Title", "A title"));
+    CHECK(app.GetProfileString("Window", "Title", "none") == "A title");
+    const CString longText('x', 6000);
+    CHECK(app.WriteProfileString("Window", "Long", longText));
+    CHECK(app.GetProfileString("Window", "Long") == longText);
+
+    CHECK(app.WriteProfileString("Window", "Title", NULL));
+    CHECK(app.GetProfileString("Window", "Title", "gone") == "gone");
+    CHECK(app.WriteProfileString("Window", NULL, NULL));
+    CHECK(app.GetProfileInt("Window", "Left", 42) == 42);
+
+    BYTE written[] = {0, 1, 0x7F, 0x80, 0xFF};
+    LPBYTE read = nullptr;
+    UINT size = 99;
+    CHECK_FALSE(app.GetProfileBinary("Window", "Place", &read, &size));
+    CHECK(read == nullptr);
+    CHECK(app.WriteProfileBinary("Window", "Place", written, sizeof(written)));
+    REQUIRE(app.GetProfileBinary("Window", "Place", &read, &size));
+    CHECK(std::vector<BYTE>(read, read + size) == std::vector<BYTE>(written, written + 5));
+    delete[] read;
+}
+
+} // namespace
+
+TEST_CASE("the one application object is known everywhere")
+{
+    CWinApp* app = AfxGetApp();
+    REQUIRE(app != nullptr);
+    CHECK(AfxGetThread() == app);
+    CHECK(app->m_hInstance == ::GetModuleHandle(nullptr));
+    CHECK(app->m_nThreadID == ::GetCurrentThreadId());
+    const CSettingsApp second("Second");
+    CHECK(AfxGetApp() == app);
+}
+
+TEST_CASE("the application is named after its file unless it has a title of its own")
+{
+    CWinApp* app = AfxGetApp();
+    CHECK(CString(app->m_pszExeName) == "test-mfc");
+    CHECK(CString(AfxGetAppName()) == "test-mfc");
+    CHECK(CString(app->m_pszProfileName) == "test-mfc.INI");
+    CHECK(CString(app->m_pszHelpFilePath).Right(13) == "\\test-mfc.hlp");
+    CHECK(CString(CSettingsApp("Own name").m_pszAppName) == "Own name");
+}
+
+TEST_CASE("settings are kept in the registry after SetRegistryKey")
+{
+    RegistryApp settings;
+    CHECK(CString(settings.app.m_pszProfileName) == "Settings");
+    CheckSettings(settings.app);
+
+    settings.app.WriteProfileInt("Window", "Top", 5);
+    DWORD value = 0;
+    DWORD size = sizeof(value);
+    CHECK(::SHGetValueA(HKEY_CURRENT_USER, "Software\\Umbra Tests\\Settings\\Window", "Top",
+                        nullptr, &value, &size) == ERROR_SUCCESS);
+    CHECK(value == 5);
+}
+
+TEST_CASE("the keys of the application and of a section can be had")
+{
+    RegistryApp settings;
+    const HKEY application = settings.app.GetAppRegistryKey();
+    const HKEY section = settings.app.GetSectionKey("Colours");
+    CHECK(application != nullptr);
+    CHECK(section != nullptr);
+    HKEY below = nullptr;
+    CHECK(::RegOpenKeyA(application, "Colours", &below) == ERROR_SUCCESS);
+    for (HKEY key : {application, section, below})
+        ::RegCloseKey(key);
+}
+
+TEST_CASE("without SetRegistryKey settings are kept in a file")
+{
+    FileApp settings;
+    CheckSettings(settings.app);
+    settings.app.WriteProfileInt("Window", "Top", 5);
+    CHECK(::GetPrivateProfileIntA("Window", "Top", 0, settings.path) == 5);
+}
+
+TEST_CASE("three-dimensional controls are taken for granted")
+{
+    CSettingsApp app("Settings");
+    CHECK(app.Enable3dControls());
+    CHECK(app.Enable3dControlsStatic());
+}
+
+TEST_CASE("switches for automation are taken out of the command line")
+{
+    CSettingsApp app("Settings");
+    char line[] = "file.txt -embedding /Automations";
+    app.m_lpCmdLine = line;
+    CHECK(app.RunEmbedded());
+    CHECK_FALSE(app.RunEmbedded());
+    CHECK_FALSE(app.RunAutomated());
+    CHECK(CString(line) == "file.txt  /Automations");
+    app.m_lpCmdLine = NULL;
+    CHECK_FALSE(app.RunAutomated());
+}
+
+TEST_CASE("the parameters of a command line say what to do")
+{
+    const auto parse = [](CCommandLineInfo& info, std::vector<const char*> words) {
+        for (size_t i = 0; i < words.size(); ++i) {
+            const bool flag = words[i][0] == '/';
+            info.ParseParam(words[i] + (flag ? 1 : 0), flag, i + 1 == words.size());
+        }
+    };
+    CCommandLineInfo fresh;
+    CHECK(fresh.m_nShellCommand == CCommandLineInfo::FileNew);
+    CHECK(fresh.m_bShowSplash);
+
+    CCommandLineInfo open;
+    parse(open, {"letter.txt", "second.txt"});
+    CHECK(open.m_nShellCommand == CCommandLineInfo::FileOpen);
+    CHECK(open.m_strFileName == "letter.txt");
+
+    CCommandLineInfo print;
+    parse(print, {"/pt", "letter.txt", "printer", "driver", "port"});
+    CHECK(print.m_nShellCommand == CCommandLineInfo::FilePrintTo);
+    CHECK(print.m_strFileName == "letter.txt");
+    CHECK(print.m_strPrinterName == "printer");
+    CHECK(print.m_strDriverName == "driver");
+    CHECK(print.m_strPortName == "port");
+
+    CCommandLineInfo embedded;
+    parse(embedded, {"/Embedding"});
+    CHECK(embedded.m_bRunEmbedded);
+    CHECK_FALSE(embedded.m_bShowSplash);
+}
+
+TEST_CASE("standard cursors and icons are loaded")
+{
+    const CWinApp* app = AfxGetApp();
+    CHECK(app->LoadStandardCursor(IDC_CROSS) == ::LoadCursor(NULL, IDC_CROSS));
+    CHECK(app->LoadStandardIcon(IDI_APPLICATION) == ::LoadIcon(NULL, IDI_APPLICATION));
+    CHECK(app->LoadIcon(4711) == nullptr);
+}
+
+TEST_CASE("message boxes carry the application's name and give back the button")
+{
+    char title[64] = "";
+    std::string text;
+    NextDialog answer([&](HWND box) {
+        ::GetWindowTextA(box, title, sizeof(title));
+        text = MessageBoxText(box);
+        ::PostMessage(box, WM_COMMAND, IDNO, 0);
+    });
+    CHECK(AfxMessageBox("Go on?", MB_YESNO | MB_ICONQUESTION) == IDNO);
+    CHECK(text == "Go on?");
+    CHECK(CString(title) == AfxGetAppName());
+}
+
+TEST_CASE("a message box shows a string resource")
+{
+    std::string text;
+    NextDialog answer([&](HWND box) {
+        text = MessageBoxText(box);
+        ::PostMessage(box, WM_COMMAND, IDOK, 0);
+    });
+    CHECK(AfxMessageBox(AFX_IDP_PARSE_INT) == IDOK);
+    CString expected;
+    expected.LoadString(AFX_IDP_PARSE_INT);
+    CHECK(text == expected.GetString());
+}
+
+TEST_CASE("the main window owns message boxes, and a dialog over it before that")
+{
+    CWnd frame;
+    REQUIRE(frame.CreateEx(0, AfxRegisterWndClass(0), "main", WS_OVERLAPPEDWINDOW | WS_VISIBLE, 0,
+                           0, 200, 100, NULL, NULL));
+    CWinThread* thread = AfxGetThread();
+    thread->m_pMainWnd = &frame;
+    const auto ownerOfBox = [] {
+        HWND owner = nullptr;
+        NextDialog answer([&](HWND box) {
+            owner = ::GetWindow(box, GW_OWNER);
+            ::PostMessage(box, WM_COMMAND, IDOK, 0);
+        });
+        AfxMessageBox("text");
+        return owner;
+    };
+    CHECK(ownerOfBox() == frame.m_hWnd);
+
+    CWnd popup;
+    REQUIRE(popup.CreateEx(0, AfxRegisterWndClass(0), "popup", WS_POPUP | WS_VISIBLE, 0, 0, 50, 50,
+                           frame.m_hWnd, NULL));
+    popup.SetActiveWindow();
+    CHECK(ownerOfBox() == popup.m_hWnd);
+    popup.DestroyWindow();
+
+    thread->m_pMainWnd = NULL;
+    frame.DestroyWindow();
+}

@@ -1,0 +1,190 @@
+#include <afxwin.h>
+#include <afxres.h>
+
+#include <doctest/doctest.h>
+
+#include "tests/mfc/programs/Extension/ExtensionResource.h"
+
+namespace {
+
+/// The extension DLL, loaded as long as this lives.
+class Extension
+{
+public:
+    Extension() : m_hModule(AfxLoadLibrary("mfc-test-extension.dll")) {}
+    ~Extension() { AfxFreeLibrary(m_hModule); }
+    Extension(const Extension&) = delete;
+    Extension& operator=(const Extension&) = delete;
+    /// An exported function of the DLL; the test ends when there is none.
+    template <class Function>
+    Function Find(LPCSTR name) const
+    {
+        void* address = reinterpret_cast<void*>(::GetProcAddress(m_hModule, name));
+        REQUIRE(address != nullptr);
+        return reinterpret_cast<Function>(address);
+    }
+
+    HMODULE m_hModule;
+};
+
+CString LoadOne(UINT id)
+{
+    TCHAR text[256];
+    const int length = AfxLoadString(id, text);
+    CHECK(length == int(strlen(text)));
+    return text;
+}
+
+HINSTANCE FindIcon()
+{
+    return AfxFindResourceHandle(MAKEINTRESOURCE(EXT_ICON), RT_GROUP_ICON);
+}
+
+} // namespace
+
+TEST_CASE("an extension DLL enters the search for resources by itself and leaves it at the end")
+{
+    CHECK(FindIcon() == AfxGetResourceHandle());
+    CHECK(AfxGetApp()->LoadIcon(EXT_ICON) == nullptr);
+    {
+        const Extension extension;
+        REQUIRE(extension.m_hModule != nullptr);
+        CHECK(FindIcon() == extension.m_hModule);
+        CHECK(AfxGetApp()->LoadIcon(EXT_ICON) != nullptr);
+        CHECK(LoadOne(EXT_STRING) == "from the extension");
+    }
+    CHECK(FindIcon() == AfxGetResourceHandle());
+    CHECK(LoadOne(EXT_STRING) == "");
+    const Extension again;
+    CHECK(LoadOne(EXT_STRING) == "from the extension");
+}
+
+TEST_CASE("the program's string wins over the DLL's string of the same id")
+{
+    const Extension extension;
+    CHECK(LoadOne(EXT_STRING_OF_BOTH) == "from the program");
+}
+
+TEST_CASE("a block of strings in the program does not hide the DLL's strings in the same block")
+{
+    static_assert(EXT_STRING / 16 == EXT_STRING_OF_BOTH / 16);
+    static_assert(EXT_STRING / 16 == EXT_STRING_OF_PROGRAM / 16);
+    const Extension extension;
+    CHECK(LoadOne(EXT_STRING_OF_PROGRAM) == "only in the program");
+    CHECK(LoadOne(EXT_STRING) == "from the extension");
+    CString text;
+    CHECK(text.LoadString(EXT_STRING));
+    CHECK(text == "from the extension");
+}
+
+TEST_CASE("an empty string in a block counts as missing")
+{
+    CHECK(LoadOne(EXT_STRING_OF_NOBODY) == "");
+    CString text = "before";
+    CHECK_FALSE(text.LoadString(EXT_STRING_OF_NOBODY));
+}
+
+TEST_CASE("the library's own strings come last")
+{
+    CHECK_FALSE(LoadOne(AFX_IDP_PARSE_INT).IsEmpty());
+    CHECK(LoadOne(AFX_IDP_PARSE_UINT) == "the program's own wording");
+}
+
+TEST_CASE("the resource module can be another one than the program")
+{
+    const Extension extension;
+    const HINSTANCE program = AfxGetResourceHandle();
+    CHECK(program == AfxGetInstanceHandle());
+    AfxSetResourceHandle(extension.m_hModule);
+    CHECK(AfxGetResourceHandle() == extension.m_hModule);
+    CHECK(LoadOne(EXT_STRING_OF_BOTH) == "from the extension, too");
+    CHECK(LoadOne(EXT_STRING_OF_PROGRAM) == "");
+    CHECK(AfxGetInstanceHandle() == program);
+    AfxSetResourceHandle(program);
+}
+
+TEST_CASE("a long string is cut to the buffer")
+{
+    TCHAR text[8];
+    CHECK(AfxLoadString(AFX_IDP_PARSE_INT, text, 8) == 7);
+    CHECK(strlen(text) == 7);
+    CHECK(AfxLoadString(AFX_IDP_PARSE_INT, text, 0) == 0);
+}
+
+TEST_CASE("placeholders of a string are replaced")
+{
+    CString text;
+    AfxFormatString2(text, EXT_STRING_WITH_PLACES, "left", "right");
+    CHECK(text == "right before left, 100% %3");
+    AfxFormatString1(text, EXT_STRING_WITH_PLACES, "left");
+    CHECK(text == "%2 before left, 100% %3");
+    AfxFormatString2(text, EXT_STRING_WITH_PLACES, NULL, "%1");
+    CHECK(text == "%1 before , 100% %3");
+}
+
+TEST_CASE("parts are taken out of a text")
+{
+    CString part;
+    CHECK(AfxExtractSubString(part, "one\ntwo\n\nfour", 0));
+    CHECK(part == "one");
+    CHECK(AfxExtractSubString(part, "one\ntwo\n\nfour", 1));
+    CHECK(part == "two");
+    CHECK(AfxExtractSubString(part, "one\ntwo\n\nfour", 2));
+    CHECK(part == "");
+    CHECK(AfxExtractSubString(part, "one\ntwo\n\nfour", 3));
+    CHECK(part == "four");
+    CHECK_FALSE(AfxExtractSubString(part, "one\ntwo\n\nfour", 4));
+    CHECK(part == "");
+    CHECK(AfxExtractSubString(part, "a;b", 1, ';'));
+    CHECK(part == "b");
+    CHECK_FALSE(AfxExtractSubString(part, NULL, 0));
+}
+
+TEST_CASE("inside a DLL the functions answer the program's objects")
+{
+    const Extension extension;
+    using Ask = void(WINAPI*)(CWinApp**, HINSTANCE*);
+    const auto ask = extension.Find<Ask>("AskForProgram");
+    CWinApp* app = nullptr;
+    HINSTANCE instance = nullptr;
+    ask(&app, &instance);
+    CHECK(app == AfxGetApp());
+    CHECK(app != nullptr);
+    CHECK(instance == ::GetModuleHandle(nullptr));
+}
+
+TEST_CASE("classes of a DLL are known as long as it is loaded")
+{
+    CHECK(CRuntimeClass::FromName("CExtensionObject") == nullptr);
+    {
+        const Extension extension;
+        CObject* made = CRuntimeClass::CreateObject("CExtensionObject");
+        REQUIRE(made != nullptr);
+        CHECK(made->IsKindOf(RUNTIME_CLASS(CCmdTarget)));
+        delete made;
+    }
+    CHECK(CRuntimeClass::FromName("CExtensionObject") == nullptr);
+}
+
+TEST_CASE("an exception thrown in one module is caught in the other")
+{
+    const Extension extension;
+    using Call = bool(WINAPI*)(void (*)());
+    using Throw = void(WINAPI*)();
+    const auto callAndCatch = extension.Find<Call>("CallAndCatch");
+    const auto throwUser = extension.Find<Throw>("ThrowUser");
+    CHECK(callAndCatch([] { AfxThrowUserException(); }));
+    CHECK(callAndCatch([] { throw new CUserException; }));
+    CHECK_FALSE(callAndCatch([] {}));
+    bool caught = false;
+    TRY
+    {
+        throwUser();
+    }
+    CATCH(CUserException, e)
+    {
+        caught = true;
+    }
+    END_CATCH
+    CHECK(caught);
+}

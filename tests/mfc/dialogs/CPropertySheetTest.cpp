@@ -1,0 +1,360 @@
+#include <afxdlgs.h>
+#include <afxcmn.h>
+
+#include <doctest/doctest.h>
+
+#include "testing/Input.h"
+#include "testing/NextDialog.h"
+#include "testing/Page.h"
+#include "testing/Pump.h"
+
+#include "tests/mfc/ControlHost.h"
+
+#include <string>
+#include <vector>
+
+using namespace umbra::testing;
+
+namespace {
+
+constexpr int fieldId = 501;
+
+/// A page with a field for a number from 0 to 9, that writes down what happens.
+class CNumberPage : public CPropertyPage
+{
+public:
+    explicit CNumberPage(const char* title)
+        : template_(0, 0, 150, 80, WS_CHILD | WS_CAPTION | DS_3DLOOK | WS_TABSTOP, title)
+    {
+        template_.Edit(fieldId, "", 10, 10, 60, 14);
+        m_psp.dwFlags |= PSP_DLGINDIRECT;
+        m_psp.pResource = template_.Get();
+    }
+
+    int number = 3;
+    bool acceptsCancel = true;
+    LRESULT next = 0;
+    std::vector<std::string> events;
+
+    int CountOf(const char* event) const
+    {
+        return static_cast<int>(std::count(events.begin(), events.end(), event));
+    }
+    void Enter(const char* text) { SetDlgItemText(fieldId, text); }
+
+    BOOL OnSetActive() override
+    {
+        events.push_back("active");
+        return CPropertyPage::OnSetActive();
+    }
+    BOOL OnKillActive() override
+    {
+        events.push_back("kill");
+        return CPropertyPage::OnKillActive();
+    }
+    BOOL OnApply() override
+    {
+        events.push_back("apply");
+        return CPropertyPage::OnApply();
+    }
+    void OnOK() override { events.push_back("ok"); }
+    void OnReset() override
+    {
+        events.push_back("reset");
+        CPropertyPage::OnReset();
+    }
+    void OnCancel() override { events.push_back("cancel"); }
+    BOOL OnQueryCancel() override { return acceptsCancel; }
+    LRESULT OnWizardNext() override
+    {
+        events.push_back("next");
+        return next;
+    }
+    BOOL OnWizardFinish() override
+    {
+        events.push_back("finish");
+        return TRUE;
+    }
+    BOOL OnInitDialog() override
+    {
+        events.push_back("init");
+        return CPropertyPage::OnInitDialog();
+    }
+
+protected:
+    void DoDataExchange(CDataExchange* pDX) override
+    {
+        CPropertyPage::DoDataExchange(pDX);
+        DDX_Text(pDX, fieldId, number);
+        DDV_MinMaxInt(pDX, number, 0, 9);
+    }
+    afx_msg int OnCreate(LPCREATESTRUCT lpCreateStruct)
+    {
+        events.push_back("create");
+        return CPropertyPage::OnCreate(lpCreateStruct);
+    }
+    afx_msg LRESULT OnSiblingQuestion(WPARAM wParam, LPARAM) { return wParam == 7 ? 77 : 0; }
+    DECLARE_MESSAGE_MAP()
+
+private:
+    DialogTemplate template_;
+};
+BEGIN_MESSAGE_MAP(CNumberPage, CPropertyPage)
+    ON_WM_CREATE()
+    ON_MESSAGE(PSM_QUERYSIBLINGS, &CNumberPage::OnSiblingQuestion)
+END_MESSAGE_MAP()
+
+struct TwoPages
+{
+    ControlHost host;
+    CNumberPage first{"First"}, second{"Second"};
+    CPropertySheet sheet{"The sheet", &host};
+
+    TwoPages()
+    {
+        sheet.AddPage(&first);
+        sheet.AddPage(&second);
+    }
+    /// Runs the steps in the open sheet.
+    INT_PTR Run(const std::function<void(Page&)>& steps)
+    {
+        bool hasRun = false;
+        NextDialog answer([&](HWND box) {
+            hasRun = true;
+            Page page(box);
+            steps(page);
+        });
+        const INT_PTR result = sheet.DoModal();
+        CHECK(hasRun);
+        return result;
+    }
+};
+
+} // namespace
+
+TEST_CASE("a sheet shows its first page, and OK applies what was entered")
+{
+    TwoPages two;
+    CHECK(two.sheet.GetPageCount() == 2);
+    bool ownerDisabled = false;
+    const INT_PTR result = two.Run([&](Page& box) {
+        ownerDisabled = !two.host.IsWindowEnabled();
+        CHECK(two.sheet.m_hWnd == box.Handle());
+        CHECK(box.Title() == "The sheet");
+        CHECK(two.sheet.GetActivePage() == &two.first);
+        CHECK(two.first.GetDlgItemInt(fieldId) == 3);
+        CHECK(two.second.m_hWnd == NULL);
+        two.first.Enter("8");
+        box.Click(IDOK);
+    });
+    CHECK(result == IDOK);
+    CHECK(ownerDisabled);
+    CHECK(two.host.IsWindowEnabled());
+    CHECK(two.first.number == 8);
+    CHECK(two.first.CountOf("create") == 1);
+    CHECK(two.first.CountOf("init") == 1);
+    CHECK(two.first.CountOf("apply") == 1);
+    CHECK(two.first.CountOf("ok") == 1);
+    CHECK(two.first.m_hWnd == NULL);
+    CHECK(two.sheet.m_hWnd == NULL);
+}
+
+TEST_CASE("Cancel resets the pages and leaves the data alone")
+{
+    TwoPages two;
+    const INT_PTR result = two.Run([&](Page& box) {
+        two.first.Enter("8");
+        box.Click(IDCANCEL);
+    });
+    CHECK(result == IDCANCEL);
+    CHECK(two.first.number == 3);
+    CHECK(two.first.CountOf("reset") == 1);
+    CHECK(two.first.CountOf("cancel") == 1);
+    CHECK(two.first.CountOf("apply") == 0);
+}
+
+TEST_CASE("a page may refuse Cancel")
+{
+    TwoPages two;
+    two.first.acceptsCancel = false;
+    bool stayed = false;
+    const INT_PTR result = two.Run([&](Page& box) {
+        box.Click(IDCANCEL);
+        stayed = ::IsWindowVisible(box.Handle()) && two.sheet.GetActivePage() == &two.first;
+        two.first.acceptsCancel = true;
+        box.Click(IDCANCEL);
+    });
+    CHECK(stayed);
+    CHECK(result == IDCANCEL);
+}
+
+TEST_CASE("the close box is Cancel")
+{
+    TwoPages two;
+    const INT_PTR result = two.Run([&](Page& box) { ::SendMessage(box.Handle(), WM_CLOSE, 0, 0); });
+    CHECK(result == IDCANCEL);
+    CHECK(two.first.CountOf("reset") == 1);
+}
+
+TEST_CASE("a page with wrong data does not let go")
+{
+    TwoPages two;
+    const INT_PTR result = two.Run([&](Page& box) {
+        two.first.Enter("12");
+        NextDialog complaint([](HWND message) { Page(message).Click(IDOK); });
+        two.sheet.SetActivePage(1);
+        CHECK(complaint.HasRun());
+        CHECK(two.sheet.GetActiveIndex() == 0);
+        two.first.Enter("5");
+        CHECK(two.sheet.SetActivePage(&two.second));
+        CHECK(two.sheet.GetActiveIndex() == 1);
+        CHECK(two.sheet.GetActivePage() == &two.second);
+        box.Click(IDOK);
+    });
+    CHECK(result == IDOK);
+    CHECK(two.first.number == 5);
+    CHECK(two.second.CountOf("init") == 1);
+    CHECK(two.second.CountOf("apply") == 1);
+}
+
+TEST_CASE("a page that is shown again shows the data of now")
+{
+    TwoPages two;
+    two.Run([&](Page& box) {
+        two.sheet.SetActivePage(1);
+        two.first.number = 6;
+        two.sheet.SetActivePage(0);
+        CHECK(two.first.GetDlgItemInt(fieldId) == 6);
+        box.Click(IDCANCEL);
+    });
+    CHECK(two.first.CountOf("active") == 2);
+}
+
+TEST_CASE("a modified page enables Apply, which applies and stays")
+{
+    TwoPages two;
+    two.Run([&](Page& box) {
+        const HWND apply = box.Control(ID_APPLY_NOW);
+        CHECK_FALSE(::IsWindowEnabled(apply));
+        two.first.SetModified();
+        CHECK(::IsWindowEnabled(apply));
+        two.first.Enter("7");
+        box.Click(ID_APPLY_NOW);
+        CHECK(two.first.number == 7);
+        CHECK(::IsWindowVisible(box.Handle()));
+        CHECK_FALSE(::IsWindowEnabled(apply));
+        two.first.SetModified();
+        two.first.SetModified(FALSE);
+        CHECK_FALSE(::IsWindowEnabled(apply));
+        box.Click(IDCANCEL);
+    });
+}
+
+TEST_CASE("a page asks its siblings")
+{
+    TwoPages two;
+    two.Run([&](Page& box) {
+        two.sheet.SetActivePage(1);
+        CHECK(two.second.QuerySiblings(7, 0) == 77);
+        CHECK(two.second.QuerySiblings(8, 0) == 0);
+        box.Click(IDCANCEL);
+    });
+}
+
+TEST_CASE("Tab walks through the controls of the page, Escape is Cancel")
+{
+    TwoPages two;
+    const INT_PTR result = two.Run([&](Page& box) {
+        ::SetFocus(::GetDlgItem(two.first.m_hWnd, fieldId));
+        PressKey(VK_TAB);
+        CHECK(::GetFocus() != ::GetDlgItem(two.first.m_hWnd, fieldId));
+        CHECK(::IsChild(box.Handle(), ::GetFocus()));
+        PressKey(VK_ESCAPE);
+    });
+    CHECK(result == IDCANCEL);
+}
+
+TEST_CASE("pages are added and removed while the sheet is open")
+{
+    TwoPages two;
+    CNumberPage third("Third");
+    two.Run([&](Page& box) {
+        two.sheet.AddPage(&third);
+        CHECK(two.sheet.GetPageCount() == 3);
+        REQUIRE(two.sheet.GetTabControl() != NULL);
+        CHECK(two.sheet.GetTabControl()->GetItemCount() == 3);
+        CHECK(two.sheet.GetPageIndex(&third) == 2);
+        CHECK(two.sheet.GetPage(2) == &third);
+        two.sheet.RemovePage(&third);
+        CHECK(two.sheet.GetTabControl()->GetItemCount() == 2);
+        CHECK(two.sheet.GetPageIndex(&third) == -1);
+        box.Click(IDCANCEL);
+    });
+}
+
+TEST_CASE("EndDialog and PressButton end a sheet")
+{
+    TwoPages two;
+    CHECK(two.Run([&](Page&) { two.sheet.EndDialog(4711); }) == 4711);
+    CHECK(two.Run([&](Page&) { two.sheet.PressButton(PSBTN_OK); }) == IDOK);
+}
+
+TEST_CASE("a sheet starts with the page that was chosen, and with its title")
+{
+    TwoPages two;
+    two.sheet.SetActivePage(1);
+    two.sheet.SetTitle("Another");
+    two.Run([&](Page& box) {
+        CHECK(two.sheet.GetActivePage() == &two.second);
+        CHECK(box.Title() == "Another");
+        two.sheet.SetTitle("A third");
+        CHECK(box.Title() == "A third");
+        box.Click(IDCANCEL);
+    });
+}
+
+TEST_CASE("a wizard goes from page to page and ends with Finish")
+{
+    TwoPages two;
+    two.sheet.SetWizardMode();
+    const INT_PTR result = two.Run([&](Page& box) {
+        two.sheet.SetWizardButtons(PSWIZB_NEXT);
+        PumpMessages();
+        two.first.next = -1;
+        box.Click(ID_WIZNEXT);
+        CHECK(two.sheet.GetActivePage() == &two.first);
+        two.first.next = 0;
+        box.Click(ID_WIZNEXT);
+        CHECK(two.sheet.GetActivePage() == &two.second);
+        two.sheet.SetWizardButtons(PSWIZB_BACK | PSWIZB_FINISH);
+        PumpMessages();
+        box.Click(ID_WIZFINISH);
+    });
+    CHECK(result == ID_WIZFINISH);
+    CHECK(two.first.CountOf("next") == 2);
+    CHECK(two.second.CountOf("finish") == 1);
+}
+
+TEST_CASE("a modeless sheet has no buttons and is closed by EndDialog")
+{
+    TwoPages two;
+    REQUIRE(two.sheet.Create(&two.host));
+    PumpMessages();
+    CHECK(two.sheet.IsWindowVisible());
+    CHECK(two.host.IsWindowEnabled());
+    CHECK_FALSE(two.sheet.GetDlgItem(IDOK)->IsWindowVisible());
+    CHECK_FALSE(two.sheet.GetDlgItem(IDCANCEL)->IsWindowVisible());
+    CHECK(two.sheet.GetActivePage() == &two.first);
+    two.sheet.EndDialog(0);
+    CHECK(two.sheet.m_hWnd == NULL);
+    CHECK(two.first.m_hWnd == NULL);
+}
+
+TEST_CASE("a modeless sheet may be a child of another window")
+{
+    TwoPages two;
+    REQUIRE(two.sheet.Create(&two.host, WS_CHILD | WS_VISIBLE, 0));
+    CHECK((two.sheet.GetStyle() & WS_CHILD) != 0);
+    CHECK(::GetParent(two.sheet.m_hWnd) == two.host.m_hWnd);
+    two.sheet.DestroyWindow();
+}

@@ -1,0 +1,638 @@
+#include <afx.h>
+
+#include <doctest/doctest.h>
+
+#include "tests/mfc/text/CStringTest.h"
+#include "tests/mfc/Throws.h"
+
+#include <mbctype.h>
+
+#include <string>
+#include <thread>
+#include <vector>
+
+namespace {
+
+/// Japanese text, as long as it lives: the second byte of a character may look like a letter, a
+/// backslash or a bracket.
+class JapaneseText
+{
+public:
+    JapaneseText() : former_(_getmbcp()) { available = _setmbcp(932) == 0; }
+    ~JapaneseText() { _setmbcp(former_); }
+    bool available = false;
+
+private:
+    int former_;
+};
+
+constexpr char hyou[] = "\x95\x5C";        // Ends in a backslash.
+constexpr char katakanaA[] = "\x83\x41";   // Ends in A.
+constexpr char katakanaChi[] = "\x83\x61"; // Ends in a.
+
+bool ThrowsInvalidArg(auto action)
+{
+    return Throws<CInvalidArgException>(action);
+}
+
+struct ConvertsToText
+{
+    operator LPCSTR() const { return "converted"; }
+};
+
+} // namespace
+
+TEST_CASE("a string is one pointer, so that it may pass through the C library's functions")
+{
+    CHECK(sizeof(CString) == sizeof(char*));
+}
+
+TEST_CASE("strings are made from many kinds of source")
+{
+    CHECK(CString().IsEmpty());
+    CHECK(CString(NULL).IsEmpty());
+    CHECK(CString(nullptr).IsEmpty());
+    CHECK(CString(static_cast<LPCWSTR>(NULL)).IsEmpty());
+    CHECK(CString("narrow") == "narrow");
+    CHECK(CString(L"wide") == "wide");
+    CHECK(CString(reinterpret_cast<const unsigned char*>("bytes")) == "bytes");
+    CHECK(CString('c') == "c");
+    CHECK(CString('c', 3) == "ccc");
+    CHECK(CString('c', 0).IsEmpty());
+    CHECK(CString('c', -1).IsEmpty());
+    CHECK(CString(L'w', 2) == "ww");
+    CHECK(CString("abcdef", 3) == "abc");
+    CHECK(CString(L"abcdef", 3) == "abc");
+    CHECK(CString("a\0b", 3).GetLength() == 3);
+    CHECK(ThrowsInvalidArg([] { CString("abc", -1); }));
+
+    VARIANT number;
+    VariantInit(&number);
+    number.vt = VT_I4;
+    number.lVal = 42;
+    CHECK(CString(number) == "42");
+    CString assigned = "before";
+    assigned = number;
+    CHECK(assigned == "42");
+}
+
+TEST_CASE("a resource id makes a string of the resources")
+{
+    CHECK(CString(MAKEINTRESOURCE(STRING_PLAIN)) == "text of the program");
+    CHECK(CString(MAKEINTRESOURCEW(STRING_PLAIN)) == "text of the program");
+    CHECK(CString(MAKEINTRESOURCE(STRING_MISSING)).IsEmpty());
+
+    CString text = "before";
+    CHECK_FALSE(text.LoadString(STRING_MISSING));
+    CHECK(text == "before");
+    CHECK(text.LoadString(STRING_PLAIN));
+    CHECK(text == "text of the program");
+    CHECK(text.LoadString(::GetModuleHandle(NULL), STRING_FORMAT));
+    CHECK(text == "%s has %d parts");
+    CHECK(text.LoadString(::GetModuleHandle(NULL), STRING_PLAIN,
+                          MAKELANGID(LANG_GERMAN, SUBLANG_GERMAN)));
+    CHECK(text == "Text des Programms");
+    CHECK_FALSE(text.LoadString(::GetModuleHandle("kernel32.dll"), STRING_PLAIN));
+}
+
+TEST_CASE("copies share their characters until one of them changes")
+{
+    const CString first("some text");
+    CString second(first);
+    CString third;
+    third = second;
+    CHECK(first.GetString() == second.GetString());
+    CHECK(first.GetString() == third.GetString());
+
+    second += '!';
+    CHECK(first == "some text");
+    CHECK(third == "some text");
+    CHECK(second == "some text!");
+
+    third.SetAt(0, 'S');
+    CHECK(first == "some text");
+    CHECK(third == "Some text");
+    CHECK(first.Mid(0).GetString() == first.GetString());
+}
+
+TEST_CASE("a change of a shared string leaves every other one alone")
+{
+    const CString original(" aXbXc ");
+    const auto changed = [&](auto change) {
+        CString copy(original);
+        change(copy);
+        return original == " aXbXc " ? copy : CString("the original has changed");
+    };
+    CHECK(changed([](CString& s) { s.MakeUpper(); }) == " AXBXC ");
+    CHECK(changed([](CString& s) { s.MakeLower(); }) == " axbxc ");
+    CHECK(changed([](CString& s) { s.MakeReverse(); }) == " cXbXa ");
+    CHECK(changed([](CString& s) { s.Trim(); }) == "aXbXc");
+    CHECK(changed([](CString& s) { s.Replace('X', '-'); }) == " a-b-c ");
+    CHECK(changed([](CString& s) { s.Remove('X'); }) == " abc ");
+    CHECK(changed([](CString& s) { s.Delete(0, 3); }) == "bXc ");
+    CHECK(changed([](CString& s) { s.Insert(1, "--"); }) == " --aXbXc ");
+    CHECK(changed([](CString& s) { s.Truncate(2); }) == " a");
+    CHECK(changed([](CString& s) { s.Empty(); }) == "");
+    CHECK(changed([](CString& s) { *s.GetBuffer() = '_'; }) == "_aXbXc ");
+    CHECK(changed([](CString& s) { s.ReleaseBuffer(3); }) == " aX");
+    CHECK(changed([](CString& s) { s.AnsiToOem(); }) == " aXbXc ");
+    CHECK(changed([](CString& s) { s.Format("%d", 1); }) == "1");
+}
+
+TEST_CASE("a string may be changed by a part of itself")
+{
+    CString text = "abcdef";
+    text = text.GetString() + 2;
+    CHECK(text == "cdef");
+    text += text;
+    CHECK(text == "cdefcdef");
+    text.Append(text.GetString() + 6);
+    CHECK(text == "cdefcdefef");
+    text.Format("<%s|%s>", text.GetString(), text);
+    CHECK(text == "<cdefcdefef|cdefcdefef>");
+    text = text;
+    CHECK(text.GetLength() == 23);
+    text.Insert(0, text.GetString() + 20);
+    CHECK(text == "ef><cdefcdefef|cdefcdefef>");
+    CString many = "ab";
+    for (int i = 0; i < 10; ++i)
+        many += many;
+    CHECK(many.GetLength() == 2048);
+    CHECK(many.Right(4) == "abab");
+}
+
+TEST_CASE("single characters are read up to the terminator and written up to the last one")
+{
+    CString text("abc");
+    CHECK(text.GetAt(0) == 'a');
+    CHECK(text[2] == 'c');
+    CHECK(text.GetAt(3) == '\0');
+    CHECK(CString().GetAt(0) == '\0');
+    CHECK(ThrowsInvalidArg([&] { text.GetAt(4); }));
+    CHECK(ThrowsInvalidArg([&] { text.GetAt(-1); }));
+    text.SetAt(1, 'X');
+    CHECK(text == "aXc");
+    CHECK(ThrowsInvalidArg([&] { text.SetAt(3, 'X'); }));
+    CHECK(ThrowsInvalidArg([&] { text.SetAt(-1, 'X'); }));
+}
+
+TEST_CASE("a buffer has the asked length, is the string's own and ends at the terminator")
+{
+    CString text("abc");
+    const CString copy(text);
+    char* buffer = text.GetBuffer(100);
+    CHECK(buffer != copy.GetString());
+    CHECK(text.GetAllocLength() >= 100);
+    CHECK(strcmp(buffer, "abc") == 0);
+    memset(buffer, 'x', 100);
+    buffer[5] = '\0';
+    text.ReleaseBuffer();
+    CHECK(text == "xxxxx");
+    CHECK(text.GetLength() == 5);
+    CHECK(copy == "abc");
+
+    strcpy(text.GetBuffer(20), "twelve chars");
+    text.ReleaseBuffer(6);
+    CHECK(text == "twelve");
+    CHECK(ThrowsInvalidArg([&] { text.GetBuffer(-1); }));
+    CHECK(ThrowsInvalidArg([&] { text.ReleaseBuffer(text.GetAllocLength() + 1); }));
+
+    memset(text.GetBufferSetLength(4), 'z', 4);
+    CHECK(text == "zzzz");
+    text.GetBuffer(10)[2] = '\0';
+    text.ReleaseBufferSetLength(4);
+    CHECK(text.GetLength() == 4);
+
+    CString empty;
+    empty.GetBuffer(0);
+    empty.ReleaseBuffer();
+    CHECK(empty.IsEmpty());
+}
+
+TEST_CASE("a buffer that is full has no terminator to find, and ends at its capacity")
+{
+    CString text;
+    char* buffer = text.GetBuffer(8);
+    memset(buffer, 'x', text.GetAllocLength());
+    text.ReleaseBuffer();
+    CHECK(text.GetLength() == text.GetAllocLength());
+    CHECK(text[text.GetLength()] == '\0');
+}
+
+TEST_CASE("a locked buffer is not shared and stays with its string")
+{
+    CString text("locked");
+    char* buffer = text.LockBuffer();
+    CString copy(text);
+    CHECK(copy.GetString() != buffer);
+    CHECK(copy == "locked");
+    buffer[0] = 'b';
+    CHECK(text == "bocked");
+    CHECK(copy == "locked");
+    text = copy;
+    CHECK(text.GetString() == buffer);
+    CHECK(text == "locked");
+    text.Empty();
+    CHECK(text.GetString() == buffer);
+    text.UnlockBuffer();
+    text = copy;
+    CHECK(text.GetString() == copy.GetString());
+
+    CString grown;
+    grown.LockBuffer();
+    grown += "0123456789";
+    grown += grown.GetString() + 5;
+    CHECK(grown == "012345678956789");
+    CHECK(CString(grown).GetString() != grown.GetString());
+}
+
+TEST_CASE("room may be taken ahead and given back")
+{
+    CString text("abc");
+    text.Preallocate(1000);
+    CHECK(text.GetAllocLength() >= 1000);
+    const char* before = text;
+    for (int i = 0; i < 900; ++i)
+        text += 'x';
+    CHECK(text.GetString() == before);
+    text.Truncate(3);
+    text.FreeExtra();
+    CHECK(text.GetAllocLength() == 3);
+    CHECK(text == "abc");
+    text.Truncate(10);
+    CHECK(text == "abc");
+    CHECK(ThrowsInvalidArg([&] { text.Truncate(-1); }));
+}
+
+TEST_CASE("appending takes text, characters and counts")
+{
+    CString text;
+    text.Append("abc");
+    text.Append("defgh", 2);
+    text.Append("x", 100);
+    text.Append(CString("-"));
+    text.AppendChar('!');
+    text += "n";
+    text += L"w";
+    text += 'c';
+    text += L'W';
+    text += static_cast<BYTE>('b');
+    text += CString("s");
+    CHECK(text == "abcdex-!nwcWbs");
+    text += static_cast<LPCSTR>(NULL);
+    CHECK(text == "abcdex-!nwcWbs");
+    CHECK(ThrowsInvalidArg([&] { text.Append("abc", -1); }));
+}
+
+TEST_CASE("strings are joined with strings, text and characters on both sides")
+{
+    const CString s("s");
+    CHECK(s + s == "ss");
+    CHECK(s + "t" == "st");
+    CHECK("t" + s == "ts");
+    CHECK(s + 'c' == "sc");
+    CHECK('c' + s == "cs");
+    CHECK(s + L'w' == "sw");
+    CHECK(L'w' + s == "ws");
+    CHECK(s + L"wide" == "swide");
+    CHECK(s + static_cast<LPCSTR>(NULL) == "s");
+    CHECK("a" + s + "b" + s + 'c' == "asbsc");
+    CHECK(s == "s");
+}
+
+TEST_CASE("comparisons go by characters, with every type on both sides")
+{
+    const CString a("a");
+    const CString b("b");
+    CHECK(a == "a");
+    CHECK("a" == a);
+    CHECK(a == CString("a"));
+    CHECK(a == 'a');
+    CHECK('a' == a);
+    CHECK(a == L"a");
+    CHECK(L"a" == a);
+    CHECK(a != b);
+    CHECK(a != "b");
+    CHECK("b" != a);
+    CHECK(a != 'b');
+    CHECK('b' != a);
+    CHECK(a != L"b");
+    CHECK(L"b" != a);
+    CHECK(a < b);
+    CHECK(a < "b");
+    CHECK("a" < b);
+    CHECK(b > a);
+    CHECK(b > "a");
+    CHECK("b" > a);
+    CHECK(a <= b);
+    CHECK(a <= "a");
+    CHECK("a" <= b);
+    CHECK(b >= a);
+    CHECK(b >= "b");
+    CHECK("b" >= a);
+    CHECK_FALSE(a == "A");
+    CHECK_FALSE(a == "ab");
+    CHECK(CString() == "");
+    CHECK(CString() == static_cast<LPCSTR>(NULL));
+
+    CHECK(a.Compare("b") < 0);
+    CHECK(b.Compare("a") > 0);
+    CHECK(CString("\xE9").Compare("z") > 0);
+    CHECK(CString("TeXt").CompareNoCase("tExT") == 0);
+    CHECK(CString("a").CompareNoCase("B") < 0);
+    CHECK(CString("text").Collate("text") == 0);
+    CHECK(CString("a").Collate("b") < 0);
+    CHECK(CString("TEXT").CollateNoCase("text") == 0);
+    CHECK(ThrowsInvalidArg([&] { a.Compare(NULL); }));
+}
+
+TEST_CASE("parts of a string are cut where it ends")
+{
+    const CString text("0123456789");
+    CHECK(text.Left(3) == "012");
+    CHECK(text.Left(100) == text);
+    CHECK(text.Left(0) == "");
+    CHECK(text.Left(-1) == "");
+    CHECK(text.Right(3) == "789");
+    CHECK(text.Right(100) == text);
+    CHECK(text.Right(-1) == "");
+    CHECK(text.Mid(7) == "789");
+    CHECK(text.Mid(10) == "");
+    CHECK(text.Mid(11) == "");
+    CHECK(text.Mid(-5) == text);
+    CHECK(text.Mid(2, 3) == "234");
+    CHECK(text.Mid(8, 100) == "89");
+    CHECK(text.Mid(8, INT_MAX) == "89");
+    CHECK(text.Mid(2, -1) == "");
+    CHECK(text.Mid(-2, 3) == "012");
+    CHECK(text.Mid(INT_MAX, INT_MAX) == "");
+}
+
+TEST_CASE("searching finds text, characters and sets")
+{
+    const CString text("abcabc");
+    CHECK(text.Find('b') == 1);
+    CHECK(text.Find('b', 2) == 4);
+    CHECK(text.Find('x') == -1);
+    CHECK(text.Find("ca") == 2);
+    CHECK(text.Find("abc", 1) == 3);
+    CHECK(text.Find("abcabcabc") == -1);
+    CHECK(text.Find("a", 6) == -1);
+    CHECK(text.Find("a", 7) == -1);
+    CHECK(text.Find("a", -1) == -1);
+    CHECK(text.Find('a', INT_MAX) == -1);
+    CHECK(text.Find("", 2) == 2);
+    CHECK(text.ReverseFind('b') == 4);
+    CHECK(text.ReverseFind('x') == -1);
+    CHECK(text.FindOneOf("xcb") == 1);
+    CHECK(text.FindOneOf("xyz") == -1);
+    CHECK(text.FindOneOf("") == -1);
+    CHECK(text.SpanIncluding("ba") == "ab");
+    CHECK(text.SpanIncluding("x") == "");
+    CHECK(text.SpanIncluding("abc") == text);
+    CHECK(text.SpanExcluding("c") == "ab");
+    CHECK(text.SpanExcluding("x") == text);
+    CHECK(text.SpanExcluding("a") == "");
+}
+
+TEST_CASE("tokens come one by one, and -1 tells that there are no more")
+{
+    const CString text("%First Second#Third");
+    int position = 0;
+    std::vector<std::string> tokens;
+    for (CString token = text.Tokenize("% #", position); position != -1;
+         token = text.Tokenize("% #", position))
+        tokens.emplace_back(token);
+    CHECK(tokens == std::vector<std::string>{"First", "Second", "Third"});
+
+    position = -1;
+    CHECK(text.Tokenize("#", position) == "");
+    CHECK(position == -1);
+    position = 0;
+    CHECK(CString("###").Tokenize("#", position) == "");
+    CHECK(position == -1);
+    position = 0;
+    CHECK(text.Tokenize("", position) == text);
+    CHECK(text.Tokenize("", position) == "");
+    CHECK(position == -1);
+}
+
+TEST_CASE("ends are trimmed of white space, of a character or of a set")
+{
+    CHECK(CString(" \t\r\n text \v\f").Trim() == "text");
+    CHECK(CString("  text  ").TrimLeft() == "text  ");
+    CHECK(CString("  text  ").TrimRight() == "  text");
+    CHECK(CString("   ").Trim() == "");
+    CHECK(CString().Trim() == "");
+    CHECK(CString("xxtextxx").Trim('x') == "text");
+    CHECK(CString("xxtext").TrimLeft('x') == "text");
+    CHECK(CString("textxx").TrimRight('x') == "text");
+    CHECK(CString("xyxtextyx").Trim("xy") == "text");
+    CHECK(CString("text").Trim("") == "text");
+    CHECK(CString("text").Trim(static_cast<LPCSTR>(NULL)) == "text");
+}
+
+TEST_CASE("replacing, removing, inserting and deleting tell what they did")
+{
+    CString text("a.b.c");
+    CHECK(text.Replace('.', '-') == 2);
+    CHECK(text == "a-b-c");
+    CHECK(text.Replace('x', 'y') == 0);
+    CHECK(text.Replace("-", "<->") == 2);
+    CHECK(text == "a<->b<->c");
+    CHECK(text.Replace("<->", "") == 2);
+    CHECK(text == "abc");
+    CHECK(text.Replace("", "x") == 0);
+    CHECK(text.Replace("b", NULL) == 1);
+    CHECK(text == "ac");
+    CHECK(CString("aaa").Replace("aa", "b") == 1);
+
+    text = "banana";
+    CHECK(text.Remove('a') == 3);
+    CHECK(text == "bnn");
+    CHECK(text.Remove('x') == 0);
+
+    CHECK(text.Insert(1, 'a') == 4);
+    CHECK(text.Insert(3, "a") == 5);
+    CHECK(text == "banan");
+    CHECK(text.Insert(-1, "<") == 6);
+    CHECK(text.Insert(100, ">") == 7);
+    CHECK(text == "<banan>");
+    CHECK(text.Insert(3, static_cast<LPCSTR>(NULL)) == 7);
+
+    CHECK(text.Delete(0) == 6);
+    CHECK(text.Delete(5, 100) == 5);
+    CHECK(text == "banan");
+    CHECK(text.Delete(5) == 5);
+    CHECK(text.Delete(2, 0) == 5);
+    CHECK(text.Delete(2, -1) == 5);
+    CHECK(text.Delete(INT_MAX, INT_MAX) == 5);
+    CHECK(text.Delete(1, 3) == 2);
+    CHECK(text == "bn");
+}
+
+TEST_CASE("characters of two bytes are never cut in half")
+{
+    JapaneseText japanese;
+    REQUIRE_MESSAGE(japanese.available, "this system has no Japanese code page");
+
+    const CString text = CString(hyou) + "\\" + katakanaA + "A";
+    CHECK(text.Find('\\') == 2);
+    CHECK(text.Find("A") == 5);
+    CHECK(CString(katakanaA).Find('A') == -1);
+    CHECK(CString(katakanaA).Find("A") == -1);
+    CHECK(text.ReverseFind('\\') == 2);
+    CHECK(CString(hyou).ReverseFind('\\') == -1);
+    CHECK(text.Find(katakanaA) == 3);
+    CHECK(CString(hyou).FindOneOf("\\") == -1);
+    CHECK(text.FindOneOf(katakanaA) == 3);
+    CHECK(text.SpanExcluding("\\") == hyou);
+    CHECK(text.SpanIncluding("\x83\x5C\\") == "");
+
+    CHECK(CString(hyou).TrimRight('\\') == hyou);
+    CHECK((CString(hyou) + "\\\\").TrimRight('\\') == hyou);
+    CHECK((CString(" ") + hyou + " ").Trim() == hyou);
+    CHECK(CString(katakanaA).TrimRight("A") == katakanaA);
+
+    CHECK(CString(katakanaChi).MakeUpper() == katakanaChi);
+    CHECK((CString(katakanaChi) + "a").MakeUpper() == CString(katakanaChi) + "A");
+    CHECK(CString(katakanaA).MakeLower() == katakanaA);
+    CHECK(CString("\x82\x81").MakeUpper() == "\x82\x60"); // The letter A of full width.
+    CHECK((CString("ab") + hyou + katakanaA).MakeReverse() == CString(katakanaA) + hyou + "ba");
+
+    CString changed = text;
+    CHECK(changed.Replace('\\', '/') == 1);
+    CHECK(changed == CString(hyou) + "/" + katakanaA + "A");
+    changed = text;
+    CHECK(changed.Remove('A') == 1);
+    CHECK(changed == CString(hyou) + "\\" + katakanaA);
+    changed = CString(katakanaA) + "A";
+    CHECK(changed.Replace("A", "BB") == 1);
+    CHECK(changed == CString(katakanaA) + "BB");
+
+    int position = 0;
+    CHECK(text.Tokenize("\\", position) == hyou);
+    CHECK(text.Tokenize("\\", position) == CString(katakanaA) + "A");
+    text.Tokenize("\\", position);
+    CHECK(position == -1);
+    CHECK(CString("A").CompareNoCase("a") == 0);
+    CHECK(CString(katakanaA).CompareNoCase(katakanaChi) != 0);
+}
+
+TEST_CASE("letters beyond ASCII change their case as the system's code page says")
+{
+    if (::GetACP() != 1252) {
+        MESSAGE("not checked: the code page is not 1252");
+        return;
+    }
+    CHECK(CString("\xE9t\xE9").MakeUpper() == "\xC9T\xC9");
+    CHECK(CString("\xC9T\xC9").MakeLower() == "\xE9t\xE9");
+    CHECK(CString(L"\x20AC") == "\x80");
+    CHECK(CString("\x80") == L"\x20AC");
+}
+
+TEST_CASE("formats take strings as arguments, whole and by their characters")
+{
+    const CString name("name");
+    CString text;
+    text.Format("%s=%d", name, 42);
+    CHECK(text == "name=42");
+    text.Format("%s=%s", name.GetString(), "value");
+    CHECK(text == "name=value");
+    text.Format("%s %s %s", name, name + "!", ConvertsToText());
+    CHECK(text == "name name! converted");
+    text.Format("%-6s|%6s|%.2s", name, name, name);
+    CHECK(text == "name  |  name|na");
+    text.Format("%S and %ls", L"wide", L"long");
+    CHECK(text == "wide and long");
+    text.Format("%I64d %lld %08X %.3f %c%%", 1LL << 40, -1LL, 0xBEEFu, 1.5, 'c');
+    CHECK(text == "1099511627776 -1 0000BEEF 1.500 c%");
+    text.Format("plain");
+    CHECK(text == "plain");
+    text.Format("%s", "");
+    CHECK(text == "");
+    text.Format("%2000d", 1);
+    CHECK(text.GetLength() == 2000);
+    text.Format(STRING_FORMAT, name, 3);
+    CHECK(text == "name has 3 parts");
+    CHECK(Throws<CResourceException>([&] { text.Format(STRING_MISSING, 1); }));
+    CHECK(ThrowsInvalidArg([&] { text.Format(static_cast<LPCSTR>(NULL)); }));
+
+    text = "a";
+    text.AppendFormat("%s%d", name, 1);
+    text.AppendFormat(STRING_FORMAT, CString("-b"), 2);
+    CHECK(text == "aname1-b has 2 parts");
+
+    text.FormatMessage("%2 and %1, %3!d! times", name, CString("more"), 7);
+    CHECK(text == "more and name, 7 times");
+    text.FormatMessage(STRING_MESSAGE, "one", name);
+    CHECK(text == "name before one");
+}
+
+TEST_CASE("a variable of the environment is read whole")
+{
+    const CString longValue('v', 3000);
+    REQUIRE(::SetEnvironmentVariable("UMBRA_TEST_VARIABLE", longValue));
+    CString text("before");
+    CHECK(text.GetEnvironmentVariable("UMBRA_TEST_VARIABLE"));
+    CHECK(text == longValue);
+    ::SetEnvironmentVariable("UMBRA_TEST_VARIABLE", NULL);
+    CHECK_FALSE(text.GetEnvironmentVariable("UMBRA_TEST_VARIABLE"));
+    CHECK(text.IsEmpty());
+}
+
+TEST_CASE("strings become wide strings of the system")
+{
+    const CString text("abc");
+    BSTR wide = text.AllocSysString();
+    CHECK(::SysStringLen(wide) == 3);
+    CHECK(wcscmp(wide, L"abc") == 0);
+    CHECK(CString("longer text").SetSysString(&wide) == wide);
+    CHECK(wcscmp(wide, L"longer text") == 0);
+    ::SysFreeString(wide);
+}
+
+TEST_CASE("characters of the OEM code page go there and back")
+{
+    CString text("\xE4");
+    text.AnsiToOem();
+    char expected[2] = "";
+    ::CharToOem("\xE4", expected);
+    CHECK(text == expected);
+    text.OemToAnsi();
+    char back[2] = "";
+    ::OemToChar(expected, back);
+    CHECK(text == back);
+}
+
+TEST_CASE("static helpers copy and measure characters")
+{
+    char buffer[] = "0123456789";
+    CString::CopyChars(buffer, "abc", 3);
+    CHECK(std::string(buffer) == "abc3456789");
+    CString::CopyCharsOverlapped(buffer + 1, buffer, 3);
+    CHECK(std::string(buffer) == "aabc456789");
+    CHECK(ThrowsInvalidArg([&] { CString::CopyChars(buffer, 2, "abc", 3); }));
+    CHECK(CString::StringLength("four") == 4);
+    CHECK(CString::StringLength(NULL) == 0);
+}
+
+TEST_CASE("a string shared by threads is counted without loss")
+{
+    const CString shared("shared by many");
+    std::vector<std::thread> threads;
+    for (int i = 0; i < 4; ++i)
+        threads.emplace_back([&shared] {
+            for (int round = 0; round < 20000; ++round) {
+                CString copy(shared);
+                CString other;
+                other = copy;
+                other += 'x';
+            }
+        });
+    for (std::thread& thread : threads)
+        thread.join();
+    CHECK(shared == "shared by many");
+    CString last(shared);
+    CHECK(last.GetString() == shared.GetString());
+}

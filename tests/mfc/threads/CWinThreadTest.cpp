@@ -1,0 +1,389 @@
+#include <afxwin.h>
+#include <afxres.h>
+
+#include <doctest/doctest.h>
+
+#include "testing/NextDialog.h"
+
+#include "tests/mfc/MessageBoxText.h"
+
+#include <string>
+#include <vector>
+
+using umbra::testing::NextDialog;
+
+namespace {
+
+constexpr UINT askNumber = WM_APP + 1;
+constexpr UINT throwSomething = WM_APP + 2;
+
+const UINT registeredThreadMessage = ::RegisterWindowMessage("Umbra thread message");
+
+/// A thread with a message loop that writes down what it sees.
+class CLoopThread : public CWinThread
+{
+    DECLARE_DYNCREATE(CLoopThread)
+public:
+    static inline std::vector<std::string> log;
+    static inline HANDLE ended = ::CreateEvent(NULL, FALSE, FALSE, NULL);
+    static inline bool start = true;
+
+    BOOL InitInstance() override
+    {
+        log.push_back(AfxGetThread() == this ? "init" : "init in a wrong thread");
+        return start;
+    }
+    int ExitInstance() override
+    {
+        log.push_back("exit");
+        return start ? CWinThread::ExitInstance() : 9;
+    }
+    ~CLoopThread() override { ::SetEvent(ended); }
+
+protected:
+    afx_msg void OnNumber(WPARAM wParam, LPARAM lParam)
+    {
+        log.push_back(std::to_string(wParam) + "/" + std::to_string(lParam));
+    }
+    afx_msg void OnRegistered(WPARAM, LPARAM) { log.push_back("registered"); }
+    DECLARE_MESSAGE_MAP()
+};
+IMPLEMENT_DYNCREATE(CLoopThread, CWinThread)
+BEGIN_MESSAGE_MAP(CLoopThread, CWinThread)
+    ON_THREAD_MESSAGE(askNumber, &CLoopThread::OnNumber)
+    ON_REGISTERED_THREAD_MESSAGE(registeredThreadMessage, &CLoopThread::OnRegistered)
+END_MESSAGE_MAP()
+
+struct WorkerData
+{
+    HANDLE gate = ::CreateEvent(NULL, TRUE, FALSE, NULL);
+    DWORD id = 0;
+    CWinThread* self = nullptr;
+    bool sawApp = false;
+    ~WorkerData() { ::CloseHandle(gate); }
+};
+
+UINT Work(LPVOID parameter)
+{
+    auto* data = static_cast<WorkerData*>(parameter);
+    data->id = ::GetCurrentThreadId();
+    data->self = AfxGetThread();
+    data->sawApp = AfxGetApp() != nullptr && AfxGetMainWnd() == nullptr;
+    ::WaitForSingleObject(data->gate, 5000);
+    return 17;
+}
+
+UINT EndInTheMiddle(LPVOID)
+{
+    AfxEndThread(23);
+    return 0;
+}
+
+DWORD ExitCodeAfterEnd(HANDLE thread)
+{
+    REQUIRE(::WaitForSingleObject(thread, 5000) == WAIT_OBJECT_0);
+    DWORD code = 0;
+    ::GetExitCodeThread(thread, &code);
+    return code;
+}
+
+/// A handle of its own, because the object closes its handle when it deletes itself.
+HANDLE Duplicate(HANDLE handle)
+{
+    HANDLE copy = nullptr;
+    ::DuplicateHandle(::GetCurrentProcess(), handle, ::GetCurrentProcess(), &copy, 0, FALSE,
+                      DUPLICATE_SAME_ACCESS);
+    return copy;
+}
+
+/// A window whose handlers throw.
+class CThrowingWnd : public CWnd
+{
+public:
+    bool m_bRefuseCreation = false;
+    BOOL MakeIt()
+    {
+        return CreateEx(0, AfxRegisterWndClass(0), "throwing", WS_POPUP, 0, 0, 50, 50, NULL, NULL);
+    }
+
+protected:
+    afx_msg int OnCreate(LPCREATESTRUCT)
+    {
+        if (m_bRefuseCreation)
+            AfxThrowResourceException();
+        return 0;
+    }
+    afx_msg void OnPaint() { AfxThrowResourceException(); }
+    afx_msg LRESULT OnThrow(WPARAM byUser, LPARAM)
+    {
+        if (byUser)
+            AfxThrowUserException();
+        AfxThrowNotSupportedException();
+    }
+    DECLARE_MESSAGE_MAP()
+};
+BEGIN_MESSAGE_MAP(CThrowingWnd, CWnd)
+    ON_WM_CREATE()
+    ON_WM_PAINT()
+    ON_MESSAGE(throwSomething, &CThrowingWnd::OnThrow)
+END_MESSAGE_MAP()
+
+/// A main window that records who was asked about a message first.
+class CAskedWnd : public CWnd
+{
+public:
+    static inline std::vector<CWnd*> asked;
+    bool m_bKeep = false;
+    BOOL MakeIt(CWnd* parent)
+    {
+        return CreateEx(0, AfxRegisterWndClass(0), "asked",
+                        parent == NULL ? WS_POPUP : WS_CHILD | WS_VISIBLE, 0, 0, 50, 50,
+                        parent == NULL ? NULL : parent->m_hWnd, NULL);
+    }
+    BOOL PreTranslateMessage(MSG* message) override
+    {
+        if (message->message == askNumber)
+            asked.push_back(this);
+        return m_bKeep;
+    }
+};
+
+/// A thread whose loop the test runs itself, and which counts its idle calls.
+class CCountingThread : public CWinThread
+{
+public:
+    std::vector<LONG> m_idle;
+    LONG m_nIdleCalls = 3;
+    int m_nEnded = 0;
+    CWnd* m_pTemporary = nullptr;
+    BOOL OnIdle(LONG count) override
+    {
+        m_idle.push_back(count);
+        if (count + 1 < m_nIdleCalls)
+            return TRUE;
+        if (m_idle.size() < 4)
+            PostMessageToSelf(askNumber);
+        else
+            ::PostQuitMessage(12);
+        return FALSE;
+    }
+    void PostMessageToSelf(UINT message)
+    {
+        ::PostThreadMessage(::GetCurrentThreadId(), message, 0, 0);
+    }
+};
+
+} // namespace
+
+TEST_CASE("a worker thread runs its function and gives back its result")
+{
+    WorkerData data;
+    CWinThread* thread = AfxBeginThread(&Work, &data);
+    REQUIRE(thread != nullptr);
+    const HANDLE handle = Duplicate(*thread);
+    CHECK(thread->m_hThread == HANDLE(*thread));
+    CHECK(thread->GetThreadPriority() == THREAD_PRIORITY_NORMAL);
+    const DWORD id = thread->m_nThreadID;
+    ::SetEvent(data.gate);
+    CHECK(ExitCodeAfterEnd(handle) == 17);
+    CHECK(data.id == id);
+    CHECK(data.self == thread);
+    CHECK(data.sawApp);
+    ::CloseHandle(handle);
+}
+
+TEST_CASE("a thread that is started suspended waits to be resumed")
+{
+    WorkerData data;
+    ::SetEvent(data.gate);
+    CWinThread* thread =
+        AfxBeginThread(&Work, &data, THREAD_PRIORITY_BELOW_NORMAL, 0, CREATE_SUSPENDED);
+    REQUIRE(thread != nullptr);
+    thread->m_bAutoDelete = FALSE;
+    CHECK(::WaitForSingleObject(thread->m_hThread, 50) == WAIT_TIMEOUT);
+    CHECK(data.id == 0);
+    CHECK(thread->GetThreadPriority() == THREAD_PRIORITY_BELOW_NORMAL);
+    CHECK(thread->ResumeThread() == 1);
+    CHECK(ExitCodeAfterEnd(thread->m_hThread) == 17);
+    delete thread;
+}
+
+TEST_CASE("AfxEndThread ends the calling thread at once")
+{
+    CWinThread* thread =
+        AfxBeginThread(&EndInTheMiddle, nullptr, THREAD_PRIORITY_NORMAL, 0, CREATE_SUSPENDED);
+    REQUIRE(thread != nullptr);
+    thread->m_bAutoDelete = FALSE;
+    thread->ResumeThread();
+    CHECK(ExitCodeAfterEnd(thread->m_hThread) == 23);
+    delete thread;
+}
+
+TEST_CASE("a thread with a loop handles posted messages and deletes itself at the end")
+{
+    CLoopThread::log.clear();
+    CLoopThread::start = true;
+    CWinThread* thread = AfxBeginThread(RUNTIME_CLASS(CLoopThread));
+    REQUIRE(thread != nullptr);
+    const HANDLE handle = Duplicate(*thread);
+    CHECK(thread->PostThreadMessage(askNumber, 3, -4));
+    CHECK(thread->PostThreadMessage(registeredThreadMessage, 0, 0));
+    CHECK(thread->PostThreadMessage(WM_QUIT, 5, 0));
+    CHECK(ExitCodeAfterEnd(handle) == 5);
+    CHECK(CLoopThread::log == std::vector<std::string>{"init", "3/-4", "registered", "exit"});
+    CHECK(::WaitForSingleObject(CLoopThread::ended, 1000) == WAIT_OBJECT_0);
+    ::CloseHandle(handle);
+}
+
+TEST_CASE("a thread whose InitInstance fails has no loop")
+{
+    CLoopThread::log.clear();
+    CLoopThread::start = false;
+    CWinThread* thread =
+        AfxBeginThread(RUNTIME_CLASS(CLoopThread), THREAD_PRIORITY_NORMAL, 0, CREATE_SUSPENDED);
+    REQUIRE(thread != nullptr);
+    const HANDLE handle = Duplicate(*thread);
+    thread->ResumeThread();
+    CHECK(ExitCodeAfterEnd(handle) == 9);
+    CHECK(CLoopThread::log == std::vector<std::string>{"init", "exit"});
+    CHECK(::WaitForSingleObject(CLoopThread::ended, 1000) == WAIT_OBJECT_0);
+    ::CloseHandle(handle);
+}
+
+TEST_CASE("idle calls are counted until one is the last, and again after a message")
+{
+    CCountingThread loop;
+    CHECK(loop.Run() == 12);
+    CHECK(loop.m_idle == std::vector<LONG>{0, 1, 2, 0, 1, 2});
+}
+
+TEST_CASE("destroying the main window ends the loop")
+{
+    CWnd window;
+    REQUIRE(window.CreateEx(0, AfxRegisterWndClass(0), "main", WS_POPUP, 0, 0, 10, 10, NULL, NULL));
+    CWinThread* thread = AfxGetThread();
+    thread->m_pMainWnd = &window;
+    window.PostMessage(WM_CLOSE);
+    CHECK(thread->CWinThread::Run() == 0);
+    CHECK(window.m_hWnd == nullptr);
+    thread->m_pMainWnd = NULL;
+}
+
+TEST_CASE("a message is offered to its window and the parents up to the main window")
+{
+    CAskedWnd above;
+    CAskedWnd main;
+    CAskedWnd child;
+    CAskedWnd grandchild;
+    REQUIRE(above.MakeIt(nullptr));
+    REQUIRE(main.MakeIt(&above));
+    REQUIRE(child.MakeIt(&main));
+    REQUIRE(grandchild.MakeIt(&child));
+    CWinThread* thread = AfxGetThread();
+    thread->m_pMainWnd = &main;
+    MSG message{};
+    message.hwnd = grandchild.m_hWnd;
+    message.message = askNumber;
+
+    CAskedWnd::asked.clear();
+    CHECK_FALSE(thread->PreTranslateMessage(&message));
+    CHECK(CAskedWnd::asked == std::vector<CWnd*>{&grandchild, &child, &main});
+
+    CAskedWnd::asked.clear();
+    child.m_bKeep = true;
+    CHECK(thread->PreTranslateMessage(&message));
+    CHECK(CAskedWnd::asked == std::vector<CWnd*>{&grandchild, &child});
+
+    thread->m_pMainWnd = NULL;
+    above.DestroyWindow();
+}
+
+TEST_CASE("temporary objects are gone after the idle time")
+{
+    CWinThread* thread = AfxGetThread();
+    const HWND strange =
+        ::CreateWindow("Static", "", WS_POPUP, 0, 0, 10, 10, NULL, NULL, NULL, NULL);
+    struct CProbe : CWnd
+    {
+        CWnd* m_pSeen = nullptr;
+        HWND m_hStrange = nullptr;
+        LRESULT WindowProc(UINT message, WPARAM wParam, LPARAM lParam) override
+        {
+            if (message == askNumber)
+                m_pSeen = CWnd::FromHandle(m_hStrange);
+            return CWnd::WindowProc(message, wParam, lParam);
+        }
+    } probe;
+    REQUIRE(probe.CreateEx(0, AfxRegisterWndClass(0), "", WS_POPUP, 0, 0, 10, 10, NULL, NULL));
+    probe.m_hStrange = strange;
+    probe.SendMessage(askNumber);
+    REQUIRE(probe.m_pSeen != nullptr);
+    CHECK(probe.m_pSeen->m_hWnd == strange);
+    CHECK(CWnd::FromHandlePermanent(strange) == nullptr);
+    CHECK(thread->OnIdle(0));
+    CHECK_FALSE(thread->OnIdle(1));
+    CHECK(::IsWindow(strange)); // The object goes, not its window.
+    ::DestroyWindow(strange);
+}
+
+TEST_CASE("mouse moves without a movement and paints start no idle time")
+{
+    CWinThread* thread = AfxGetThread();
+    MSG message{};
+    message.message = WM_MOUSEMOVE;
+    message.pt = {4711, 815};
+    CHECK(thread->IsIdleMessage(&message));
+    CHECK_FALSE(thread->IsIdleMessage(&message));
+    message.pt.x++;
+    CHECK(thread->IsIdleMessage(&message));
+    message.message = WM_PAINT;
+    CHECK_FALSE(thread->IsIdleMessage(&message));
+    message.message = WM_KEYDOWN;
+    CHECK(thread->IsIdleMessage(&message));
+}
+
+TEST_CASE("an exception in WM_CREATE fails the creation")
+{
+    CThrowingWnd window;
+    window.m_bRefuseCreation = true;
+    CHECK_FALSE(window.MakeIt());
+    CHECK(window.m_hWnd == nullptr);
+}
+
+TEST_CASE("an exception in WM_PAINT validates the window")
+{
+    CThrowingWnd window;
+    REQUIRE(window.MakeIt());
+    window.ShowWindow(SW_SHOWNA);
+    window.Invalidate();
+    window.UpdateWindow();
+    CHECK_FALSE(::GetUpdateRect(window.m_hWnd, nullptr, FALSE));
+    window.DestroyWindow();
+}
+
+TEST_CASE("an exception in any other handler is told to the user, and the result is 0")
+{
+    CThrowingWnd window;
+    REQUIRE(window.MakeIt());
+    std::string text;
+    NextDialog answer([&](HWND box) {
+        text = MessageBoxText(box);
+        ::PostMessage(box, WM_COMMAND, IDOK, 0);
+    });
+    CHECK(window.SendMessage(throwSomething, FALSE) == 0);
+    CHECK(answer.HasRun());
+    CString expected;
+    expected.LoadString(AFX_IDS_NOT_SUPPORTED_EXCEPTION);
+    CHECK(text == expected.GetString());
+    window.DestroyWindow();
+}
+
+TEST_CASE("a user exception is not told again")
+{
+    CThrowingWnd window;
+    REQUIRE(window.MakeIt());
+    NextDialog answer([&](HWND box) { ::PostMessage(box, WM_COMMAND, IDOK, 0); });
+    CHECK(window.SendMessage(throwSomething, TRUE) == 0);
+    CHECK_FALSE(answer.HasRun());
+    window.DestroyWindow();
+}
