@@ -7,7 +7,7 @@
 
 namespace {
 
-constexpr int kBorder = 4;
+constexpr int border = 4;
 
 struct Faces
 {
@@ -18,7 +18,7 @@ struct Faces
 
 void PrintLine(const FaceSize& size, unsigned style)
 {
-    const ShadeLook look = {style, kGranularity, 20, 30, RGB(180, 200, 230)};
+    const ShadeLook look = {style, granularity, 20, 30, RGB(180, 200, 230)};
     PlainFaces plainFaces;
     Faces sse2Faces;
     Faces avx2Faces;
@@ -27,15 +27,15 @@ void PrintLine(const FaceSize& size, unsigned style)
 
     Race race;
     race.Add("plain", [&] {
-        plainFaces.Fill(size.width, size.height, kBorder, look, ShadeColors::OfSystem());
+        plainFaces.Fill(size.width, size.height, border, look, ShadeColors::OfSystem());
     });
     race.Add("SSE2", [&] {
-        FillShadeFaces(sse2Faces.Get(), size.width, size.height, kBorder, look,
+        FillShadeFaces(sse2Faces.Get(), size.width, size.height, border, look,
                        ShadeColors::OfSystem(), random, ShadeEngine::Sse2);
     });
     if (hasAvx2) {
         race.Add("AVX2", [&] {
-            FillShadeFaces(avx2Faces.Get(), size.width, size.height, kBorder, look,
+            FillShadeFaces(avx2Faces.Get(), size.width, size.height, border, look,
                            ShadeColors::OfSystem(), random, ShadeEngine::Avx2);
         });
     }
@@ -45,7 +45,7 @@ void PrintLine(const FaceSize& size, unsigned style)
     const double plain = race.NanosecondsOf("plain");
     const double sse2 = race.NanosecondsOf("SSE2");
     std::printf("| %d × %d | %u %s | %.1f | %.1f | %.1f |", size.width, size.height, style,
-                kStyleNames[style], plain / 1000, sse2 / 1000, plain / sse2);
+                styleNames[style], plain / 1000, sse2 / 1000, plain / sse2);
     if (hasAvx2) {
         const double avx2 = race.NanosecondsOf("AVX2");
         std::printf(" %.1f | %.1f |%s\n", avx2 / 1000, plain / avx2, note);
@@ -61,7 +61,7 @@ void PrintFacesTable()
     std::printf("Microseconds for the six bitmaps of a button, made again at the same size.\n\n"
                 "| Size | Style | plain | SSE2 | gain | AVX2 | gain |\n"
                 "|---|---|--:|--:|--:|--:|--:|\n");
-    for (const FaceSize& size : kFaceSizes) {
+    for (const FaceSize& size : faceSizes) {
         for (unsigned style = SHADE_NOISE; style <= SHADE_SCRATCHED; ++style)
             PrintLine(size, style);
     }

@@ -20,12 +20,12 @@ void PrintLine(const FaceSize& size, unsigned style)
 
     Race race;
     race.Add("memcpy", [&] { std::memcpy(pixels.data(), source.data(), pixels.size()); });
-    race.Add("plain", [&] { FillPlainPixels(surface, style, kGranularity); });
+    race.Add("plain", [&] { FillPlainPixels(surface, style, granularity); });
     race.Add("SSE2",
-             [&] { FillShadePixels(surface, style, kGranularity, random, ShadeEngine::Sse2); });
+             [&] { FillShadePixels(surface, style, granularity, random, ShadeEngine::Sse2); });
     if (hasAvx2) {
         race.Add("AVX2",
-                 [&] { FillShadePixels(surface, style, kGranularity, random, ShadeEngine::Avx2); });
+                 [&] { FillShadePixels(surface, style, granularity, random, ShadeEngine::Avx2); });
     }
     race.Run();
 
@@ -34,7 +34,7 @@ void PrintLine(const FaceSize& size, unsigned style)
     const double plain = race.NanosecondsOf("plain");
     const double sse2 = race.NanosecondsOf("SSE2");
     std::printf("| %d × %d | %u %s | %.3f | %.2f | %.3f | %.1f |", size.width, size.height, style,
-                kStyleNames[style], race.NanosecondsOf("memcpy") / pixelCount, plain / pixelCount,
+                styleNames[style], race.NanosecondsOf("memcpy") / pixelCount, plain / pixelCount,
                 sse2 / pixelCount, plain / sse2);
     if (hasAvx2) {
         const double avx2 = race.NanosecondsOf("AVX2");
@@ -51,8 +51,8 @@ void PrintPixelTable()
     std::printf("Nanoseconds a pixel, granularity %d; the gain is against the plain loops.\n\n"
                 "| Size | Style | memcpy | plain | SSE2 | gain | AVX2 | gain |\n"
                 "|---|---|--:|--:|--:|--:|--:|--:|\n",
-                kGranularity);
-    for (const FaceSize& size : kFaceSizes) {
+                granularity);
+    for (const FaceSize& size : faceSizes) {
         for (unsigned style = SHADE_NOISE; style <= SHADE_SCRATCHED; ++style)
             PrintLine(size, style);
     }

@@ -8,7 +8,7 @@
 
 namespace {
 
-constexpr int kEntries = 256;
+constexpr int entries = 256;
 
 BYTE Mix(BYTE from, BYTE to, int part, int whole)
 {
@@ -71,8 +71,8 @@ void PlainFaces::Create(Bitmap& bitmap, int width, int height)
     bitmap.header.biPlanes = 1;
     bitmap.header.biBitCount = 8;
     bitmap.header.biSizeImage = bitmap.stride * height;
-    bitmap.block = static_cast<BYTE*>(std::malloc(
-        sizeof(bitmap.header) + kEntries * sizeof(RGBQUAD) + bitmap.header.biSizeImage));
+    bitmap.block = static_cast<BYTE*>(
+        std::malloc(sizeof(bitmap.header) + entries * sizeof(RGBQUAD) + bitmap.header.biSizeImage));
     if (bitmap.block == nullptr)
         std::abort();
     std::memcpy(bitmap.block, &bitmap.header, sizeof(bitmap.header));
@@ -82,7 +82,7 @@ void PlainFaces::Clone(Bitmap& bitmap, const Bitmap& source)
 {
     Create(bitmap, source.header.biWidth, source.header.biHeight);
     std::memcpy(bitmap.block, source.block,
-                sizeof(source.header) + kEntries * sizeof(RGBQUAD) + source.header.biSizeImage);
+                sizeof(source.header) + entries * sizeof(RGBQUAD) + source.header.biSizeImage);
 }
 
 RGBQUAD* PlainFaces::PaletteOf(const Bitmap& bitmap)
@@ -92,14 +92,14 @@ RGBQUAD* PlainFaces::PaletteOf(const Bitmap& bitmap)
 
 BYTE* PlainFaces::PixelsOf(const Bitmap& bitmap)
 {
-    return bitmap.block + sizeof(bitmap.header) + kEntries * sizeof(RGBQUAD);
+    return bitmap.block + sizeof(bitmap.header) + entries * sizeof(RGBQUAD);
 }
 
 void PlainFaces::Blend(const Bitmap& bitmap, COLORREF color, int percent)
 {
     percent = std::min(percent, 100);
     RGBQUAD* palette = PaletteOf(bitmap);
-    for (int i = 0; i < kEntries; ++i) {
+    for (int i = 0; i < entries; ++i) {
         palette[i].rgbRed = Mix(palette[i].rgbRed, GetRValue(color), percent, 100);
         palette[i].rgbGreen = Mix(palette[i].rgbGreen, GetGValue(color), percent, 100);
         palette[i].rgbBlue = Mix(palette[i].rgbBlue, GetBValue(color), percent, 100);

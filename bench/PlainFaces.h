@@ -1,9 +1,10 @@
+// The plain making of a button's faces, to measure against.
 #pragma once
 
 #include "faces/ShadeGenerator.h"
 
-// The six bitmaps of a button made plainly: fresh memory for each on every call, and the pixels of
-// FillPlainPixels.
+/// The six bitmaps of a button made plainly: fresh memory for each on every call, and the pixels of
+/// FillPlainPixels.
 class PlainFaces
 {
 public:

@@ -19,9 +19,9 @@ double TimeOnce(const Race::Work& work, int repetitions)
 
 int ChooseRepetitions(const Race::Work& work)
 {
-    constexpr double kLeastNanoseconds = 200'000;
+    constexpr double leastNanoseconds = 200'000;
     int repetitions = 1;
-    while (repetitions < 1'000'000 && TimeOnce(work, repetitions) * repetitions < kLeastNanoseconds)
+    while (repetitions < 1'000'000 && TimeOnce(work, repetitions) * repetitions < leastNanoseconds)
         repetitions *= 2;
     return repetitions;
 }
@@ -61,10 +61,10 @@ double Race::NanosecondsOf(const std::string& name) const
 
 bool Race::IsSteady() const
 {
-    constexpr double kMostAboveFastest = 1.25;
+    constexpr double mostAboveFastest = 1.25;
     for (const Entry& entry : m_entries) {
         const double fastest = *std::min_element(entry.times.begin(), entry.times.end());
-        if (MedianOf(entry.times) > fastest * kMostAboveFastest)
+        if (MedianOf(entry.times) > fastest * mostAboveFastest)
             return false;
     }
     return true;

@@ -1,23 +1,24 @@
+// Timing pieces of work against each other.
 #pragma once
 
 #include <functional>
 #include <string>
 #include <vector>
 
-// Times several pieces of work against each other in one run: they take turns, round after round,
-// so that whatever slows the machine for a while slows them all.
+/// Times several pieces of work against each other in one run: they take turns, round after round,
+/// so that whatever slows the machine for a while slows them all.
 class Race
 {
 public:
     using Work = std::function<void()>;
 
     void Add(std::string name, Work work);
-    // Runs all rounds. Work that takes less than a fifth of a millisecond is repeated within each.
+    /// Runs all rounds. Work that takes less than a fifth of a millisecond is repeated within each.
     void Run(int rounds = 21);
-    // Median nanoseconds of one piece of work.
+    /// Median nanoseconds of one piece of work.
     double NanosecondsOf(const std::string& name) const;
-    // Whether no median is far above its fastest round, as it is on a machine that is too busy for
-    // long pieces of work to run through.
+    /// Whether no median is far above its fastest round, as it is on a machine that is too busy for
+    /// long pieces of work to run through.
     bool IsSteady() const;
 
 private:

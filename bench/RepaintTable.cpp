@@ -9,9 +9,9 @@
 
 namespace {
 
-constexpr char kParentClass[] = "UmbraBenchParent";
-constexpr char kCaption[] = "Continue";
-constexpr COLORREF kTint = RGB(180, 200, 230);
+constexpr char parentClass[] = "UmbraBenchParent";
+constexpr char captionText[] = "Continue";
+constexpr COLORREF tint = RGB(180, 200, 230);
 
 // What the plain button shows: the face alone, or what a dialog's button shows besides.
 struct PlainButton
@@ -65,10 +65,10 @@ HWND CreateParent(const FaceSize& size, int left)
     WNDCLASSA windowClass = {};
     windowClass.lpfnWndProc = PlainParentProc;
     windowClass.hInstance = ::GetModuleHandleA(nullptr);
-    windowClass.lpszClassName = kParentClass;
+    windowClass.lpszClassName = parentClass;
     ::RegisterClassA(&windowClass); // Fails from the second time on, which is as well.
-    return ::CreateWindowA(kParentClass, "", WS_POPUP | WS_VISIBLE, left, 0, size.width,
-                           size.height, nullptr, nullptr, windowClass.hInstance, nullptr);
+    return ::CreateWindowA(parentClass, "", WS_POPUP | WS_VISIBLE, left, 0, size.width, size.height,
+                           nullptr, nullptr, windowClass.hInstance, nullptr);
 }
 
 HWND CreateButton(HWND parent, const FaceSize& size, DWORD style, const char* caption)
@@ -86,28 +86,28 @@ void Repaint(HWND button)
 // Whether a repaint brings a spoilt pixel back.
 bool PaintsItself(HWND button)
 {
-    constexpr COLORREF kSpoilt = RGB(1, 254, 3);
+    constexpr COLORREF spoiltColor = RGB(1, 254, 3);
     const HDC dc = ::GetDC(button);
     Repaint(button);
     const COLORREF painted = ::GetPixel(dc, 5, 5);
-    ::SetPixel(dc, 5, 5, kSpoilt);
-    const bool spoilt = ::GetPixel(dc, 5, 5) == kSpoilt;
+    ::SetPixel(dc, 5, 5, spoiltColor);
+    const bool spoilt = ::GetPixel(dc, 5, 5) == spoiltColor;
     Repaint(button);
-    const bool restored = painted != kSpoilt && ::GetPixel(dc, 5, 5) == painted;
+    const bool restored = painted != spoiltColor && ::GetPixel(dc, 5, 5) == painted;
     ::ReleaseDC(button, dc);
     return spoilt && restored;
 }
 
 void PrintLine(const FaceSize& size, bool decorated)
 {
-    const char* const caption = decorated ? kCaption : "";
+    const char* const caption = decorated ? captionText : "";
 
     const HWND plainParent = CreateParent(size, 0);
     const HWND plain = CreateButton(plainParent, size, BS_OWNERDRAW, caption);
     PaletteDib faces[6];
     ShadeRandom random;
     FillShadeFaces({faces[0], faces[1], faces[2], faces[3], faces[4], faces[5]}, size.width,
-                   size.height, 4, {SHADE_DIAGONAL, kGranularity, 20, 30, kTint},
+                   size.height, 4, {SHADE_DIAGONAL, granularity, 20, 30, tint},
                    ShadeColors::OfSystem(), random);
     const PlainButton content = {&faces[0], decorated};
     plainButton = &content;
@@ -118,7 +118,7 @@ void PrintLine(const FaceSize& size, bool decorated)
     CxShadeButton shaded;
     shaded.SubclassWindow(CreateButton(shadedParent.m_hWnd, size, BS_PUSHBUTTON, caption));
     shaded.SetFlat(!decorated); // A flat button that is not hot draws no edge.
-    shaded.SetShade(SHADE_DIAGONAL, kGranularity, 20, 30, kTint);
+    shaded.SetShade(SHADE_DIAGONAL, granularity, 20, 30, tint);
 
     if (!PaintsItself(plain) || !PaintsItself(shaded.m_hWnd))
         std::printf("A button was not painted; the next line means nothing.\n");
@@ -147,7 +147,7 @@ void PrintRepaintTable()
                 "owner-drawn\nbutton that does the least to show the same.\n\n"
                 "| Size | Shows | plain | CxShadeButton | ratio |\n"
                 "|---|---|--:|--:|--:|\n");
-    for (const FaceSize& size : {kFaceSizes[0], kFaceSizes[1]}) {
+    for (const FaceSize& size : {faceSizes[0], faceSizes[1]}) {
         PrintLine(size, false);
         PrintLine(size, true);
     }

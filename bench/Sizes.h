@@ -1,3 +1,4 @@
+// What is measured: sizes, grain and styles of faces.
 #pragma once
 
 struct FaceSize
@@ -6,11 +7,11 @@ struct FaceSize
     int height;
 };
 
-// A usual button, a large one, a screen.
-constexpr FaceSize kFaceSizes[] = {{120, 28}, {400, 300}, {1920, 1080}};
+/// A usual button, a large one, a screen.
+constexpr FaceSize faceSizes[] = {{120, 28}, {400, 300}, {1920, 1080}};
 
-constexpr int kGranularity = 20;
+constexpr int granularity = 20;
 
-constexpr const char* kStyleNames[] = {"noise",      "diagonal",     "rows",
-                                       "columns",    "row bump",     "column bump",
-                                       "cross bump", "rounded bump", "scratched"};
+constexpr const char* styleNames[] = {"noise",      "diagonal",     "rows",
+                                      "columns",    "row bump",     "column bump",
+                                      "cross bump", "rounded bump", "scratched"};

@@ -14,7 +14,7 @@ struct Table
     void (*print)();
 };
 
-constexpr Table kTables[] = {
+constexpr Table tables[] = {
     {"pixels", "Pixels of a face", PrintPixelTable},
     {"faces", "All bitmaps of a button", PrintFacesTable},
     {"repaint", "Repaint of a button", PrintRepaintTable},
@@ -33,7 +33,7 @@ bool IsWanted(const Table& table, int count, char** names)
 
 int main(int argc, char** argv)
 {
-    for (const Table& table : kTables) {
+    for (const Table& table : tables) {
         if (!IsWanted(table, argc, argv))
             continue;
         std::printf("### %s\n\n", table.title);

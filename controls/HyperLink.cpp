@@ -27,7 +27,9 @@ const LONG plainLabelWeight = FW_SEMIBOLD;
 
 } // namespace
 
-CHyperLink::CHyperLink() {}
+CHyperLink::CHyperLink()
+{
+}
 
 CHyperLink::~CHyperLink()
 {
@@ -38,20 +40,20 @@ CHyperLink::~CHyperLink()
     }
 }
 
-void CHyperLink::SetTextColor(COLORREF colour)
+void CHyperLink::SetTextColor(COLORREF color)
 {
-    m_crText = colour;
+    m_crText = color;
 }
 
-void CHyperLink::SetTransparentColor(COLORREF colour)
+void CHyperLink::SetTransparentColor(COLORREF color)
 {
-    m_crTransparent = colour;
+    m_crTransparent = color;
 }
 
 BOOL CHyperLink::SetBitmapFile(CString path)
 {
     const HBITMAP picture = LoadPictureBitmap(path);
-    if (picture == NULL)
+    if (picture == nullptr)
         return TRUE;
     Abandon(m_bmpPicture); // Kept: the former picture is not deleted.
     m_bmpPicture.Attach(picture);
@@ -68,7 +70,7 @@ BOOL CHyperLink::SetBitmapFile(CString path)
 BOOL CHyperLink::SetToolTipText(CString text)
 {
     m_bToolTip = true;
-    if (m_ToolTip.GetSafeHwnd() == NULL)
+    if (m_ToolTip.GetSafeHwnd() == nullptr)
         CreateToolTip();
     if (m_ToolTip.GetToolCount() == 0) {
         CRect client;
@@ -139,8 +141,7 @@ void CHyperLink::OnPaint()
 {
     CPaintDC dc(this);
     if (m_crTransparent != CLR_NONE)
-        DrawKeyedPicture(dc, CRect(0, 0, m_nBitmapWidth, m_nBitmapHeight), m_bmpMask,
-                         m_bmpPicture);
+        DrawKeyedPicture(dc, CRect(0, 0, m_nBitmapWidth, m_nBitmapHeight), m_bmpMask, m_bmpPicture);
     CString text;
     GetWindowText(text);
     CRect area;

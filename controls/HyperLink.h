@@ -17,10 +17,10 @@ public:
     CHyperLink();
     ~CHyperLink() override;
 
-    void SetTextColor(COLORREF colour); ///< Repaints nothing.
+    void SetTextColor(COLORREF color); ///< Repaints nothing.
 
     /// Sets the picture's key colour for the next SetBitmapFile; with CLR_NONE no picture is drawn.
-    void SetTransparentColor(COLORREF colour);
+    void SetTransparentColor(COLORREF color);
 
     /// Shows a picture file. The former bitmap is let go, not deleted. Always TRUE; a picture that
     /// cannot be loaded changes nothing.

@@ -16,7 +16,7 @@ void ClearFourthBytes(HBITMAP bitmap, const BITMAP& record)
     if (record.bmBitsPixel != 32)
         return;
     CDC screen;
-    screen.CreateCompatibleDC(NULL);
+    screen.CreateCompatibleDC(nullptr);
     const size_t pixels = static_cast<size_t>(record.bmWidth) * rowsAtOnce;
     const std::unique_ptr<DWORD[]> rows(new (std::nothrow) DWORD[pixels]);
     if (rows == nullptr)
@@ -46,15 +46,15 @@ void BuildKeyMask(CBitmap& picture, CBitmap& mask, COLORREF key)
 {
     mask.DeleteObject();
     BITMAP record = {};
-    if (picture.GetSafeHandle() == NULL || picture.GetBitmap(&record) == 0)
+    if (picture.GetSafeHandle() == nullptr || picture.GetBitmap(&record) == 0)
         return;
-    if (!mask.CreateBitmap(record.bmWidth, record.bmHeight, 1, 1, NULL))
+    if (!mask.CreateBitmap(record.bmWidth, record.bmHeight, 1, 1, nullptr))
         return;
     ClearFourthBytes(static_cast<HBITMAP>(picture.GetSafeHandle()), record);
 
     CDC pictureDC, maskDC;
-    pictureDC.CreateCompatibleDC(NULL);
-    maskDC.CreateCompatibleDC(NULL);
+    pictureDC.CreateCompatibleDC(nullptr);
+    maskDC.CreateCompatibleDC(nullptr);
     const ScopedSelect pictureSelected(pictureDC, picture.GetSafeHandle());
     const ScopedSelect maskSelected(maskDC, mask.GetSafeHandle());
 
@@ -71,12 +71,12 @@ void BuildKeyMask(CBitmap& picture, CBitmap& mask, COLORREF key)
 void DrawKeyedPicture(CDC& target, const CRect& place, CBitmap& mask, CBitmap& picture)
 {
     CDC memory;
-    memory.CreateCompatibleDC(NULL);
+    memory.CreateCompatibleDC(nullptr);
     {
         const ScopedSelect selected(memory, mask.GetSafeHandle());
         target.BitBlt(place.left, place.top, place.Width(), place.Height(), &memory, 0, 0, SRCAND);
     }
-    if (picture.GetSafeHandle() == NULL)
+    if (picture.GetSafeHandle() == nullptr)
         return;
     const ScopedSelect selected(memory, picture.GetSafeHandle());
     target.BitBlt(place.left, place.top, place.Width(), place.Height(), &memory, 0, 0, SRCPAINT);

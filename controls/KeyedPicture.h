@@ -12,5 +12,4 @@ UMBRA_API void BuildKeyMask(CBitmap& picture, CBitmap& mask, COLORREF key);
 
 /// Draws the picture through its mask into `place` of the target, from the picture's top-left
 /// corner, unscaled. An empty picture draws the mask alone.
-UMBRA_API void DrawKeyedPicture(CDC& target, const CRect& place, CBitmap& mask,
-                                  CBitmap& picture);
+UMBRA_API void DrawKeyedPicture(CDC& target, const CRect& place, CBitmap& mask, CBitmap& picture);

@@ -18,7 +18,7 @@ CString TrimTarget(CString target)
 void TraceUnreachableLink(const CWnd& label)
 {
 #ifdef _DEBUG
-    if (label.GetSafeHwnd() != NULL && (label.GetStyle() & SS_NOTIFY) == 0)
+    if (label.GetSafeHwnd() != nullptr && (label.GetStyle() & SS_NOTIFY) == 0)
         TRACE("Umbra: link label %d lacks SS_NOTIFY and can never be clicked.\n",
               label.GetDlgCtrlID());
 #else

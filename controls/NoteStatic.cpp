@@ -3,9 +3,13 @@
 BEGIN_MESSAGE_MAP(CNoteStatic, CStaticTS)
 END_MESSAGE_MAP()
 
-CNoteStatic::CNoteStatic() {}
+CNoteStatic::CNoteStatic()
+{
+}
 
-CNoteStatic::~CNoteStatic() {}
+CNoteStatic::~CNoteStatic()
+{
+}
 
 void CNoteStatic::CopyWindowFont()
 {

@@ -9,13 +9,13 @@ public:
     /// Selects nothing when `object` is NULL.
     ScopedSelect(CDC& dc, HGDIOBJ object)
         : m_dc(dc.GetSafeHdc()),
-          m_previous(object != NULL ? ::SelectObject(m_dc, object) : NULL)
+          m_previous(object != nullptr ? ::SelectObject(m_dc, object) : nullptr)
     {
     }
 
     ~ScopedSelect()
     {
-        if (m_previous != NULL)
+        if (m_previous != nullptr)
             ::SelectObject(m_dc, m_previous);
     }
 

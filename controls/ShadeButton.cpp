@@ -42,7 +42,9 @@ void DrawRectangle(CDC& dc, const CRect& area, int topLeft, int bottomRight)
 
 } // namespace
 
-CxShadeButton::CxShadeButton() : m_textColor(::GetSysColor(COLOR_BTNTEXT)), m_rcIcon(0, 0, 0, 0) {}
+CxShadeButton::CxShadeButton() : m_textColor(::GetSysColor(COLOR_BTNTEXT)), m_rcIcon(0, 0, 0, 0)
+{
+}
 
 CxShadeButton::~CxShadeButton()
 {
@@ -51,7 +53,7 @@ CxShadeButton::~CxShadeButton()
     ReleaseIcons();
     if (m_bmpImage.GetSafeHandle() == m_hBitmap)
         m_bmpImage.Detach(); // They share the handle, which is deleted once.
-    if (m_hBitmap != NULL)
+    if (m_hBitmap != nullptr)
         ::DeleteObject(m_hBitmap);
     if (m_pictureOwned) {
         m_bmpImage.DeleteObject();
@@ -61,13 +63,13 @@ CxShadeButton::~CxShadeButton()
 }
 
 BOOL CxShadeButton::SetShade(UINT shade, BYTE granularity, BYTE highlight, BYTE coloring,
-                             COLORREF colour)
+                             COLORREF color)
 {
     CRect window;
     GetWindowRect(&window);
     FillShadeFaces({m_dibNormal, m_dibDown, m_dibDisabled, m_dibOver, m_dibFocusH, m_dibFocusV},
                    window.Width(), window.Height(), m_border,
-                   {shade, granularity, highlight, coloring, colour}, ShadeColors::OfSystem(),
+                   {shade, granularity, highlight, coloring, color}, ShadeColors::OfSystem(),
                    ShadeRandom::OfProcess());
     return TRUE;
 }
@@ -75,14 +77,14 @@ BOOL CxShadeButton::SetShade(UINT shade, BYTE granularity, BYTE highlight, BYTE 
 BOOL CxShadeButton::SetPicture(CString path, UINT align, int width, int height, COLORREF maskColor)
 {
     m_hBitmap = LoadPictureBitmap(path);
-    if (m_hBitmap != NULL) {
+    if (m_hBitmap != nullptr) {
         m_maskColor = maskColor;
         PlacePicture(align, width, height);
         Abandon(m_bmpImage); // Kept: the former picture is not deleted.
         m_bmpImage.Attach(m_hBitmap);
         BuildKeyMask(m_bmpImage, m_bmpMask, maskColor == CLR_NONE ? RGB(0, 0, 0) : maskColor);
     }
-    m_hIcon = NULL;
+    m_hIcon = nullptr;
     return TRUE;
 }
 
@@ -91,8 +93,8 @@ void CxShadeButton::SetIcons(HICON hIcon, UINT align, int width, int height, HIC
 {
     ReleaseIcons();
     m_hIcon = hIcon;
-    m_hIconDown = hIconDown != NULL ? hIconDown : hIcon;
-    m_hIconOver = hIconOver != NULL ? hIconOver : hIcon;
+    m_hIconDown = hIconDown != nullptr ? hIconDown : hIcon;
+    m_hIconOver = hIconOver != nullptr ? hIconOver : hIcon;
     PlacePicture(align, width, height);
     Invalidate();
 }
@@ -133,7 +135,7 @@ BOOL CxShadeButton::SetToolTipText(const CString& text, const CString& textCheck
 {
     m_toolTipText = text;
     m_toolTipTextChecked = textChecked;
-    if (m_toolTip.GetSafeHwnd() == NULL) {
+    if (m_toolTip.GetSafeHwnd() == nullptr) {
         if (!m_toolTip.Create(this))
             return FALSE;
         m_toolTip.AddTool(this, text);
@@ -155,7 +157,7 @@ void CxShadeButton::DrawItem(LPDRAWITEMSTRUCT lpDrawItemStruct)
     if (CorrectCapture())
         return;
     CDC* target = CDC::FromHandle(lpDrawItemStruct->hDC);
-    if (target == NULL)
+    if (target == nullptr)
         return;
 
     const CRect item(lpDrawItemStruct->rcItem);
@@ -165,8 +167,8 @@ void CxShadeButton::DrawItem(LPDRAWITEMSTRUCT lpDrawItemStruct)
     canvas.CreateCompatibleBitmap(target, item.Width(), item.Height());
     {
         const ScopedSelect canvasSelected(memory, canvas.GetSafeHandle());
-        const HGDIOBJ font = m_font.GetSafeHandle() != NULL ? m_font.GetSafeHandle()
-                                                            : ::GetStockObject(DEFAULT_GUI_FONT);
+        const HGDIOBJ font = m_font.GetSafeHandle() != nullptr ? m_font.GetSafeHandle()
+                                                               : ::GetStockObject(DEFAULT_GUI_FONT);
         const ScopedSelect fontSelected(memory, font);
         memory.SetBkMode(TRANSPARENT);
 
@@ -175,7 +177,7 @@ void CxShadeButton::DrawItem(LPDRAWITEMSTRUCT lpDrawItemStruct)
         DrawFace(face);
         target->BitBlt(0, 0, item.Width(), item.Height(), &memory, 0, 0, SRCCOPY);
     }
-    if (m_maskColor != CLR_NONE && m_hBitmap != NULL)
+    if (m_maskColor != CLR_NONE && m_hBitmap != nullptr)
         DrawMaskedPicture(*target, lpDrawItemStruct->itemState);
 }
 
@@ -276,7 +278,7 @@ LRESULT CxShadeButton::OnSetCheck(WPARAM wParam, LPARAM)
         UncheckGroup();
     Invalidate();
     const HWND window = m_hWnd;
-    if (m_toolTip.GetSafeHwnd() != NULL)
+    if (m_toolTip.GetSafeHwnd() != nullptr)
         m_toolTip.Pop();
     if (::IsWindow(window))
         UpdateToolTipText();
@@ -340,13 +342,13 @@ void CxShadeButton::PlacePicture(UINT align, int width, int height)
 
 void CxShadeButton::ReleaseIcons()
 {
-    if (m_hIconDown != NULL && m_hIconDown != m_hIcon)
+    if (m_hIconDown != nullptr && m_hIconDown != m_hIcon)
         ::DestroyIcon(m_hIconDown);
-    if (m_hIconOver != NULL && m_hIconOver != m_hIcon && m_hIconOver != m_hIconDown)
+    if (m_hIconOver != nullptr && m_hIconOver != m_hIcon && m_hIconOver != m_hIconDown)
         ::DestroyIcon(m_hIconOver);
-    if (m_hIcon != NULL)
+    if (m_hIcon != nullptr)
         ::DestroyIcon(m_hIcon);
-    m_hIcon = m_hIconDown = m_hIconOver = NULL;
+    m_hIcon = m_hIconDown = m_hIconOver = nullptr;
 }
 
 /// While the button is held, it is down only under the mouse. TRUE when its state had to change:
@@ -367,7 +369,7 @@ CRect CxShadeButton::GetCaptionArea(const CRect& item) const
 {
     CRect area = item;
     area.DeflateRect(m_border + captionGap, 0);
-    if (m_hIcon == NULL && m_hBitmap == NULL)
+    if (m_hIcon == nullptr && m_hBitmap == nullptr)
         return area;
     if (m_iconAlign == alignLeft) {
         area.left += m_rcIcon.Width();
@@ -418,7 +420,7 @@ void CxShadeButton::DrawRaisedFace(Face& face)
     else if (!m_hover || !m_dibOver.Draw(dc, 0, 0))
         m_dibNormal.Draw(dc, 0, 0);
 
-    const HICON icon = m_hover && m_hIconOver != NULL ? m_hIconOver : m_hIcon;
+    const HICON icon = m_hover && m_hIconOver != nullptr ? m_hIconOver : m_hIcon;
     DrawIcon(face.dc, icon, 0, DSS_NORMAL);
 
     if (!m_3dBorder || (m_flat && !m_hover))
@@ -474,9 +476,9 @@ void CxShadeButton::DrawCaption(Face& face)
 void CxShadeButton::DrawIcon(CDC& dc, HICON icon, int shift, UINT look)
 {
     const CPoint corner(m_rcIcon.left + shift, m_rcIcon.top + shift);
-    if (icon != NULL)
-        dc.DrawState(corner, m_rcIcon.Size(), icon, look, static_cast<HBRUSH>(NULL));
-    else if (m_hBitmap != NULL && m_maskColor == CLR_NONE)
+    if (icon != nullptr)
+        dc.DrawState(corner, m_rcIcon.Size(), icon, look, static_cast<HBRUSH>(nullptr));
+    else if (m_hBitmap != nullptr && m_maskColor == CLR_NONE)
         dc.DrawState(corner, m_rcIcon.Size(), m_hBitmap, look);
 }
 
@@ -540,7 +542,7 @@ void CxShadeButton::UncheckGroup()
     const HWND first = ::GetNextDlgGroupItem(parent, m_hWnd, FALSE);
     HWND mark = first;
     unsigned int steps = 0;
-    for (HWND item = first; item != NULL && item != m_hWnd;) {
+    for (HWND item = first; item != nullptr && item != m_hWnd;) {
         ::PostMessage(item, WM_SHADE_UNCHECK, 0, 0);
         item = ::GetNextDlgGroupItem(parent, item, FALSE);
         // A hidden or disabled button is not part of the circle, so the walk need not come back to
@@ -555,7 +557,7 @@ void CxShadeButton::UncheckGroup()
 
 void CxShadeButton::UpdateToolTipText()
 {
-    if (m_toolTip.GetSafeHwnd() == NULL)
+    if (m_toolTip.GetSafeHwnd() == nullptr)
         return;
     const BOOL ownText = m_checked && !m_toolTipTextChecked.IsEmpty();
     m_toolTip.UpdateTipText(ownText ? m_toolTipTextChecked : m_toolTipText, this);
@@ -564,6 +566,6 @@ void CxShadeButton::UpdateToolTipText()
 /// Passes a mouse message on to the tool tip, which may notify the host. Answers as Send.
 BOOL CxShadeButton::RelayToolTipEvent(UINT message, WPARAM wParam, LPARAM lParam)
 {
-    return m_toolTip.GetSafeHwnd() == NULL ||
+    return m_toolTip.GetSafeHwnd() == nullptr ||
            RelayToToolTip(m_toolTip, *this, message, wParam, lParam);
 }

@@ -1,6 +1,6 @@
-// CxShadeButton: an owner-drawn button whose faces are computed bitmaps. It follows the mouse with a
-// hot face, can show an icon or a picture beside its caption, and can be a push button, a check box
-// or a radio button while it keeps its own look.
+// CxShadeButton: an owner-drawn button whose faces are computed bitmaps. It follows the mouse with
+// a hot face, can show an icon or a picture beside its caption, and can be a push button, a check
+// box or a radio button while it keeps its own look.
 //
 // Subclass a button of a dialog with it (DDX_Control), then call SetShade, again after each change
 // of size. The kind follows from the style that the button has then, bit by bit: BS_AUTOCHECKBOX
@@ -38,17 +38,18 @@ public:
     /// Computes the faces for the button's present size: a SHADE_... style, the amplitude of the
     /// grain, how far (percent) the hot face goes towards the highlight colour, how far (percent)
     /// all faces go towards `colour`. Repaints nothing. Always TRUE.
-    BOOL SetShade(UINT shade, BYTE granularity, BYTE highlight, BYTE coloring, COLORREF colour);
+    BOOL SetShade(UINT shade, BYTE granularity, BYTE highlight, BYTE coloring, COLORREF color);
 
     /// Loads a picture file to be shown in width by height pixels, its mask colour transparent
     /// (CLR_NONE: none). It replaces an icon, and a former picture, which is let go, not deleted.
-    /// A file that does not load leaves the button without a picture. Repaints nothing. Always TRUE.
+    /// A file that does not load leaves the button without a picture. Repaints nothing. Always
+    /// TRUE.
     BOOL SetPicture(CString path, UINT align, int width, int height, COLORREF maskColor);
 
     /// Shows an icon of width by height pixels; the pressed and hot looks have the same one unless
     /// theirs is given. The button owns the icons from here on. NULL takes the icon away.
-    void SetIcons(HICON hIcon, UINT align, int width, int height, HICON hIconDown = NULL,
-                  HICON hIconOver = NULL);
+    void SetIcons(HICON hIcon, UINT align, int width, int height, HICON hIconDown = nullptr,
+                  HICON hIconOver = nullptr);
 
     void SetTextColor(COLORREF color);
     BOOL SetTextFont(const LOGFONT& font); ///< FALSE: no such font; the default GUI font is used.
@@ -69,7 +70,7 @@ protected:
     CBitmap m_bmpImage; ///< The picture, black where it had the mask colour.
     CBitmap m_bmpMask;
     CFont m_font;                  ///< Empty: the stock DEFAULT_GUI_FONT.
-    void* m_pictureData = NULL;    ///< Released with free().
+    void* m_pictureData = nullptr; ///< Released with free().
     CString m_toolTipText;         ///< Also while checked, unless that has a text of its own.
     CString m_toolTipTextChecked;
     BYTE m_checked = FALSE;
@@ -87,11 +88,11 @@ protected:
     int m_border = 4;
     COLORREF m_textColor;
     int m_3dBorder = 1; ///< Edges are drawn; also the shift of the pressed face in pixels.
-    HICON m_hIcon = NULL;
-    HICON m_hIconDown = NULL; ///< May equal m_hIcon, and so may the next.
-    HICON m_hIconOver = NULL;
-    HBITMAP m_hBitmap = NULL; ///< The loaded picture: the handle that m_bmpImage holds.
-    CRect m_rcIcon;           ///< Place of the icon or picture in the button.
+    HICON m_hIcon = nullptr;
+    HICON m_hIconDown = nullptr; ///< May equal m_hIcon, and so may the next.
+    HICON m_hIconOver = nullptr;
+    HBITMAP m_hBitmap = nullptr; ///< The loaded picture: the handle that m_bmpImage holds.
+    CRect m_rcIcon;              ///< Place of the icon or picture in the button.
     UINT m_textFormat = DT_CENTER;
     UINT m_iconAlign = alignTop;
     BYTE m_flat = FALSE;

@@ -30,7 +30,9 @@ const int keyedExtent = 200;
 
 } // namespace
 
-CStaticTS::CStaticTS() {}
+CStaticTS::CStaticTS()
+{
+}
 
 CStaticTS::~CStaticTS()
 {
@@ -73,7 +75,7 @@ void CStaticTS::SetTransparentColor(COLORREF color)
 BOOL CStaticTS::LoadPicture(CString path)
 {
     const HBITMAP picture = LoadPictureBitmap(path);
-    if (picture == NULL)
+    if (picture == nullptr)
         return TRUE;
     Abandon(m_bmpPicture); // Kept: the former picture is not deleted.
     m_bmpPicture.Attach(picture);
@@ -92,8 +94,8 @@ void CStaticTS::SetLinkTarget(const CString& target)
 HBRUSH CStaticTS::CtlColor(CDC* pDC, UINT)
 {
     m_brBack.DeleteObject();
-    if (pDC == NULL)
-        return NULL; // What asks has run out of device contexts.
+    if (pDC == nullptr)
+        return nullptr; // What asks has run out of device contexts.
     if (m_bTransparent) {
         m_brBack.Attach(::GetStockObject(NULL_BRUSH));
         pDC->SetBkMode(TRANSPARENT);
@@ -128,7 +130,7 @@ int CStaticTS::OnCreate(LPCREATESTRUCT lpCreateStruct)
     SnapToDialogUnits(*lpCreateStruct);
     if (Default() == -1)
         return -1;
-    SetWindowPos(NULL, lpCreateStruct->x, lpCreateStruct->y, lpCreateStruct->cx,
+    SetWindowPos(nullptr, lpCreateStruct->x, lpCreateStruct->y, lpCreateStruct->cx,
                  lpCreateStruct->cy, 0);
     return 0;
 }
@@ -175,7 +177,7 @@ void CStaticTS::BuildMask()
 void CStaticTS::InvalidateParentArea()
 {
     CWnd* parent = GetParent();
-    if (parent == NULL)
+    if (parent == nullptr)
         return;
     CRect area;
     GetWindowRect(&area);

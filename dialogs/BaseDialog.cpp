@@ -75,7 +75,7 @@ void CBaseDialog::ApplyButtonShade(CxShadeButton& button)
 void CBaseDialog::ShowPicture(UINT stringId)
 {
     const WorkingFolder folder(m_strImageDir);
-    if (m_picture.GetSafeHwnd() == NULL)
+    if (m_picture.GetSafeHwnd() == nullptr)
         m_picture.Create("", 0, pictureBox, this, pictureId);
     m_picture.SetTransparentColor(imageKey);
     m_picture.LoadPicture(PathOfStringImage(stringId));

@@ -29,7 +29,7 @@ CDialogTS::CDialogTS(UINT nIDTemplate, CWnd* pParent)
 CDialogTS::~CDialogTS()
 {
     FreeBitmaps();
-    if (m_hBackBrush != NULL)
+    if (m_hBackBrush != nullptr)
         ::DeleteObject(m_hBackBrush);
 }
 
@@ -51,7 +51,7 @@ void CDialogTS::FreeBitmaps()
 
 void CDialogTS::DrawShaped(CDC* pDC, int cx, int cy)
 {
-    if (pDC != NULL)
+    if (pDC != nullptr)
         DrawKeyedPicture(*pDC, CRect(0, 0, cx, cy), m_bmpMask, m_bmpBack);
 }
 
@@ -71,14 +71,14 @@ BOOL CDialogTS::OnEraseBkgnd(CDC* pDC)
     CRect client;
     GetClientRect(&client);
     if (m_bSolidFill) {
-        if (pDC != NULL)
+        if (pDC != nullptr)
             pDC->FillSolidRect(&client, m_crFill);
         return FALSE; // Kept: the area is filled, yet the system is told it still needs erasing.
     }
     if (!m_bHasBitmap)
         return static_cast<BOOL>(Default());
 
-    if (pDC != NULL)
+    if (pDC != nullptr)
         DrawBackground(pDC, client);
     return TRUE;
 }
@@ -95,8 +95,8 @@ int CDialogTS::OnCreate(LPCREATESTRUCT lpCreateStruct)
     SnapToDialogUnits(*lpCreateStruct);
     if (Default() == -1)
         return -1;
-    SetWindowPos(NULL, lpCreateStruct->x, lpCreateStruct->y, lpCreateStruct->cx, lpCreateStruct->cy,
-                 0);
+    SetWindowPos(nullptr, lpCreateStruct->x, lpCreateStruct->y, lpCreateStruct->cx,
+                 lpCreateStruct->cy, 0);
     return 0;
 }
 
@@ -105,7 +105,7 @@ void CDialogTS::DrawBackground(CDC* pDC, const CRect& client)
     CDC memory;
     memory.CreateCompatibleDC(pDC);
     BITMAP image = {};
-    if (m_bmpBack.GetSafeHandle() != NULL) {
+    if (m_bmpBack.GetSafeHandle() != nullptr) {
         memory.SelectObject(&m_bmpBack);
         if (m_bmpBack.GetBitmap(&image) == 0)
             image = {};

@@ -11,7 +11,7 @@
 class UMBRA_API CDialogTS : public CDialog
 {
 public:
-    explicit CDialogTS(UINT nIDTemplate, CWnd* pParent = NULL);
+    explicit CDialogTS(UINT nIDTemplate, CWnd* pParent = nullptr);
     ~CDialogTS() override;
 
     INT_PTR DoModal() override;

@@ -4,7 +4,7 @@
 
 #include "resources/resource.h"
 
-CModellessDlg* g_pModelessDlg = NULL;
+CModellessDlg* g_pModelessDlg = nullptr;
 
 BEGIN_MESSAGE_MAP(CModellessDlg, CBaseDialog)
 END_MESSAGE_MAP()
@@ -49,7 +49,7 @@ void CModellessDlg::PumpMessages()
     // A handler of the host may end this window, and the object with it.
     const HWND dialog = GetSafeHwnd();
     MSG message;
-    while (::PeekMessage(&message, NULL, 0, 0, PM_REMOVE)) {
+    while (::PeekMessage(&message, nullptr, 0, 0, PM_REMOVE)) {
         if (::IsWindow(dialog) && ::IsDialogMessage(dialog, &message))
             continue;
         ::TranslateMessage(&message);

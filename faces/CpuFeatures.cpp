@@ -8,19 +8,19 @@
 
 bool CpuHasAvx2()
 {
-    constexpr int kOsSavesState = 1 << 27; // leaf 1, ECX
-    constexpr int kAvx2 = 1 << 5;          // leaf 7, EBX
-    constexpr unsigned kXmmAndYmm = 6;     // of XCR0
+    constexpr int osSavesState = 1 << 27; // leaf 1, ECX
+    constexpr int avx2 = 1 << 5;          // leaf 7, EBX
+    constexpr unsigned xmmAndYmm = 6;     // of XCR0
 
     int registers[4];
     __cpuid(registers, 0);
     if (registers[0] < 7)
         return false;
     __cpuid(registers, 1);
-    if ((registers[2] & kOsSavesState) == 0 || (_xgetbv(0) & kXmmAndYmm) != kXmmAndYmm)
+    if ((registers[2] & osSavesState) == 0 || (_xgetbv(0) & xmmAndYmm) != xmmAndYmm)
         return false;
     __cpuidex(registers, 7, 0);
-    return (registers[1] & kAvx2) != 0;
+    return (registers[1] & avx2) != 0;
 }
 
 #else

@@ -22,19 +22,19 @@ WORD CountPalette(WORD bitCount)
 
 // Channels that are blended at a time: those of two colours, so that they fill a vector of 16-bit
 // numbers. Every colour table has an even number of colours.
-constexpr int kLanes = 8;
+constexpr int lanes = 8;
 
 struct BlendTerms
 {
-    std::uint16_t keep[kLanes]; // percent of the old channel
-    std::uint16_t add[kLanes];  // percent times the new one
+    std::uint16_t keep[lanes]; // percent of the old channel
+    std::uint16_t add[lanes];  // percent times the new one
 };
 
 BlendTerms TermsOf(COLORREF color, UINT percent)
 {
     const UINT rest = 100 - percent;
     BlendTerms terms;
-    for (int i = 0; i < kLanes; i += 4) {
+    for (int i = 0; i < lanes; i += 4) {
         const UINT keep[4] = {rest, rest, rest, 100};
         const UINT add[4] = {GetBValue(color) * percent, GetGValue(color) * percent,
                              GetRValue(color) * percent, 0};
@@ -156,8 +156,8 @@ void PaletteDib::BlendPalette(COLORREF color, UINT percent)
     const BlendTerms terms = TermsOf(color, percent > 100 ? 100 : percent);
     BYTE* channels = reinterpret_cast<BYTE*>(palette);
     BYTE* const end = channels + m_paletteCount * sizeof(RGBQUAD);
-    for (; channels < end; channels += kLanes) {
-        for (int i = 0; i < kLanes; ++i) {
+    for (; channels < end; channels += lanes) {
+        for (int i = 0; i < lanes; ++i) {
             const auto sum = static_cast<std::uint16_t>(channels[i] * terms.keep[i] + terms.add[i]);
             channels[i] = static_cast<BYTE>(sum / 100);
         }

@@ -5,33 +5,33 @@
 
 namespace {
 
-constexpr int kPaletteSize = 256;
+constexpr int paletteSize = 256;
 
 // Writes 128 colours on the way from one to the other, the first being firstPart / 128 of it. The
 // channels of two colours at a time fill a vector of 16-bit numbers; the reserved one stays 0.
 void WriteRamp(RGBQUAD* palette, COLORREF from, COLORREF to, int firstPart)
 {
-    constexpr int kLanes = 8;
+    constexpr int lanes = 8;
     const int start[4] = {GetBValue(from), GetGValue(from), GetRValue(from), 0};
     const int end[4] = {GetBValue(to), GetGValue(to), GetRValue(to), 0};
-    std::uint16_t sums[kLanes];
-    std::uint16_t steps[kLanes];
-    for (int i = 0; i < kLanes; ++i) {
+    std::uint16_t sums[lanes];
+    std::uint16_t steps[lanes];
+    for (int i = 0; i < lanes; ++i) {
         const int part = firstPart + i / 4;
         sums[i] = static_cast<std::uint16_t>(start[i % 4] * (128 - part) + end[i % 4] * part);
         steps[i] = static_cast<std::uint16_t>((end[i % 4] - start[i % 4]) * 2);
     }
 
     BYTE* channels = reinterpret_cast<BYTE*>(palette);
-    for (int entry = 0; entry < 128; entry += 2, channels += kLanes) {
-        for (int i = 0; i < kLanes; ++i) {
+    for (int entry = 0; entry < 128; entry += 2, channels += lanes) {
+        for (int i = 0; i < lanes; ++i) {
             channels[i] = static_cast<BYTE>(sums[i] >> 7);
             sums[i] = static_cast<std::uint16_t>(sums[i] + steps[i]);
         }
     }
 }
 
-void BuildPalette(const ShadeColors& colors, RGBQUAD (&palette)[kPaletteSize])
+void BuildPalette(const ShadeColors& colors, RGBQUAD (&palette)[paletteSize])
 {
     // Kept: the second half begins one step on the way to the highlight colour, so that entry 128
     // is a touch lighter than the face colour, which no entry is, and entry 255 is the highlight
@@ -40,7 +40,7 @@ void BuildPalette(const ShadeColors& colors, RGBQUAD (&palette)[kPaletteSize])
     WriteRamp(palette + 128, colors.face, colors.highlight, 1);
 }
 
-void StorePalette(const PaletteDib& dib, const RGBQUAD (&palette)[kPaletteSize])
+void StorePalette(const PaletteDib& dib, const RGBQUAD (&palette)[paletteSize])
 {
     if (dib.IsValid())
         std::memcpy(dib.GetPalette(), palette, sizeof(palette));
@@ -91,7 +91,7 @@ void FillShadeFaces(const ShadeFaces& faces, int width, int height, int border,
     faces.focusV.Create(1, LineLength(height, border), 8);
     faces.normal.Create(width, height, 8);
 
-    RGBQUAD palette[kPaletteSize];
+    RGBQUAD palette[paletteSize];
     BuildPalette(colors, palette);
     StorePalette(faces.normal, palette);
     StorePalette(faces.focusH, palette);

@@ -10,9 +10,9 @@ namespace {
 // 32 states, eight to a vector.
 struct Avx2Lanes
 {
-    static constexpr int kPixels = 32;
-    static constexpr int kVectors = 4;
-    static constexpr int kWords = kVectors * 8;
+    static constexpr int pixelsAtOnce = 32;
+    static constexpr int vectors = 4;
+    static constexpr int words = vectors * 8;
 
     struct Leap
     {
@@ -53,26 +53,26 @@ struct Avx2Lanes
     Avx2Lanes(std::uint32_t state, const std::uint32_t* factors, const std::uint32_t* offsets)
     {
         const __m256i doubled = _mm256_set1_epi32(static_cast<int>(state * 2));
-        for (int i = 0; i < kVectors; ++i)
+        for (int i = 0; i < vectors; ++i)
             states[i] = _mm256_add_epi32(_mm256_mullo_epi32(doubled, Load(factors + i * 8)),
                                          Load(offsets + i * 8));
     }
 
     explicit Avx2Lanes(const std::uint32_t* saved)
     {
-        for (int i = 0; i < kVectors; ++i)
+        for (int i = 0; i < vectors; ++i)
             states[i] = Load(saved + i * 8);
     }
 
     void Save(std::uint32_t* saved) const
     {
-        for (int i = 0; i < kVectors; ++i)
+        for (int i = 0; i < vectors; ++i)
             Store(saved + i * 8, states[i]);
     }
 
     void Advance(const Leap& leap)
     {
-        for (int i = 0; i < kVectors; ++i)
+        for (int i = 0; i < vectors; ++i)
             states[i] = _mm256_add_epi32(_mm256_mullo_epi32(states[i], leap.factor), leap.offset);
     }
 
@@ -160,7 +160,7 @@ private:
         return _mm256_srai_epi16(_mm256_add_epi16(sum, rounding), 7);
     }
 
-    __m256i states[kVectors];
+    __m256i states[vectors];
 };
 
 } // namespace

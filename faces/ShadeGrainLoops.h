@@ -28,22 +28,22 @@ constexpr RandomLeap Repeat(RandomLeap leap, int times)
     return all;
 }
 
-constexpr RandomLeap kOneStep = {ShadeRandom::kFactor, ShadeRandom::kOffset};
+constexpr RandomLeap singleStep = {ShadeRandom::multiplier, ShadeRandom::increment};
 
-// The leaps from the state before a block to each of its lanes, in the lanes' own order.
+/// The leaps from the state before a block to each of its lanes, in the lanes' own order.
 template <class Lanes>
 struct BlockStart
 {
-    alignas(32) std::uint32_t factors[Lanes::kWords] = {};
-    alignas(32) std::uint32_t offsets[Lanes::kWords] = {};
+    alignas(32) std::uint32_t factors[Lanes::words] = {};
+    alignas(32) std::uint32_t offsets[Lanes::words] = {};
 
     constexpr BlockStart()
     {
-        RandomLeap leap = kOneStep;
-        for (int i = 0; i < Lanes::kPixels; ++i) {
+        RandomLeap leap = singleStep;
+        for (int i = 0; i < Lanes::pixelsAtOnce; ++i) {
             factors[Lanes::WordOf(i)] = leap.factor;
             offsets[Lanes::WordOf(i)] = leap.offset * 2;
-            leap = Join(leap, kOneStep);
+            leap = Join(leap, singleStep);
         }
     }
 };
@@ -51,9 +51,9 @@ struct BlockStart
 template <class Lanes>
 std::uint32_t GrainRows(const GrainJob& job)
 {
-    static constexpr BlockStart<Lanes> kStart;
-    constexpr RandomLeap kBlock = Repeat(kOneStep, Lanes::kPixels);
-    const typename Lanes::Leap blockLeap(kBlock);
+    static constexpr BlockStart<Lanes> start;
+    constexpr RandomLeap block = Repeat(singleStep, Lanes::pixelsAtOnce);
+    const typename Lanes::Leap blockLeap(block);
     const typename Lanes::Divider divider(job.divider);
     const std::uint8_t* const base = job.base;
     const int width = job.width;
@@ -62,9 +62,9 @@ std::uint32_t GrainRows(const GrainJob& job)
     std::uint8_t* row = job.bits;
     for (int r = 0; r < job.rows; ++r, row += job.stride) {
         const auto add = Lanes::Spread(job.add[r]);
-        Lanes lanes(state, kStart.factors, kStart.offsets);
+        Lanes lanes(state, start.factors, start.offsets);
         int x = 0;
-        for (; x + Lanes::kPixels <= width; x += Lanes::kPixels) {
+        for (; x + Lanes::pixelsAtOnce <= width; x += Lanes::pixelsAtOnce) {
             Lanes::Store(row + x, lanes.Pixels(divider, base + x, add));
             lanes.Advance(blockLeap);
         }
@@ -75,43 +75,43 @@ std::uint32_t GrainRows(const GrainJob& job)
     return state;
 }
 
-// Fills in the states of each column's first pixel.
+/// Fills in the states of each column's first pixel.
 template <class Lanes>
 void StartColumns(const GrainJob& job, std::uint32_t* states)
 {
-    std::uint32_t state = job.state * kOneStep.factor + kOneStep.offset;
-    for (int i = 0; i < Lanes::kPixels; ++i) {
+    std::uint32_t state = job.state * singleStep.factor + singleStep.offset;
+    for (int i = 0; i < Lanes::pixelsAtOnce; ++i) {
         states[Lanes::WordOf(i)] = state * 2;
         state = state * job.lineLeap.factor + job.lineLeap.offset;
     }
     Lanes lanes(states);
-    const typename Lanes::Leap blockLeap(Repeat(job.lineLeap, Lanes::kPixels));
-    for (int x = 0; x < job.width; x += Lanes::kPixels, states += Lanes::kWords) {
+    const typename Lanes::Leap blockLeap(Repeat(job.lineLeap, Lanes::pixelsAtOnce));
+    for (int x = 0; x < job.width; x += Lanes::pixelsAtOnce, states += Lanes::words) {
         lanes.Save(states);
         lanes.Advance(blockLeap);
     }
 }
 
-// Columns lie side by side in the lanes, so that whole rows of a block are written at once. Bands
-// of some rows keep the states in registers for a while and the writing within a few rows.
+/// Columns lie side by side in the lanes, so that whole rows of a block are written at once. Bands
+/// of some rows keep the states in registers for a while and the writing within a few rows.
 template <class Lanes>
 void GrainColumns(const GrainJob& job, std::uint32_t* states)
 {
-    constexpr int kBand = 16;
-    const typename Lanes::Leap oneStep(kOneStep);
+    constexpr int rowsAtOnce = 16;
+    const typename Lanes::Leap oneStep(singleStep);
     const typename Lanes::Divider divider(job.divider);
     StartColumns<Lanes>(job, states);
 
-    for (int band = 0; band < job.rows; band += kBand) {
-        const int end = band + kBand < job.rows ? band + kBand : job.rows;
+    for (int band = 0; band < job.rows; band += rowsAtOnce) {
+        const int end = band + rowsAtOnce < job.rows ? band + rowsAtOnce : job.rows;
         std::uint32_t* blockStates = states;
-        for (int x = 0; x < job.width; x += Lanes::kPixels, blockStates += Lanes::kWords) {
+        for (int x = 0; x < job.width; x += Lanes::pixelsAtOnce, blockStates += Lanes::words) {
             const int left = job.width - x;
             Lanes lanes(blockStates);
             std::uint8_t* target = job.bits + band * job.stride + x;
             for (int r = band; r < end; ++r, target += job.stride) {
                 const auto pixels = lanes.Pixels(divider, job.base + x, Lanes::Spread(job.add[r]));
-                if (left >= Lanes::kPixels)
+                if (left >= Lanes::pixelsAtOnce)
                     Lanes::Store(target, pixels);
                 else
                     Lanes::StorePart(target, pixels, left);
@@ -129,7 +129,7 @@ void CrossBump(const CrossBumpJob& job)
     const std::int16_t* const columns = job.columns;
     std::uint8_t* const bits = job.bits;
     const int width = job.width;
-    for (int x = 0; x < width; x += Lanes::kPixels)
+    for (int x = 0; x < width; x += Lanes::pixelsAtOnce)
         Lanes::Store(bits + x, Lanes::CrossBumpPixels(terms, columns + x));
 }
 

@@ -9,9 +9,9 @@ namespace {
 // takes its operands. The upper words hold nothing of use.
 struct Sse2Lanes
 {
-    static constexpr int kPixels = 16;
-    static constexpr int kVectors = 8;
-    static constexpr int kWords = kVectors * 4;
+    static constexpr int pixelsAtOnce = 16;
+    static constexpr int vectors = 8;
+    static constexpr int words = vectors * 4;
 
     struct Leap
     {
@@ -55,26 +55,26 @@ struct Sse2Lanes
     Sse2Lanes(std::uint32_t state, const std::uint32_t* factors, const std::uint32_t* offsets)
     {
         const __m128i doubled = _mm_set1_epi32(static_cast<int>(state * 2));
-        for (int i = 0; i < kVectors; ++i)
+        for (int i = 0; i < vectors; ++i)
             states[i] =
                 _mm_add_epi32(_mm_mul_epu32(doubled, Load(factors + i * 4)), Load(offsets + i * 4));
     }
 
     explicit Sse2Lanes(const std::uint32_t* saved)
     {
-        for (int i = 0; i < kVectors; ++i)
+        for (int i = 0; i < vectors; ++i)
             states[i] = Load(saved + i * 4);
     }
 
     void Save(std::uint32_t* saved) const
     {
-        for (int i = 0; i < kVectors; ++i)
+        for (int i = 0; i < vectors; ++i)
             Store(saved + i * 4, states[i]);
     }
 
     void Advance(const Leap& leap)
     {
-        for (int i = 0; i < kVectors; ++i)
+        for (int i = 0; i < vectors; ++i)
             states[i] = _mm_add_epi32(_mm_mul_epu32(states[i], leap.factor), leap.offset);
     }
 
@@ -161,7 +161,7 @@ private:
         return _mm_srai_epi16(_mm_add_epi16(sum, rounding), 7);
     }
 
-    __m128i states[kVectors];
+    __m128i states[vectors];
 };
 
 } // namespace

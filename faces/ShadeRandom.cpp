@@ -9,7 +9,7 @@ ShadeRandom processStream;
 RandomLeap LeapOf(std::uint64_t steps)
 {
     RandomLeap leap = {1, 0};
-    RandomLeap power = {ShadeRandom::kFactor, ShadeRandom::kOffset};
+    RandomLeap power = {ShadeRandom::multiplier, ShadeRandom::increment};
     for (; steps != 0; steps >>= 1) {
         if (steps & 1)
             leap = {leap.factor * power.factor, leap.offset * power.factor + power.offset};

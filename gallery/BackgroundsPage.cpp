@@ -66,7 +66,7 @@ void CBackgroundsPage::OnDrag()
 void CBackgroundsPage::OnDestroy()
 {
     for (CSampleDialog& sample : m_samples) {
-        if (sample.GetSafeHwnd() != NULL)
+        if (sample.GetSafeHwnd() != nullptr)
             sample.DestroyWindow();
     }
     CGalleryPage::OnDestroy();

@@ -87,16 +87,6 @@ void CGalleryPage::DrawBackdrop(CDC& dc)
     dc.FillSolidRect(rule.left, rule.top, rule.Width(), 1, palette::line);
 }
 
-void CGalleryPage::SetLabelText(CWnd& label, const CString& text)
-{
-    CString before;
-    label.GetWindowText(before);
-    if (text == before)
-        return;
-    label.SetWindowText(text);
-    InvalidateRect(PlaceOf(label), TRUE);
-}
-
 void CGalleryPage::FitToText(CStaticTS& label)
 {
     FitToText(label, 0);
@@ -118,7 +108,7 @@ CRect CGalleryPage::PlaceOf(const CWnd& control) const
 CRect CGalleryPage::PlaceOf(int controlId) const
 {
     const CWnd* control = GetDlgItem(controlId);
-    return control != NULL ? PlaceOf(*control) : CRect();
+    return control != nullptr ? PlaceOf(*control) : CRect();
 }
 
 CRect CGalleryPage::Pixels(int x, int y, int width, int height)

@@ -4,6 +4,8 @@
 
 #include "gallery/resource.h"
 
+#include "gallery/LabelText.h"
+
 #include <umbra.h>
 
 /// The gallery's colours, taken from the drawings of the toolkit.
@@ -43,8 +45,6 @@ protected:
     /// A page's own painting, under its controls.
     virtual void DrawBackdrop(CDC& dc);
 
-    /// Changes the text of a label, which paints over what is beneath without erasing it.
-    void SetLabelText(CWnd& label, const CString& text);
     /// Gives a label the width of its text, which then begins at the control's left edge.
     void FitToText(CStaticTS& label);
     void FitToText(CHyperLink& label);

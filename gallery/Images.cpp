@@ -3,7 +3,7 @@
 CString GalleryFolder()
 {
     CString path;
-    ::GetModuleFileName(NULL, path.GetBuffer(MAX_PATH), MAX_PATH);
+    ::GetModuleFileName(nullptr, path.GetBuffer(MAX_PATH), MAX_PATH);
     path.ReleaseBuffer();
     return path.Left(path.ReverseFind('\\') + 1);
 }

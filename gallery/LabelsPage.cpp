@@ -38,7 +38,7 @@ void CLabelsPage::DoDataExchange(CDataExchange* pDX)
     CGalleryPage::DoDataExchange(pDX);
     DDX_Control(pDX, IDC_PLAIN, m_plain);
     DDX_Control(pDX, IDC_ETCHED, m_etched);
-    DDX_Control(pDX, IDC_COLOURED, m_coloured);
+    DDX_Control(pDX, IDC_COLORED, m_colored);
     DDX_Control(pDX, IDC_LEFT, m_left);
     DDX_Control(pDX, IDC_CENTRE, m_centre);
     DDX_Control(pDX, IDC_RIGHT, m_right);
@@ -64,7 +64,7 @@ void CLabelsPage::DrawBackdrop(CDC& dc)
     CRect panel = PlaceOf(IDC_PANEL);
     dc.FillSolidRect(&panel, palette::line);
     panel.DeflateRect(1, 1);
-    if (m_pattern.GetSafeHandle() != NULL) {
+    if (m_pattern.GetSafeHandle() != nullptr) {
         dc.SetBrushOrg(panel.left, panel.top);
         dc.FillRect(&panel, &m_pattern);
     } else {
@@ -75,7 +75,7 @@ void CLabelsPage::DrawBackdrop(CDC& dc)
 void CLabelsPage::PrepareTexts()
 {
     m_etched.SetEmbossed(TRUE);
-    m_coloured.SetLabelTextColor(palette::ember);
+    m_colored.SetLabelTextColor(palette::ember);
     for (CStaticTS* label : {&m_plain, &m_left, &m_centre, &m_right})
         label->SetLabelTextColor(palette::text);
     for (CStaticTS& name : m_pictureNames)

@@ -13,7 +13,7 @@ public:
 protected:
     CStaticTS m_plain;
     CStaticTS m_etched;
-    CStaticTS m_coloured;
+    CStaticTS m_colored;
     CStaticTS m_left;
     CStaticTS m_centre;
     CStaticTS m_right;

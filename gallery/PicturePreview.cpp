@@ -19,13 +19,13 @@ BOOL CPicturePreview::Show(const CString& path)
     if (const HBITMAP picture = LoadPictureBitmap(path))
         m_picture.Attach(picture);
     Invalidate(FALSE);
-    return m_picture.GetSafeHandle() != NULL;
+    return m_picture.GetSafeHandle() != nullptr;
 }
 
 CSize CPicturePreview::PictureSize() const
 {
     BITMAP record = {};
-    if (m_picture.GetSafeHandle() != NULL)
+    if (m_picture.GetSafeHandle() != nullptr)
         ::GetObject(m_picture.GetSafeHandle(), sizeof record, &record);
     return CSize(record.bmWidth, record.bmHeight);
 }
@@ -43,7 +43,7 @@ void CPicturePreview::OnPaint()
     dc.FillSolidRect(&client, palette::line);
     client.DeflateRect(1, 1);
     dc.FillSolidRect(&client, palette::paper);
-    if (m_picture.GetSafeHandle() != NULL) {
+    if (m_picture.GetSafeHandle() != nullptr) {
         client.DeflateRect(margin, margin);
         DrawPicture(dc, client);
     }

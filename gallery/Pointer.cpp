@@ -20,14 +20,14 @@ void Settle(DWORD milliseconds)
     const DWORD start = ::GetTickCount();
     for (;;) {
         MSG message;
-        while (::PeekMessage(&message, NULL, 0, 0, PM_REMOVE)) {
+        while (::PeekMessage(&message, nullptr, 0, 0, PM_REMOVE)) {
             ::TranslateMessage(&message);
             ::DispatchMessage(&message);
         }
         const DWORD passed = ::GetTickCount() - start;
         if (passed >= milliseconds)
             return;
-        ::MsgWaitForMultipleObjects(0, NULL, FALSE, milliseconds - passed, QS_ALLINPUT);
+        ::MsgWaitForMultipleObjects(0, nullptr, FALSE, milliseconds - passed, QS_ALLINPUT);
     }
 }
 

@@ -6,7 +6,7 @@
 #include <vector>
 
 BEGIN_MESSAGE_MAP(CSampleDialog, CDialogTS)
-    ON_BN_CLICKED(IDC_SAMPLE_COLOUR, &CSampleDialog::OnNextColour)
+    ON_BN_CLICKED(IDC_SAMPLE_COLOUR, &CSampleDialog::OnNextColor)
 END_MESSAGE_MAP()
 
 namespace {
@@ -46,7 +46,7 @@ std::vector<DWORD> PixelsOf(HBITMAP bitmap, CSize size)
     info.bmiHeader.biPlanes = 1;
     info.bmiHeader.biBitCount = 32;
     std::vector<DWORD> pixels(static_cast<size_t>(size.cx) * size.cy);
-    CClientDC screen(NULL);
+    CClientDC screen(nullptr);
     ::GetDIBits(screen, bitmap, 0, size.cy, pixels.data(), &info, DIB_RGB_COLORS);
     for (DWORD& pixel : pixels)
         pixel &= 0xFFFFFF;
@@ -64,19 +64,19 @@ CSampleDialog::CSampleDialog(Kind kind)
 CSampleDialog::~CSampleDialog()
 {
     FreeBitmaps(); // They are ours: the dialog only lets go of them.
-    if (m_image != NULL)
+    if (m_image != nullptr)
         ::DeleteObject(m_image);
-    if (m_mask != NULL)
+    if (m_mask != nullptr)
         ::DeleteObject(m_mask);
 }
 
 void CSampleDialog::Open(CWnd* parent, CPoint screen)
 {
-    if (GetSafeHwnd() == NULL) {
+    if (GetSafeHwnd() == nullptr) {
         const bool bare = m_kind == bitmap || m_kind == shaped;
         if (!Create(bare ? IDD_SAMPLE_BARE : IDD_SAMPLE_FRAMED, parent))
             return;
-        SetWindowPos(NULL, screen.x, screen.y, 0, 0, SWP_NOSIZE | SWP_NOZORDER);
+        SetWindowPos(nullptr, screen.x, screen.y, 0, 0, SWP_NOSIZE | SWP_NOZORDER);
     }
     ShowWindow(SW_SHOW);
     SetActiveWindow();
@@ -88,17 +88,17 @@ BOOL CSampleDialog::OnInitDialog()
     SetWindowText(titles[m_kind]);
     m_text.SetWindowText(texts[m_kind]);
     m_text.SetLabelTextColor(palette::text);
-    m_btnColour.ShowWindow(m_kind == solidFill ? SW_SHOW : SW_HIDE);
+    m_btnColor.ShowWindow(m_kind == solidFill ? SW_SHOW : SW_HIDE);
 
     if (m_kind == solidFill) {
         m_bSolidFill = TRUE;
-        m_crFill = fills[m_colour];
+        m_crFill = fills[m_color];
     } else if (m_kind == bitmap) {
         PrepareBitmap();
     } else if (m_kind == shaped) {
         PrepareShape();
     }
-    for (CxShadeButton* button : {&m_btnClose, &m_btnColour})
+    for (CxShadeButton* button : {&m_btnClose, &m_btnColor})
         button->SetShade(SHADE_DIAGONAL, 0, 0, 100, g_crShade);
     return TRUE;
 }
@@ -107,7 +107,7 @@ void CSampleDialog::DoDataExchange(CDataExchange* pDX)
 {
     CDialogTS::DoDataExchange(pDX);
     DDX_Control(pDX, IDC_SAMPLE_TEXT, m_text);
-    DDX_Control(pDX, IDC_SAMPLE_COLOUR, m_btnColour);
+    DDX_Control(pDX, IDC_SAMPLE_COLOUR, m_btnColor);
     DDX_Control(pDX, IDCANCEL, m_btnClose);
 }
 
@@ -120,18 +120,18 @@ void CSampleDialog::OnCancel()
     DestroyWindow();
 }
 
-void CSampleDialog::OnNextColour()
+void CSampleDialog::OnNextColor()
 {
-    m_colour = (m_colour + 1) % _countof(fills);
-    m_crFill = fills[m_colour];
+    m_color = (m_color + 1) % _countof(fills);
+    m_crFill = fills[m_color];
     Invalidate();
 }
 
 void CSampleDialog::PrepareBitmap()
 {
-    if (m_image == NULL)
+    if (m_image == nullptr)
         m_image = LoadPictureBitmap(PictureFile("panel.bmp"));
-    if (m_image == NULL)
+    if (m_image == nullptr)
         return;
     SetClientSize(SizeOf(m_image));
     m_bmpBack.Attach(m_image);
@@ -143,11 +143,11 @@ void CSampleDialog::PrepareBitmap()
 
 void CSampleDialog::PrepareShape()
 {
-    if (m_image == NULL) {
+    if (m_image == nullptr) {
         m_image = LoadPictureBitmap(PictureFile("shape.bmp"));
         m_mask = LoadPictureBitmap(PictureFile("shape-mask.bmp"));
     }
-    if (m_image == NULL || m_mask == NULL)
+    if (m_image == nullptr || m_mask == nullptr)
         return;
     SetClientSize(SizeOf(m_image));
     CutOutShape();
@@ -163,7 +163,7 @@ void CSampleDialog::SetClientSize(CSize size)
 {
     CRect window(CPoint(0, 0), size);
     ::AdjustWindowRectEx(&window, GetStyle(), FALSE, GetExStyle());
-    SetWindowPos(NULL, 0, 0, window.Width(), window.Height(), SWP_NOMOVE | SWP_NOZORDER);
+    SetWindowPos(nullptr, 0, 0, window.Width(), window.Height(), SWP_NOMOVE | SWP_NOZORDER);
 }
 
 // Without it the window would keep what was on the screen when it was opened.

@@ -26,16 +26,16 @@ protected:
     void OnCancel() override;
 
     DECLARE_MESSAGE_MAP()
-    afx_msg void OnNextColour();
+    afx_msg void OnNextColor();
 
 private:
     const Kind m_kind;
     CStaticTS m_text;
     CxShadeButton m_btnClose;
-    CxShadeButton m_btnColour;
-    HBITMAP m_image = NULL; ///< Handed to the dialog for display, and still this object's.
-    HBITMAP m_mask = NULL;
-    size_t m_colour = 0;
+    CxShadeButton m_btnColor;
+    HBITMAP m_image = nullptr; ///< Handed to the dialog for display, and still this object's.
+    HBITMAP m_mask = nullptr;
+    size_t m_color = 0;
 
     void PrepareBitmap();
     void PrepareShape();

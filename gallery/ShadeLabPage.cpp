@@ -29,7 +29,7 @@ bool CopyText(CWnd& owner, const CString& text)
         memcpy(::GlobalLock(block), static_cast<LPCTSTR>(text), size);
         ::GlobalUnlock(block);
         ::EmptyClipboard();
-        copied = ::SetClipboardData(CF_TEXT, block) != NULL;
+        copied = ::SetClipboardData(CF_TEXT, block) != nullptr;
         if (!copied)
             ::GlobalFree(block);
     }

@@ -5,16 +5,19 @@
 #include "gallery/GridPage.h"
 #include "gallery/Images.h"
 #include "gallery/LabelsPage.h"
-#include "gallery/PngFile.h"
 #include "gallery/Pointer.h"
 #include "gallery/ShadeLabPage.h"
 #include "gallery/StartPage.h"
 #include "gallery/WizardPages.h"
 #include "gallery/WorkingPage.h"
 
+#include <testing/Picture.h>
+
 #include <stdio.h>
 
 #include <vector>
+
+using umbra::testing::Picture;
 
 namespace {
 
@@ -39,16 +42,16 @@ void DrawWindow(CDC& target, HWND window, const CRect& area)
     target.BitBlt(place.left - area.left, place.top - area.top, place.Width(), place.Height(),
                   &source, 0, 0, SRCCOPY);
     if (shaped)
-        target.SelectClipRgn(NULL);
+        target.SelectClipRgn(nullptr);
 }
 
 // A window and those of this program above it: a tool tip, an open list.
 std::vector<HWND> WindowsFrom(const CWnd& window)
 {
     std::vector<HWND> windows = {window.GetSafeHwnd()};
-    for (HWND above = ::GetWindow(window.GetSafeHwnd(), GW_HWNDPREV); above != NULL;
+    for (HWND above = ::GetWindow(window.GetSafeHwnd(), GW_HWNDPREV); above != nullptr;
          above = ::GetWindow(above, GW_HWNDPREV)) {
-        const bool ours = ::GetWindowThreadProcessId(above, NULL) == ::GetCurrentThreadId();
+        const bool ours = ::GetWindowThreadProcessId(above, nullptr) == ::GetCurrentThreadId();
         if (ours && ::IsWindowVisible(above))
             windows.push_back(above);
     }
@@ -110,7 +113,7 @@ void CAlbum::Take(CWnd& window, const char* name, const char* caption)
     // Window by window, because a screen that nobody looks at may have no picture as a whole.
     const std::vector<HWND> windows = WindowsFrom(window);
     const CRect area = AreaOf(windows);
-    CClientDC screen(NULL);
+    CClientDC screen(nullptr);
     CDC memory;
     CBitmap picture;
     if (!memory.CreateCompatibleDC(&screen) ||
@@ -130,7 +133,8 @@ void CAlbum::Take(CWnd& window, const char* name, const char* caption)
         Fail(file + ": the window shows nothing");
         return;
     }
-    if (!WritePng(m_folder + file, static_cast<HBITMAP>(picture.GetSafeHandle()))) {
+    const Picture shot = Picture::OfBitmap(static_cast<HBITMAP>(picture.GetSafeHandle()));
+    if (!shot.SavePng(m_folder + file)) {
         Fail(m_folder + file + " could not be written");
         return;
     }
@@ -185,25 +189,25 @@ public:
     CShownPage(CAlbum& album, CDialog& page, UINT templateId) : m_page(page)
     {
         PointAway();
-        if (!page.Create(templateId, NULL)) {
+        if (!page.Create(templateId, nullptr)) {
             album.Fail("a page could not be opened");
             return;
         }
-        page.SetWindowPos(NULL, pagePlace.x, pagePlace.y, 0, 0, SWP_NOSIZE | SWP_NOZORDER);
+        page.SetWindowPos(nullptr, pagePlace.x, pagePlace.y, 0, 0, SWP_NOSIZE | SWP_NOZORDER);
         page.ShowWindow(SW_SHOW);
         page.SetForegroundWindow();
         Settle(paintTime);
     }
     ~CShownPage()
     {
-        if (m_page.GetSafeHwnd() != NULL)
+        if (m_page.GetSafeHwnd() != nullptr)
             m_page.DestroyWindow();
         Settle(paintTime);
     }
     CShownPage(const CShownPage&) = delete;
     CShownPage& operator=(const CShownPage&) = delete;
 
-    bool IsOpen() const { return m_page.GetSafeHwnd() != NULL; }
+    bool IsOpen() const { return m_page.GetSafeHwnd() != nullptr; }
     CWnd& Control(int id) { return *m_page.GetDlgItem(id); }
 
 private:
@@ -231,7 +235,7 @@ void ShootStartWithoutImages(CAlbum& album)
 
 void ShootBackgrounds(CAlbum& album)
 {
-    CBackgroundsPage page(NULL);
+    CBackgroundsPage page(nullptr);
     CShownPage shown(album, page, IDD_BACKGROUNDS);
     if (!shown.IsOpen())
         return;
@@ -253,7 +257,7 @@ void ShootBackgrounds(CAlbum& album)
         Click(shown.Control(IDC_SAMPLE_FIRST + sample.kind));
         PointAway();
         CSampleDialog& window = page.Sample(sample.kind);
-        if (window.GetSafeHwnd() == NULL) {
+        if (window.GetSafeHwnd() == nullptr) {
             album.Fail(CString(sample.name) + ": the window did not open");
             continue;
         }
@@ -268,7 +272,7 @@ void ShootBackgrounds(CAlbum& album)
 
 void ShootGrid(CAlbum& album)
 {
-    CGridPage page(NULL);
+    CGridPage page(nullptr);
     CShownPage shown(album, page, IDD_GRID);
     if (!shown.IsOpen())
         return;
@@ -281,7 +285,7 @@ void ShootGrid(CAlbum& album)
 
 void ShootButtons(CAlbum& album)
 {
-    CButtonsPage page(NULL);
+    CButtonsPage page(nullptr);
     CShownPage shown(album, page, IDD_BUTTONS);
     if (!shown.IsOpen())
         return;
@@ -303,7 +307,7 @@ void ShootButtons(CAlbum& album)
 
 void ShootShadeLab(CAlbum& album)
 {
-    CShadeLabPage page(NULL);
+    CShadeLabPage page(nullptr);
     CShownPage shown(album, page, IDD_SHADE_LAB);
     if (!shown.IsOpen())
         return;
@@ -318,7 +322,7 @@ void ShootShadeLab(CAlbum& album)
 
 void ShootLabels(CAlbum& album)
 {
-    CLabelsPage page(NULL);
+    CLabelsPage page(nullptr);
     CShownPage shown(album, page, IDD_LABELS);
     if (!shown.IsOpen())
         return;
@@ -333,14 +337,14 @@ void ShootWizard(CAlbum& album)
     WizardTask task;
     task.folder = ImageFolder();
     {
-        CWizardFolderPage page(task, NULL);
+        CWizardFolderPage page(task, nullptr);
         CShownPage shown(album, page, IDD_WIZARD_FOLDER);
         if (shown.IsOpen())
             album.Take(page, "wizard-1", "Wizard, step 1: Next and Cancel.");
     }
     task.pictures = FindPictures(task.folder);
     {
-        CWizardPicturesPage page(task, NULL);
+        CWizardPicturesPage page(task, nullptr);
         CShownPage shown(album, page, IDD_WIZARD_PICTURES);
         if (shown.IsOpen()) {
             page.Select("large.gif");
@@ -348,19 +352,19 @@ void ShootWizard(CAlbum& album)
         }
     }
     {
-        CWizardConfirmPage page(task, NULL);
+        CWizardConfirmPage page(task, nullptr);
         CShownPage shown(album, page, IDD_WIZARD_CONFIRM);
         if (shown.IsOpen())
             album.Take(page, "wizard-3", "Step 3: Back, Confirm and Cancel.");
     }
     {
-        CWizardResultPage page(task, NULL);
+        CWizardResultPage page(task, nullptr);
         CShownPage shown(album, page, IDD_WIZARD_RESULT);
         if (shown.IsOpen())
             album.Take(page, "wizard-4-failed", "Step 4 after a failure: Back and Close.");
     }
     task.indexFile = task.folder + "pictures.html"; // Shown, not written.
-    CWizardResultPage page(task, NULL);
+    CWizardResultPage page(task, nullptr);
     CShownPage shown(album, page, IDD_WIZARD_RESULT);
     if (shown.IsOpen())
         album.Take(page, "wizard-4", "Step 4: OK.");
@@ -368,7 +372,7 @@ void ShootWizard(CAlbum& album)
 
 void ShootWorking(CAlbum& album)
 {
-    CWorkingPage page(NULL);
+    CWorkingPage page(nullptr);
     CShownPage shown(album, page, IDD_WORKING);
     if (!shown.IsOpen())
         return;
@@ -376,7 +380,8 @@ void ShootWorking(CAlbum& album)
         album.Fail("the working window did not open");
         return;
     }
-    g_pModelessDlg->SetWindowPos(NULL, pagePlace.x, pagePlace.y, 0, 0, SWP_NOSIZE | SWP_NOZORDER);
+    g_pModelessDlg->SetWindowPos(nullptr, pagePlace.x, pagePlace.y, 0, 0,
+                                 SWP_NOSIZE | SWP_NOZORDER);
     album.Take(*g_pModelessDlg, "working-begin", "The working window as the job begins.");
     const int pieces = 900;
     for (int i = 0; i < pieces && page.WorkOn(); ++i) {
@@ -397,17 +402,13 @@ BOOL ShootGallery(const CString& folder)
     if (place.Right(1) != "\\" && place.Right(1) != "/")
         place += "\\";
     CAlbum album(place);
-    ::CreateDirectory(folder, NULL); // What fails here fails again when the first file is written.
-    if (FAILED(::CoInitialize(NULL))) {
-        album.Fail("COM is not to be had");
-        return FALSE;
-    }
+    ::CreateDirectory(folder,
+                      nullptr); // What fails here fails again when the first file is written.
     if (!HasImages())
         album.Fail("the image folder " + ImageFolder() + " is missing");
     for (const auto shoot : {ShootStart, ShootStartWithoutImages, ShootBackgrounds, ShootGrid,
                              ShootButtons, ShootShadeLab, ShootLabels, ShootWizard, ShootWorking})
         shoot(album);
     album.WriteIndex();
-    ::CoUninitialize();
     return album.IsComplete();
 }

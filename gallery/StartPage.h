@@ -6,7 +6,7 @@
 class CStartPage : public CGalleryPage
 {
 public:
-    explicit CStartPage(CWnd* parent = NULL);
+    explicit CStartPage(CWnd* parent = nullptr);
 
     BOOL OnInitDialog() override;
 

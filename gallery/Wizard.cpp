@@ -36,7 +36,7 @@ CString EscapeAddress(const CString& name)
     CString address;
     for (int i = 0; i < name.GetLength(); ++i) {
         const unsigned char c = static_cast<unsigned char>(name[i]);
-        if (isalnum(c) || strchr("-_.~", c) != NULL)
+        if (isalnum(c) || strchr("-_.~", c) != nullptr)
             address += static_cast<char>(c);
         else
             address.AppendFormat("%%%02X", c);

@@ -28,7 +28,7 @@ namespace {
 
 // Where the page before was on the screen, and of which dialog it was a page.
 CPoint lastPlace;
-HWND lastParent = NULL;
+HWND lastParent = nullptr;
 
 CString Count(size_t number)
 {
@@ -54,8 +54,8 @@ BOOL CWizardPage::OnInitDialog()
 {
     CGalleryPage::OnInitDialog();
     const CWnd* parent = GetParent();
-    if (parent != NULL && parent->GetSafeHwnd() == lastParent)
-        SetWindowPos(NULL, lastPlace.x, lastPlace.y, 0, 0, SWP_NOSIZE | SWP_NOZORDER);
+    if (parent != nullptr && parent->GetSafeHwnd() == lastParent)
+        SetWindowPos(nullptr, lastPlace.x, lastPlace.y, 0, 0, SWP_NOSIZE | SWP_NOZORDER);
     return TRUE;
 }
 
@@ -105,7 +105,7 @@ void CWizardFolderPage::OnOK()
 
 void CWizardFolderPage::OnFolder()
 {
-    if (m_found.GetSafeHwnd() != NULL)
+    if (m_found.GetSafeHwnd() != nullptr)
         ShowFound();
 }
 
@@ -116,7 +116,7 @@ void CWizardFolderPage::OnBrowse()
     question.lpszTitle = "The folder with the pictures";
     question.ulFlags = BIF_RETURNONLYFSDIRS | BIF_NEWDIALOGSTYLE;
     const LPITEMIDLIST choice = ::SHBrowseForFolder(&question);
-    if (choice == NULL)
+    if (choice == nullptr)
         return;
     char path[MAX_PATH] = "";
     if (::SHGetPathFromIDList(choice, path))

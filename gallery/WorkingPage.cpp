@@ -31,7 +31,7 @@ bool IsPrime(unsigned odd)
 
 } // namespace
 
-CWorkingDialog::CWorkingDialog() : CModellessDlg(NULL)
+CWorkingDialog::CWorkingDialog() : CModellessDlg(nullptr)
 {
     m_bSolidFill = TRUE;
     m_crFill = palette::page;
@@ -75,20 +75,6 @@ void CWorkingDialog::OnCancel()
         m_cancelled = true;
 }
 
-// The labels paint over what is beneath them, so that has to be erased with each new text.
-void CWorkingDialog::SetLabelText(CHyperLink& label, const CString& text)
-{
-    CString before;
-    label.GetWindowText(before);
-    if (text == before)
-        return;
-    label.SetWindowText(text);
-    CRect place;
-    label.GetWindowRect(&place);
-    ScreenToClient(&place);
-    InvalidateRect(&place, TRUE);
-}
-
 CWorkingPage::CWorkingPage(CWnd* parent) : CGalleryPage(IDD_WORKING, parent)
 {
 }
@@ -105,14 +91,14 @@ BOOL CWorkingPage::OnInitDialog()
 
 bool CWorkingPage::BeginWork()
 {
-    if (g_pModelessDlg != NULL)
+    if (g_pModelessDlg != nullptr)
         return false;
     m_next = firstNumber;
     m_primes = 1; // The number 2.
     g_pModelessDlg = new CWorkingDialog;
-    g_pModelessDlg->Create(CModellessDlg::IDD, NULL);
+    g_pModelessDlg->Create(CModellessDlg::IDD, nullptr);
     g_pModelessDlg->ShowWindow(SW_SHOW);
-    g_pModelessDlg->InvalidateRect(NULL, TRUE);
+    g_pModelessDlg->InvalidateRect(nullptr, TRUE);
     g_pModelessDlg->PumpMessages();
     return true;
 }
@@ -137,7 +123,7 @@ void CWorkingPage::EndWork()
     const bool cancelled = Dialog()->IsCancelled();
     g_pModelessDlg->DestroyWindow();
     delete g_pModelessDlg;
-    g_pModelessDlg = NULL;
+    g_pModelessDlg = nullptr;
     AfxGetApp()->EndWaitCursor();
 
     CString text;
@@ -157,7 +143,7 @@ void CWorkingPage::DoDataExchange(CDataExchange* pDX)
 
 void CWorkingPage::OnCancel()
 {
-    if (g_pModelessDlg == NULL) // The page stays while its job runs.
+    if (g_pModelessDlg == nullptr) // The page stays while its job runs.
         CGalleryPage::OnCancel();
 }
 

@@ -27,7 +27,6 @@ protected:
     DECLARE_MESSAGE_MAP()
 
 private:
-    void SetLabelText(CHyperLink& label, const CString& text);
 };
 
 class CWorkingPage : public CGalleryPage

@@ -68,7 +68,7 @@
 #define IDD_LABELS 150
 #define IDC_PLAIN 1250
 #define IDC_ETCHED 1251
-#define IDC_COLOURED 1252
+#define IDC_COLORED 1252
 #define IDC_LEFT 1253
 #define IDC_CENTRE 1254
 #define IDC_RIGHT 1255

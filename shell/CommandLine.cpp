@@ -18,7 +18,7 @@ char* FindText(char* text, const char* part)
             return reinterpret_cast<char*>(place);
         place += _ismbblead(*place) && place[1] != '\0' ? 2 : 1;
     }
-    return NULL;
+    return nullptr;
 }
 
 } // namespace
@@ -26,9 +26,9 @@ char* FindText(char* text, const char* part)
 BOOL CutPlaceholder(char* commandLine)
 {
     char* placeholder = FindText(commandLine, "\"%1\"");
-    if (placeholder == NULL)
+    if (placeholder == nullptr)
         placeholder = FindText(commandLine, "%1");
-    if (placeholder == NULL)
+    if (placeholder == nullptr)
         return FALSE;
     *placeholder = '\0';
     return TRUE;

@@ -12,13 +12,13 @@ class HandCursorCache
 public:
     ~HandCursorCache()
     {
-        if (m_hand != NULL)
+        if (m_hand != nullptr)
             ::DestroyCursor(m_hand);
     }
 
     HCURSOR Get()
     {
-        if (m_hand == NULL && !m_noHandHere)
+        if (m_hand == nullptr && !m_noHandHere)
             m_hand = Load();
         return m_hand;
     }
@@ -29,10 +29,10 @@ private:
     {
         const HMODULE module = LoadHelpProgram();
         const HCURSOR hand =
-            module != NULL ? ::LoadCursor(module, MAKEINTRESOURCE(handResource)) : NULL;
-        m_noHandHere = hand == NULL;
-        const HCURSOR copy = hand != NULL ? ::CopyIcon(hand) : NULL;
-        if (module != NULL)
+            module != nullptr ? ::LoadCursor(module, MAKEINTRESOURCE(handResource)) : nullptr;
+        m_noHandHere = hand == nullptr;
+        const HCURSOR copy = hand != nullptr ? ::CopyIcon(hand) : nullptr;
+        if (module != nullptr)
             ::FreeLibrary(module);
         return copy;
     }
@@ -42,12 +42,12 @@ private:
         char path[MAX_PATH + sizeof(helpProgram)] = "";
         const UINT length = ::GetWindowsDirectory(path, MAX_PATH);
         if (length == 0 || length >= MAX_PATH)
-            return NULL;
+            return nullptr;
         strcat(path, helpProgram);
         return ::LoadLibrary(path);
     }
 
-    HCURSOR m_hand = NULL;
+    HCURSOR m_hand = nullptr;
     bool m_noHandHere = false; // Not looked for again: every pointer move would pay for it.
 };
 

@@ -33,8 +33,8 @@ std::unique_ptr<wchar_t[]> WidenPath(const char* path)
 IPicture* OpenPicture(const char* path)
 {
     const std::unique_ptr<wchar_t[]> wide = WidenPath(path);
-    void* picture = NULL;
-    ::OleLoadPicturePath(wide.get(), NULL, 0, 0, IID_IPicture, &picture);
+    void* picture = nullptr;
+    ::OleLoadPicturePath(wide.get(), nullptr, 0, 0, IID_IPicture, &picture);
     return static_cast<IPicture*>(picture);
 }
 
@@ -42,10 +42,10 @@ IPicture* OpenPictureBelowWorkingDirectory(const char* path)
 {
     char directory[workingPathCapacity];
     char joined[workingPathCapacity];
-    if (_getcwd(directory, workingPathCapacity) == NULL)
-        return NULL;
+    if (_getcwd(directory, workingPathCapacity) == nullptr)
+        return nullptr;
     if (!umbra::JoinPicturePath(directory, path, joined, workingPathCapacity))
-        return NULL;
+        return nullptr;
     return OpenPicture(joined);
 }
 
@@ -70,9 +70,9 @@ HBITMAP CopyBitmap(HBITMAP source)
 HBITMAP TakeBitmap(IPicture* picture)
 {
     const HBITMAP source = GetPictureHandle(picture);
-    const HBITMAP copy = source != NULL ? CopyBitmap(source) : NULL;
+    const HBITMAP copy = source != nullptr ? CopyBitmap(source) : nullptr;
     picture->Release();
-    if (source != NULL)
+    if (source != nullptr)
         ::DeleteObject(source);
     return copy;
 }
@@ -81,13 +81,13 @@ HBITMAP TakeBitmap(IPicture* picture)
 
 HBITMAP LoadPictureBitmap(const char* path)
 {
-    if (path == NULL)
-        return NULL;
+    if (path == nullptr)
+        return nullptr;
     IPicture* picture = OpenPicture(path);
-    if (picture == NULL)
+    if (picture == nullptr)
         picture = OpenPictureBelowWorkingDirectory(path);
-    const HBITMAP bitmap = picture != NULL ? TakeBitmap(picture) : NULL;
-    if (bitmap == NULL)
+    const HBITMAP bitmap = picture != nullptr ? TakeBitmap(picture) : nullptr;
+    if (bitmap == nullptr)
         TRACE("Umbra: no picture could be loaded from '%.260s'.\n", path);
     return bitmap;
 }

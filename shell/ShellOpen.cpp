@@ -30,9 +30,9 @@ LONG QueryRegistryDefault(HKEY root, const char* subKey, char* out)
 
     char value[MAX_PATH] = "";
     LONG size = MAX_PATH;
-    const LONG read = ::RegQueryValue(key, NULL, value, &size);
+    const LONG read = ::RegQueryValue(key, nullptr, value, &size);
     // The registry does not promise a terminator; a value that fills the buffer without one is cut.
-    const BOOL whole = read == ERROR_SUCCESS && memchr(value, '\0', MAX_PATH) != NULL;
+    const BOOL whole = read == ERROR_SUCCESS && memchr(value, '\0', MAX_PATH) != nullptr;
     strcpy(out, whole ? value : "");
     ::RegCloseKey(key);
     return opened;
@@ -41,8 +41,8 @@ LONG QueryRegistryDefault(HKEY root, const char* subKey, char* out)
 UINT ShellOpen(const char* target, int showCommand, const char* extension)
 {
     // The shell's result is a number of 32 bits, whatever its type says.
-    const UINT shellResult = static_cast<UINT>(
-        reinterpret_cast<UINT_PTR>(::ShellExecute(NULL, "open", target, NULL, NULL, showCommand)));
+    const UINT shellResult = static_cast<UINT>(reinterpret_cast<UINT_PTR>(
+        ::ShellExecute(nullptr, "open", target, nullptr, nullptr, showCommand)));
     if (shellResult > lastShellFailure)
         return shellResult;
 

@@ -4,7 +4,7 @@
 
 WorkingFolder::WorkingFolder(const char* folder)
 {
-    if (_getcwd(m_former, sizeof(m_former)) == NULL) {
+    if (_getcwd(m_former, sizeof(m_former)) == nullptr) {
         m_former[0] = '\0';
         return;
     }

@@ -57,41 +57,41 @@ void* MakeCode(const void* plan)
 
 CallFault::CallFault(HMODULE module, const char* dll, const char* name, long long first,
                      long long last, const Failure& failure)
-    : plan_(std::make_unique<Plan>())
+    : m_plan(std::make_unique<Plan>())
 {
     static_assert(offsetof(Plan, first) == 8 && offsetof(Plan, last) == 16 &&
                   offsetof(Plan, error) == 24 && offsetof(Plan, result) == 32 &&
                   offsetof(Plan, original) == 40);
-    plan_->first = first;
-    plan_->last = last;
-    plan_->error = failure.error;
-    plan_->result = failure.result;
+    m_plan->first = first;
+    m_plan->last = last;
+    m_plan->error = failure.error;
+    m_plan->result = failure.result;
     const std::optional<Import> import = FindImport(module, dll, name);
     if (!import)
         return;
     // Complete before it is put in place: putting it in place may call the very function.
-    plan_->original = TargetOf(*import);
-    code_ = MakeCode(plan_.get());
-    if (code_ != nullptr)
-        hook_ = std::make_unique<ImportHook>(module, dll, name, code_);
+    m_plan->original = TargetOf(*import);
+    m_code = MakeCode(m_plan.get());
+    if (m_code != nullptr)
+        m_hook = std::make_unique<ImportHook>(module, dll, name, m_code);
 }
 
 CallFault::~CallFault()
 {
-    hook_.reset();
-    if (code_ != nullptr)
-        ::VirtualFree(code_, 0, MEM_RELEASE);
+    m_hook.reset();
+    if (m_code != nullptr)
+        ::VirtualFree(m_code, 0, MEM_RELEASE);
 }
 
 long long CallFault::Calls() const
 {
-    return plan_->calls;
+    return m_plan->calls;
 }
 
 long long CallFault::Failed() const
 {
-    const long long upTo = Calls() < plan_->last ? Calls() : plan_->last;
-    return upTo < plan_->first ? 0 : upTo - plan_->first + 1;
+    const long long upTo = Calls() < m_plan->last ? Calls() : m_plan->last;
+    return upTo < m_plan->first ? 0 : upTo - m_plan->first + 1;
 }
 
 } // namespace umbra::testing

@@ -29,15 +29,15 @@ public:
     ~CallFault();
 
     /// False when the module does not import the function.
-    bool IsInstalled() const { return hook_ != nullptr && hook_->IsInstalled(); }
+    bool IsInstalled() const { return m_hook != nullptr && m_hook->IsInstalled(); }
     long long Calls() const;
     long long Failed() const;
 
 private:
     struct Plan; // What the generated code reads and counts.
-    std::unique_ptr<Plan> plan_;
-    void* code_ = nullptr;
-    std::unique_ptr<ImportHook> hook_;
+    std::unique_ptr<Plan> m_plan;
+    void* m_code = nullptr;
+    std::unique_ptr<ImportHook> m_hook;
 };
 
 /// Counts calls and lets all of them through.

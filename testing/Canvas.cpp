@@ -2,7 +2,7 @@
 
 namespace umbra::testing {
 
-Canvas::Canvas(int width, int height, COLORREF background) : width_(width), height_(height)
+Canvas::Canvas(int width, int height, COLORREF background) : m_width(width), m_height(height)
 {
     BITMAPINFO info{};
     info.bmiHeader.biSize = sizeof info.bmiHeader;
@@ -11,31 +11,31 @@ Canvas::Canvas(int width, int height, COLORREF background) : width_(width), heig
     info.bmiHeader.biPlanes = 1;
     info.bmiHeader.biBitCount = 32;
     void* bits = nullptr;
-    dc_ = ::CreateCompatibleDC(nullptr);
-    bitmap_ = ::CreateDIBSection(dc_, &info, DIB_RGB_COLORS, &bits, nullptr, 0);
-    previous_ = ::SelectObject(dc_, bitmap_);
+    m_dc = ::CreateCompatibleDC(nullptr);
+    m_bitmap = ::CreateDIBSection(m_dc, &info, DIB_RGB_COLORS, &bits, nullptr, 0);
+    m_previous = ::SelectObject(m_dc, m_bitmap);
     Fill(background);
 }
 
 Canvas::~Canvas()
 {
-    ::SelectObject(dc_, previous_);
-    ::DeleteObject(bitmap_);
-    ::DeleteDC(dc_);
+    ::SelectObject(m_dc, m_previous);
+    ::DeleteObject(m_bitmap);
+    ::DeleteDC(m_dc);
 }
 
 void Canvas::Fill(COLORREF color)
 {
-    const RECT all{0, 0, width_, height_};
+    const RECT all{0, 0, m_width, m_height};
     HBRUSH brush = ::CreateSolidBrush(color);
-    ::FillRect(dc_, &all, brush);
+    ::FillRect(m_dc, &all, brush);
     ::DeleteObject(brush);
 }
 
 Picture Canvas::ToPicture() const
 {
     ::GdiFlush();
-    return Picture::OfBitmap(bitmap_);
+    return Picture::OfBitmap(m_bitmap);
 }
 
 Picture PrintControl(HWND control, COLORREF background)

@@ -14,18 +14,18 @@ public:
     Canvas& operator=(const Canvas&) = delete;
     ~Canvas();
 
-    HDC Dc() const { return dc_; }
-    int Width() const { return width_; }
-    int Height() const { return height_; }
+    HDC Dc() const { return m_dc; }
+    int Width() const { return m_width; }
+    int Height() const { return m_height; }
     void Fill(COLORREF color);
     Picture ToPicture() const;
 
 private:
-    int width_;
-    int height_;
-    HDC dc_ = nullptr;
-    HBITMAP bitmap_ = nullptr;
-    HGDIOBJ previous_ = nullptr;
+    int m_width;
+    int m_height;
+    HDC m_dc = nullptr;
+    HBITMAP m_bitmap = nullptr;
+    HGDIOBJ m_previous = nullptr;
 };
 
 /// A control's client area, painted by WM_PRINTCLIENT over the background: needs no visible

@@ -52,21 +52,21 @@ void AlignToDword(std::vector<WORD>& memory)
 
 DialogTemplate::DialogTemplate(int x, int y, int width, int height, DWORD style, const char* title,
                                DWORD extendedStyle)
-    : title_(title)
+    : m_title(title)
 {
-    head_.style = style;
-    head_.dwExtendedStyle = extendedStyle;
-    head_.x = static_cast<short>(x);
-    head_.y = static_cast<short>(y);
-    head_.cx = static_cast<short>(width);
-    head_.cy = static_cast<short>(height);
+    m_head.style = style;
+    m_head.dwExtendedStyle = extendedStyle;
+    m_head.x = static_cast<short>(x);
+    m_head.y = static_cast<short>(y);
+    m_head.cx = static_cast<short>(width);
+    m_head.cy = static_cast<short>(height);
 }
 
 DialogTemplate& DialogTemplate::Font(int points, const char* face)
 {
-    head_.style |= DS_SETFONT;
-    points_ = points;
-    face_ = face;
+    m_head.style |= DS_SETFONT;
+    m_points = points;
+    m_face = face;
     return *this;
 }
 
@@ -83,7 +83,7 @@ DialogTemplate& DialogTemplate::Add(const char* className, int id, const char* t
     item.place.id = static_cast<WORD>(id);
     item.className = className;
     item.text = text;
-    items_.push_back(item);
+    m_items.push_back(item);
     return *this;
 }
 
@@ -117,25 +117,25 @@ DialogTemplate& DialogTemplate::ComboBox(int id, int x, int y, int width, int he
 
 const DLGTEMPLATE* DialogTemplate::Get() const
 {
-    memory_.clear();
-    DLGTEMPLATE head = head_;
-    head.cdit = static_cast<WORD>(items_.size());
-    AppendRaw(memory_, &head, sizeof head);
-    memory_.push_back(0); // No menu.
-    memory_.push_back(0); // The dialog class.
-    AppendText(memory_, title_);
-    if (head_.style & DS_SETFONT) {
-        memory_.push_back(static_cast<WORD>(points_));
-        AppendText(memory_, face_);
+    m_memory.clear();
+    DLGTEMPLATE head = m_head;
+    head.cdit = static_cast<WORD>(m_items.size());
+    AppendRaw(m_memory, &head, sizeof head);
+    m_memory.push_back(0); // No menu.
+    m_memory.push_back(0); // The dialog class.
+    AppendText(m_memory, m_title);
+    if (m_head.style & DS_SETFONT) {
+        m_memory.push_back(static_cast<WORD>(m_points));
+        AppendText(m_memory, m_face);
     }
-    for (const Item& item : items_) {
-        AlignToDword(memory_);
-        AppendRaw(memory_, &item.place, sizeof item.place);
-        AppendClass(memory_, item.className);
-        AppendText(memory_, item.text);
-        memory_.push_back(0); // No creation data.
+    for (const Item& item : m_items) {
+        AlignToDword(m_memory);
+        AppendRaw(m_memory, &item.place, sizeof item.place);
+        AppendClass(m_memory, item.className);
+        AppendText(m_memory, item.text);
+        m_memory.push_back(0); // No creation data.
     }
-    return reinterpret_cast<const DLGTEMPLATE*>(memory_.data());
+    return reinterpret_cast<const DLGTEMPLATE*>(m_memory.data());
 }
 
 } // namespace umbra::testing

@@ -51,12 +51,12 @@ private:
         std::string text;
     };
 
-    DLGTEMPLATE head_{};
-    std::string title_;
-    int points_ = 0;
-    std::string face_;
-    std::vector<Item> items_;
-    mutable std::vector<WORD> memory_;
+    DLGTEMPLATE m_head{};
+    std::string m_title;
+    int m_points = 0;
+    std::string m_face;
+    std::vector<Item> m_items;
+    mutable std::vector<WORD> m_memory;
 };
 
 } // namespace umbra::testing

@@ -171,28 +171,28 @@ void RefreshDeviceContexts()
 BalancedGdi::BalancedGdi()
 {
     WarmUpGdi();
-    start_ = CountGdiObjects();
+    m_start = CountGdiObjects();
 }
 
 int BalancedGdi::Growth() const
 {
-    return CountGdiObjects().total - start_.total;
+    return CountGdiObjects().total - m_start.total;
 }
 
 std::string BalancedGdi::Describe() const
 {
     const GdiCount now = CountGdiObjects();
     std::string text;
-    Append(text, "device contexts", now.dcs - start_.dcs);
-    Append(text, "bitmaps", now.bitmaps - start_.bitmaps);
-    Append(text, "fonts", now.fonts - start_.fonts);
-    Append(text, "brushes", now.brushes - start_.brushes);
-    Append(text, "pens", now.pens - start_.pens);
-    Append(text, "regions", now.regions - start_.regions);
-    Append(text, "palettes", now.palettes - start_.palettes);
-    Append(text, "others", now.others - start_.others);
+    Append(text, "device contexts", now.dcs - m_start.dcs);
+    Append(text, "bitmaps", now.bitmaps - m_start.bitmaps);
+    Append(text, "fonts", now.fonts - m_start.fonts);
+    Append(text, "brushes", now.brushes - m_start.brushes);
+    Append(text, "pens", now.pens - m_start.pens);
+    Append(text, "regions", now.regions - m_start.regions);
+    Append(text, "palettes", now.palettes - m_start.palettes);
+    Append(text, "others", now.others - m_start.others);
     if (text.empty())
-        Append(text, "objects", now.total - start_.total);
+        Append(text, "objects", now.total - m_start.total);
     return text.empty() ? "balanced" : text;
 }
 

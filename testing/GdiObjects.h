@@ -52,12 +52,12 @@ public:
 
     /// Objects that have come since, less those that have gone.
     int Growth() const;
-    bool IsBalanced() const { return CountGdiObjects() == start_; }
+    bool IsBalanced() const { return CountGdiObjects() == m_start; }
     /// "balanced", or what has grown or shrunk by how many: "bitmaps +1, brushes -1".
     std::string Describe() const;
 
 private:
-    GdiCount start_;
+    GdiCount m_start;
 };
 
 } // namespace umbra::testing

@@ -133,16 +133,16 @@ ImportHook::ImportHook(HMODULE module, const char* dll, const char* name, void* 
     const std::optional<Import> import = FindImport(module, dll, name);
     if (!import)
         return;
-    slot_ = import->slot;
-    before_ = *import->slot;
-    original_ = TargetOf(*import);
-    WriteSlot(slot_, replacement);
+    m_slot = import->slot;
+    m_before = *import->slot;
+    m_original = TargetOf(*import);
+    WriteSlot(m_slot, replacement);
 }
 
 ImportHook::~ImportHook()
 {
-    if (slot_ != nullptr)
-        WriteSlot(slot_, before_);
+    if (m_slot != nullptr)
+        WriteSlot(m_slot, m_before);
 }
 
 } // namespace umbra::testing

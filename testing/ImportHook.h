@@ -59,19 +59,19 @@ public:
     ImportHook& operator=(const ImportHook&) = delete;
     ~ImportHook();
 
-    bool IsInstalled() const { return slot_ != nullptr; }
+    bool IsInstalled() const { return m_slot != nullptr; }
     /// The function that the hook replaces.
-    void* Original() const { return original_; }
+    void* Original() const { return m_original; }
     template <class Function>
     Function* OriginalAs() const
     {
-        return reinterpret_cast<Function*>(original_);
+        return reinterpret_cast<Function*>(m_original);
     }
 
 private:
-    void** slot_ = nullptr;
-    void* original_ = nullptr;
-    void* before_ = nullptr; // What the slot held, which is a stub in a delayed import.
+    void** m_slot = nullptr;
+    void* m_original = nullptr;
+    void* m_before = nullptr; // What the slot held, which is a stub in a delayed import.
 };
 
 } // namespace umbra::testing

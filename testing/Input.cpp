@@ -17,14 +17,14 @@ class ArrivalCounter
 {
 public:
     explicit ArrivalCounter(int hookKind)
-        : hook_(::SetWindowsHookEx(hookKind, hookKind == WH_MOUSE ? CountMouse : CountKey, nullptr,
-                                   ::GetCurrentThreadId()))
+        : m_hook(::SetWindowsHookEx(hookKind, hookKind == WH_MOUSE ? CountMouse : CountKey, nullptr,
+                                    ::GetCurrentThreadId()))
     {
         buttons = moves = keys = 0;
     }
     ArrivalCounter(const ArrivalCounter&) = delete;
     ArrivalCounter& operator=(const ArrivalCounter&) = delete;
-    ~ArrivalCounter() { ::UnhookWindowsHookEx(hook_); }
+    ~ArrivalCounter() { ::UnhookWindowsHookEx(m_hook); }
 
     int Buttons() const { return buttons; }
     int Moves() const { return moves; }
@@ -48,7 +48,7 @@ private:
     static inline thread_local int buttons = 0;
     static inline thread_local int moves = 0;
     static inline thread_local int keys = 0;
-    HHOOK hook_;
+    HHOOK m_hook;
 };
 
 POINT Middle(HWND window)

@@ -183,30 +183,30 @@ std::string MessageName(UINT message)
     return number;
 }
 
-MessageLog::MessageLog(HWND window) : window_(window)
+MessageLog::MessageLog(HWND window) : m_window(window)
 {
     const auto self = reinterpret_cast<DWORD_PTR>(this);
     if (!::SetWindowSubclass(window, Record, self, self))
-        window_ = nullptr;
+        m_window = nullptr;
 }
 
 MessageLog::~MessageLog()
 {
-    if (window_ != nullptr)
-        ::RemoveWindowSubclass(window_, Record, reinterpret_cast<UINT_PTR>(this));
+    if (m_window != nullptr)
+        ::RemoveWindowSubclass(m_window, Record, reinterpret_cast<UINT_PTR>(this));
 }
 
 int MessageLog::Count(UINT message) const
 {
     int count = 0;
-    for (const Entry& entry : entries_)
+    for (const Entry& entry : m_entries)
         count += entry.message == message;
     return count;
 }
 
 const MessageLog::Entry* MessageLog::Last(UINT message) const
 {
-    for (auto entry = entries_.rbegin(); entry != entries_.rend(); ++entry) {
+    for (auto entry = m_entries.rbegin(); entry != m_entries.rend(); ++entry) {
         if (entry->message == message)
             return &*entry;
     }
@@ -216,7 +216,7 @@ const MessageLog::Entry* MessageLog::Last(UINT message) const
 std::string MessageLog::Names() const
 {
     std::string names;
-    for (const Entry& entry : entries_) {
+    for (const Entry& entry : m_entries) {
         if (!names.empty())
             names += ' ';
         names += MessageName(entry.message);
@@ -228,17 +228,17 @@ LRESULT CALLBACK MessageLog::Record(HWND window, UINT message, WPARAM wParam, LP
                                     UINT_PTR id, DWORD_PTR log)
 {
     auto* self = reinterpret_cast<MessageLog*>(log);
-    const size_t index = self->entries_.size();
-    self->entries_.push_back({message, wParam, lParam, 0, self->depth_++});
+    const size_t index = self->m_entries.size();
+    self->m_entries.push_back({message, wParam, lParam, 0, self->m_depth++});
     if (message == WM_NCDESTROY) {
         ::RemoveWindowSubclass(window, Record, id);
-        self->window_ = nullptr;
+        self->m_window = nullptr;
     }
     const LRESULT result = ::DefSubclassProc(window, message, wParam, lParam);
-    --self->depth_;
+    --self->m_depth;
     // A handler may have cleared the log meanwhile.
-    if (index < self->entries_.size() && self->entries_[index].message == message)
-        self->entries_[index].result = result;
+    if (index < self->m_entries.size() && self->m_entries[index].message == message)
+        self->m_entries[index].result = result;
     return result;
 }
 

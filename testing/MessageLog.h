@@ -31,12 +31,12 @@ public:
     MessageLog& operator=(const MessageLog&) = delete;
     ~MessageLog();
 
-    const std::vector<Entry>& Entries() const { return entries_; }
+    const std::vector<Entry>& Entries() const { return m_entries; }
     int Count(UINT message) const;
     bool Contains(UINT message) const { return Count(message) > 0; }
     /// The last such message; NULL when there was none. Valid until the next message comes.
     const Entry* Last(UINT message) const;
-    void Clear() { entries_.clear(); }
+    void Clear() { m_entries.clear(); }
     /// The names in the order of arrival, a space between.
     std::string Names() const;
 
@@ -44,9 +44,9 @@ private:
     static LRESULT CALLBACK Record(HWND window, UINT message, WPARAM wParam, LPARAM lParam,
                                    UINT_PTR id, DWORD_PTR log);
 
-    HWND window_;
-    std::vector<Entry> entries_;
-    int depth_ = 0;
+    HWND m_window;
+    std::vector<Entry> m_entries;
+    int m_depth = 0;
 };
 
 } // namespace umbra::testing

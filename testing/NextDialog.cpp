@@ -36,13 +36,13 @@ std::set<HWND> FindOpenDialogs()
 } // namespace
 
 NextDialog::NextDialog(std::function<void(HWND)> steps)
-    : steps_(std::move(steps)),
-      isOld_([old = FindOpenDialogs()](HWND dialog) { return old.count(dialog) > 0; })
+    : m_steps(std::move(steps)),
+      m_isOld([old = FindOpenDialogs()](HWND dialog) { return old.count(dialog) > 0; })
 {
-    timer_ = ::SetTimer(nullptr, 0, lookingMilliseconds, Look);
-    if (timer_ == 0)
+    m_timer = ::SetTimer(nullptr, 0, lookingMilliseconds, Look);
+    if (m_timer == 0)
         return;
-    older_ = newest;
+    m_older = newest;
     newest = this;
 }
 
@@ -54,12 +54,12 @@ NextDialog::~NextDialog()
 void CALLBACK NextDialog::Look(HWND, UINT, UINT_PTR timer, DWORD)
 {
     NextDialog* self = newest;
-    while (self != nullptr && self->timer_ != timer)
-        self = self->older_;
+    while (self != nullptr && self->m_timer != timer)
+        self = self->m_older;
     if (self == nullptr)
         return;
     for (HWND dialog : FindOpenDialogs()) {
-        if (self->isOld_(dialog))
+        if (self->m_isOld(dialog))
             continue;
         self->RunSteps(dialog);
         return;
@@ -69,20 +69,20 @@ void CALLBACK NextDialog::Look(HWND, UINT, UINT_PTR timer, DWORD)
 void NextDialog::RunSteps(HWND dialog)
 {
     StopWaiting();
-    hasRun_ = true;
-    steps_(dialog);
+    m_hasRun = true;
+    m_steps(dialog);
 }
 
 void NextDialog::StopWaiting()
 {
-    if (timer_ == 0)
+    if (m_timer == 0)
         return;
-    ::KillTimer(nullptr, timer_);
-    timer_ = 0;
+    ::KillTimer(nullptr, m_timer);
+    m_timer = 0;
     NextDialog** link = &newest;
     while (*link != this)
-        link = &(*link)->older_;
-    *link = older_;
+        link = &(*link)->m_older;
+    *link = m_older;
 }
 
 } // namespace umbra::testing

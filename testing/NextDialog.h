@@ -21,18 +21,18 @@ public:
     NextDialog& operator=(const NextDialog&) = delete;
     ~NextDialog();
 
-    bool HasRun() const { return hasRun_; }
+    bool HasRun() const { return m_hasRun; }
 
 private:
     static void CALLBACK Look(HWND, UINT, UINT_PTR timer, DWORD);
     void RunSteps(HWND dialog);
     void StopWaiting();
 
-    std::function<void(HWND)> steps_;
-    std::function<bool(HWND)> isOld_; // A dialog that was there before.
-    UINT_PTR timer_ = 0;              // 0: waits no longer.
-    NextDialog* older_ = nullptr;     // The next one of this thread's that waits.
-    bool hasRun_ = false;
+    std::function<void(HWND)> m_steps;
+    std::function<bool(HWND)> m_isOld; // A dialog that was there before.
+    UINT_PTR m_timer = 0;              // 0: waits no longer.
+    NextDialog* m_older = nullptr;     // The next one of this thread's that waits.
+    bool m_hasRun = false;
 };
 
 } // namespace umbra::testing

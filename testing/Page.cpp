@@ -16,31 +16,31 @@ std::string TextOf(HWND window)
 
 } // namespace
 
-Page::Page(CDialog& dialog, UINT templateId, CWnd* parent) : isOwn_(true)
+Page::Page(CDialog& dialog, UINT templateId, CWnd* parent) : m_isOwn(true)
 {
     if (!dialog.Create(templateId, parent))
         return;
-    window_ = dialog.GetSafeHwnd();
+    m_window = dialog.GetSafeHwnd();
     BringToFront();
 }
 
-Page::Page(CDialog& dialog, const DialogTemplate& source, CWnd* parent) : isOwn_(true)
+Page::Page(CDialog& dialog, const DialogTemplate& source, CWnd* parent) : m_isOwn(true)
 {
     if (!dialog.CreateIndirect(source.Get(), parent))
         return;
-    window_ = dialog.GetSafeHwnd();
+    m_window = dialog.GetSafeHwnd();
     BringToFront();
 }
 
-Page::Page(HWND window) : window_(window)
+Page::Page(HWND window) : m_window(window)
 {
     BringToFront();
 }
 
 Page::~Page()
 {
-    if (isOwn_ && IsOpen())
-        ::DestroyWindow(window_);
+    if (m_isOwn && IsOpen())
+        ::DestroyWindow(m_window);
 }
 
 bool Page::Click(int id)
@@ -60,7 +60,7 @@ bool Page::Hover(int id)
 
 bool Page::Type(int id, const char* text)
 {
-    ::SendMessage(window_, WM_NEXTDLGCTL, reinterpret_cast<WPARAM>(Control(id)), TRUE);
+    ::SendMessage(m_window, WM_NEXTDLGCTL, reinterpret_cast<WPARAM>(Control(id)), TRUE);
     ::SendMessage(Control(id), EM_SETSEL, 0, -1);
     return TypeText(text);
 }
@@ -72,13 +72,13 @@ std::string Page::Text(int id) const
 
 std::string Page::Title() const
 {
-    return TextOf(window_);
+    return TextOf(m_window);
 }
 
 Picture Page::Show()
 {
     PumpMessages();
-    return Picture::OfWindow(window_);
+    return Picture::OfWindow(m_window);
 }
 
 Picture Page::Show(int id)
@@ -90,17 +90,17 @@ Picture Page::Show(int id)
 void Page::MoveOffScreen()
 {
     RECT place{};
-    ::GetWindowRect(window_, &place);
-    ::SetWindowPos(window_, nullptr, place.left - place.right - 100, 0, 0, 0,
+    ::GetWindowRect(m_window, &place);
+    ::SetWindowPos(m_window, nullptr, place.left - place.right - 100, 0, 0, 0,
                    SWP_NOSIZE | SWP_NOZORDER | SWP_NOACTIVATE);
     PumpMessages();
 }
 
 void Page::BringToFront()
 {
-    ::ShowWindow(window_, SW_SHOW);
-    ::SetForegroundWindow(window_);
-    ::UpdateWindow(window_);
+    ::ShowWindow(m_window, SW_SHOW);
+    ::SetForegroundWindow(m_window);
+    ::UpdateWindow(m_window);
     PumpMessages();
 }
 

@@ -24,9 +24,9 @@ public:
     Page& operator=(const Page&) = delete;
     ~Page();
 
-    HWND Handle() const { return window_; }
-    bool IsOpen() const { return window_ != nullptr && ::IsWindow(window_); }
-    HWND Control(int id) const { return ::GetDlgItem(window_, id); }
+    HWND Handle() const { return m_window; }
+    bool IsOpen() const { return m_window != nullptr && ::IsWindow(m_window); }
+    HWND Control(int id) const { return ::GetDlgItem(m_window, id); }
 
     /// With the real pointer and keyboard; false when the input did not arrive.
     bool Click(int id);
@@ -37,7 +37,7 @@ public:
 
     std::string Text(int id) const;
     std::string Title() const;
-    bool IsChecked(int id) const { return ::IsDlgButtonChecked(window_, id) == BST_CHECKED; }
+    bool IsChecked(int id) const { return ::IsDlgButtonChecked(m_window, id) == BST_CHECKED; }
 
     /// What the screen shows of the page, or of one control.
     Picture Show();
@@ -49,8 +49,8 @@ public:
 private:
     void BringToFront();
 
-    HWND window_ = nullptr;
-    bool isOwn_ = false;
+    HWND m_window = nullptr;
+    bool m_isOwn = false;
 };
 
 } // namespace umbra::testing

@@ -27,8 +27,8 @@ COLORREF ToColor(DWORD pixel)
 } // namespace
 
 Picture::Picture(int width, int height, COLORREF fill)
-    : width_(width), height_(height),
-      pixels_(static_cast<size_t>(width) * static_cast<size_t>(height), ToPixel(fill))
+    : m_width(width), m_height(height),
+      m_pixels(static_cast<size_t>(width) * static_cast<size_t>(height), ToPixel(fill))
 {
 }
 
@@ -64,34 +64,34 @@ Picture Picture::OfBitmap(HBITMAP bitmap)
     info.bmiHeader.biBitCount = 32;
     HDC screen = ::GetDC(nullptr);
     const int rows = ::GetDIBits(screen, bitmap, 0, static_cast<UINT>(size.bmHeight),
-                                 picture.pixels_.data(), &info, DIB_RGB_COLORS);
+                                 picture.m_pixels.data(), &info, DIB_RGB_COLORS);
     ::ReleaseDC(nullptr, screen);
     if (rows != size.bmHeight)
         return {};
-    for (DWORD& pixel : picture.pixels_)
+    for (DWORD& pixel : picture.m_pixels)
         pixel &= 0xFFFFFF;
     return picture;
 }
 
 COLORREF Picture::At(int x, int y) const
 {
-    if (x < 0 || y < 0 || x >= width_ || y >= height_)
+    if (x < 0 || y < 0 || x >= m_width || y >= m_height)
         return CLR_INVALID;
-    return ToColor(pixels_[static_cast<size_t>(y) * width_ + x]);
+    return ToColor(m_pixels[static_cast<size_t>(y) * m_width + x]);
 }
 
 void Picture::Set(int x, int y, COLORREF color)
 {
-    if (x < 0 || y < 0 || x >= width_ || y >= height_)
+    if (x < 0 || y < 0 || x >= m_width || y >= m_height)
         return;
-    pixels_[static_cast<size_t>(y) * width_ + x] = ToPixel(color);
+    m_pixels[static_cast<size_t>(y) * m_width + x] = ToPixel(color);
 }
 
 Picture Picture::Crop(const RECT& area) const
 {
     Picture part(area.right - area.left, area.bottom - area.top);
-    for (int y = 0; y < part.height_; ++y) {
-        for (int x = 0; x < part.width_; ++x)
+    for (int y = 0; y < part.m_height; ++y) {
+        for (int x = 0; x < part.m_width; ++x)
             part.Set(x, y, At(area.left + x, area.top + y));
     }
     return part;
@@ -99,16 +99,16 @@ Picture Picture::Crop(const RECT& area) const
 
 int Picture::CountOf(COLORREF color) const
 {
-    return static_cast<int>(std::count(pixels_.begin(), pixels_.end(), ToPixel(color)));
+    return static_cast<int>(std::count(m_pixels.begin(), m_pixels.end(), ToPixel(color)));
 }
 
 RECT Picture::BoundsOfOthers(COLORREF background) const
 {
     const DWORD backgroundPixel = ToPixel(background);
-    RECT bounds{width_, height_, 0, 0};
-    for (int y = 0; y < height_; ++y) {
-        for (int x = 0; x < width_; ++x) {
-            if (pixels_[static_cast<size_t>(y) * width_ + x] == backgroundPixel)
+    RECT bounds{m_width, m_height, 0, 0};
+    for (int y = 0; y < m_height; ++y) {
+        for (int x = 0; x < m_width; ++x) {
+            if (m_pixels[static_cast<size_t>(y) * m_width + x] == backgroundPixel)
                 continue;
             bounds.left = std::min<LONG>(bounds.left, x);
             bounds.top = std::min<LONG>(bounds.top, y);
@@ -121,11 +121,11 @@ RECT Picture::BoundsOfOthers(COLORREF background) const
 
 int Picture::CountDifferences(const Picture& other) const
 {
-    if (width_ != other.width_ || height_ != other.height_)
+    if (m_width != other.m_width || m_height != other.m_height)
         return -1;
     int differences = 0;
-    for (size_t i = 0; i < pixels_.size(); ++i)
-        differences += pixels_[i] != other.pixels_[i];
+    for (size_t i = 0; i < m_pixels.size(); ++i)
+        differences += m_pixels[i] != other.m_pixels[i];
     return differences;
 }
 
@@ -136,17 +136,17 @@ std::string Picture::Compare(const Picture& other) const
     if (differences == 0)
         return "the same";
     if (differences < 0) {
-        std::snprintf(text, sizeof text, "%d x %d instead of %d x %d pixels", width_, height_,
-                      other.width_, other.height_);
+        std::snprintf(text, sizeof text, "%d x %d instead of %d x %d pixels", m_width, m_height,
+                      other.m_width, other.m_height);
         return text;
     }
     size_t first = 0;
-    while (pixels_[first] == other.pixels_[first])
+    while (m_pixels[first] == other.m_pixels[first])
         ++first;
     std::snprintf(text, sizeof text, "%d pixels differ, first (%d, %d): #%06lX instead of #%06lX",
-                  differences, static_cast<int>(first) % width_, static_cast<int>(first) / width_,
-                  static_cast<unsigned long>(pixels_[first]),
-                  static_cast<unsigned long>(other.pixels_[first]));
+                  differences, static_cast<int>(first) % m_width, static_cast<int>(first) / m_width,
+                  static_cast<unsigned long>(m_pixels[first]),
+                  static_cast<unsigned long>(other.m_pixels[first]));
     return text;
 }
 
@@ -162,8 +162,8 @@ bool Picture::SavePng(const char* path) const
         return false;
     bool saved = false;
     {
-        auto* bytes = reinterpret_cast<BYTE*>(const_cast<DWORD*>(pixels_.data()));
-        Gdiplus::Bitmap bitmap(width_, height_, width_ * 4, PixelFormat32bppRGB, bytes);
+        auto* bytes = reinterpret_cast<BYTE*>(const_cast<DWORD*>(m_pixels.data()));
+        Gdiplus::Bitmap bitmap(m_width, m_height, m_width * 4, PixelFormat32bppRGB, bytes);
         wchar_t widePath[MAX_PATH] = L"";
         ::MultiByteToWideChar(CP_ACP, 0, path, -1, widePath, MAX_PATH);
         saved = bitmap.Save(widePath, &pngEncoder, nullptr) == Gdiplus::Ok;

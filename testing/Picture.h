@@ -21,9 +21,9 @@ public:
     static Picture OfDc(HDC dc, const RECT& area);
     static Picture OfBitmap(HBITMAP bitmap);
 
-    int Width() const { return width_; }
-    int Height() const { return height_; }
-    bool IsEmpty() const { return pixels_.empty(); }
+    int Width() const { return m_width; }
+    int Height() const { return m_height; }
+    bool IsEmpty() const { return m_pixels.empty(); }
 
     /// CLR_INVALID outside.
     COLORREF At(int x, int y) const;
@@ -49,9 +49,9 @@ public:
     bool SavePng(const char* path) const;
 
 private:
-    int width_ = 0;
-    int height_ = 0;
-    std::vector<DWORD> pixels_; // 0x00RRGGBB, as in a 32-bit bitmap.
+    int m_width = 0;
+    int m_height = 0;
+    std::vector<DWORD> m_pixels; // 0x00RRGGBB, as in a 32-bit bitmap.
 };
 
 } // namespace umbra::testing

@@ -70,7 +70,7 @@ int ScaleToPixels(unsigned int base, int units, double unit)
 
 void GetFontBaseUnits(unsigned int* pHorizontal, unsigned int* pVertical)
 {
-    const HDC screen = ::GetDC(NULL);
+    const HDC screen = ::GetDC(nullptr);
     const LOGFONT description = DescribeReferenceFont(screen);
     if (EnumFonts(screen, referenceFace, AnswerArgument, faceFound) == faceFound) {
         const DialogUnits::Base base = MeasureFont(screen, description);
@@ -80,7 +80,7 @@ void GetFontBaseUnits(unsigned int* pHorizontal, unsigned int* pVertical)
         *pHorizontal = LOWORD(GetDialogBaseUnits());
         *pVertical = HIWORD(GetDialogBaseUnits());
     }
-    ::ReleaseDC(NULL, screen);
+    ::ReleaseDC(nullptr, screen);
 }
 
 int RoundHalfDown(double x)

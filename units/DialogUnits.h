@@ -17,12 +17,12 @@ UMBRA_API int RoundHalfDown(double x);
 
 /// Converts a rectangle from pixels to dialog units of the reference font.
 UMBRA_API void PixelsToDialogUnits(int x, int y, int cx, int cy, int* pX, int* pY, int* pCx,
-                                     int* pCy);
+                                   int* pCy);
 
 /// Converts a rectangle from dialog units of the reference font to pixels. A negative value comes
 /// out as a very large positive one.
 UMBRA_API void DialogUnitsToPixels(int x, int y, int cx, int cy, int* pX, int* pY, int* pCx,
-                                     int* pCy);
+                                   int* pCy);
 
 /// Moves the rectangle of a window that is about to be created onto the dialog-unit grid.
 UMBRA_API void SnapToDialogUnits(CREATESTRUCT& creation);

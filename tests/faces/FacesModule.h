@@ -6,5 +6,5 @@
 
 inline HMODULE FacesModule()
 {
-    return ::GetModuleHandle(NULL);
+    return ::GetModuleHandle(nullptr);
 }

@@ -14,8 +14,8 @@ using namespace umbra::testing;
 
 namespace {
 
-const ShadeColors kColors = {RGB(128, 100, 7), RGB(212, 208, 200), RGB(255, 250, 255)};
-const COLORREF kTint = RGB(180, 20, 230);
+const ShadeColors plainColors = {RGB(128, 100, 7), RGB(212, 208, 200), RGB(255, 250, 255)};
+const COLORREF tint = RGB(180, 20, 230);
 
 struct Faces
 {
@@ -24,7 +24,7 @@ struct Faces
     ShadeFaces Get() { return {normal, down, disabled, over, focusH, focusV}; }
     void Fill(int width, int height, const ShadeLook& look, ShadeRandom& random, int border = 4)
     {
-        FillShadeFaces(Get(), width, height, border, look, kColors, random);
+        FillShadeFaces(Get(), width, height, border, look, plainColors, random);
     }
     void Fill(int width, int height, const ShadeLook& look)
     {
@@ -86,16 +86,16 @@ bool HaveSamePixels(const PaletteDib& a, const PaletteDib& b)
 TEST_CASE("the plain palette runs from the shadow through the face to the highlight colour")
 {
     Faces faces;
-    faces.Fill(50, 20, {SHADE_NOISE, 20, 0, 0, kTint});
+    faces.Fill(50, 20, {SHADE_NOISE, 20, 0, 0, tint});
     for (const PaletteDib* dib : {&faces.normal, &faces.focusH, &faces.focusV}) {
         for (int i = 0; i < 256; ++i) {
             CAPTURE(i);
-            CHECK(ColorOf(*dib, i) == PlainColor(kColors, i));
+            CHECK(ColorOf(*dib, i) == PlainColor(plainColors, i));
         }
-        CHECK(ColorOf(*dib, 0) == ChannelsOf(kColors.shadow));
+        CHECK(ColorOf(*dib, 0) == ChannelsOf(plainColors.shadow));
         CHECK(ColorOf(*dib, 127) == Channels{211, 207, 198});
         CHECK(ColorOf(*dib, 128) == Channels{212, 208, 200});
-        CHECK(ColorOf(*dib, 255) == ChannelsOf(kColors.highlight));
+        CHECK(ColorOf(*dib, 255) == ChannelsOf(plainColors.highlight));
     }
 }
 
@@ -118,12 +118,12 @@ TEST_CASE("colouring blends the faces' palettes and leaves the focus lines plain
         CAPTURE(percent);
         const int part = percent > 100 ? 100 : percent;
         Faces faces;
-        faces.Fill(30, 20, {SHADE_ROWS, 10, 0, static_cast<BYTE>(percent), kTint});
+        faces.Fill(30, 20, {SHADE_ROWS, 10, 0, static_cast<BYTE>(percent), tint});
         for (int i = 0; i < 256; ++i) {
             CHECK(ColorOf(faces.normal, i) ==
-                  Mix(PlainColor(kColors, i), ChannelsOf(kTint), part, 100));
-            CHECK(ColorOf(faces.focusH, i) == PlainColor(kColors, i));
-            CHECK(ColorOf(faces.focusV, i) == PlainColor(kColors, i));
+                  Mix(PlainColor(plainColors, i), ChannelsOf(tint), part, 100));
+            CHECK(ColorOf(faces.focusH, i) == PlainColor(plainColors, i));
+            CHECK(ColorOf(faces.focusV, i) == PlainColor(plainColors, i));
         }
     }
 }
@@ -132,10 +132,10 @@ TEST_CASE("full colouring without highlight makes four faces of one colour")
 {
     // What the standard buttons of the dialogs are given.
     Faces faces;
-    faces.Fill(72, 23, {SHADE_DIAGONAL, 0, 0, 100, kTint});
+    faces.Fill(72, 23, {SHADE_DIAGONAL, 0, 0, 100, tint});
     for (const PaletteDib* face : {&faces.normal, &faces.over, &faces.down, &faces.disabled})
         for (int i = 0; i < 256; ++i)
-            CHECK(ColorOf(*face, i) == ChannelsOf(kTint));
+            CHECK(ColorOf(*face, i) == ChannelsOf(tint));
 }
 
 TEST_CASE("the hot and the pressed face are the normal one, lighter")
@@ -144,10 +144,10 @@ TEST_CASE("the hot and the pressed face are the normal one, lighter")
         CAPTURE(percent);
         const int part = percent > 100 ? 100 : percent;
         Faces faces;
-        faces.Fill(61, 23, {SHADE_CROSS_BUMP, 33, static_cast<BYTE>(percent), 40, kTint});
+        faces.Fill(61, 23, {SHADE_CROSS_BUMP, 33, static_cast<BYTE>(percent), 40, tint});
         for (int i = 0; i < 256; ++i) {
             const Channels normal = ColorOf(faces.normal, i);
-            const Channels hot = Mix(normal, ChannelsOf(kColors.highlight), part, 100);
+            const Channels hot = Mix(normal, ChannelsOf(plainColors.highlight), part, 100);
             CHECK(ColorOf(faces.over, i) == hot);
             CHECK(ColorOf(faces.down, i) == hot);
             CHECK(ColorOf(faces.disabled, i) == normal);
@@ -160,7 +160,7 @@ TEST_CASE("the hot and the pressed face are the normal one, lighter")
 TEST_CASE("focus lines alternate shadow and highlight, inside the border")
 {
     Faces faces;
-    faces.Fill(50, 21, {SHADE_NOISE, 20, 0, 0, kTint});
+    faces.Fill(50, 21, {SHADE_NOISE, 20, 0, 0, tint});
     CHECK(faces.focusH.GetWidth() == 41);
     CHECK(faces.focusH.GetHeight() == 1);
     CHECK(faces.focusV.GetWidth() == 1);
@@ -176,7 +176,7 @@ TEST_CASE("focus lines are never shorter than one pixel")
     for (const auto& [side, length] : {std::pair{1, 1}, {8, 1}, {9, 1}, {10, 1}, {11, 2}}) {
         CAPTURE(side);
         Faces faces;
-        faces.Fill(side, side, {SHADE_NOISE, 20, 0, 0, kTint});
+        faces.Fill(side, side, {SHADE_NOISE, 20, 0, 0, tint});
         CHECK(faces.focusH.GetWidth() == length);
         CHECK(faces.focusV.GetHeight() == length);
     }
@@ -186,11 +186,11 @@ TEST_CASE("borders of any size are borne")
 {
     ShadeRandom random;
     Faces faces;
-    faces.Fill(20, 20, {SHADE_NOISE, 20, 0, 0, kTint}, random, INT_MAX);
+    faces.Fill(20, 20, {SHADE_NOISE, 20, 0, 0, tint}, random, INT_MAX);
     CHECK(faces.focusH.GetWidth() == 1);
-    faces.Fill(20, 20, {SHADE_NOISE, 20, 0, 0, kTint}, random, 0);
+    faces.Fill(20, 20, {SHADE_NOISE, 20, 0, 0, tint}, random, 0);
     CHECK(faces.focusH.GetWidth() == 19);
-    faces.Fill(20, 20, {SHADE_NOISE, 20, 0, 0, kTint}, random, INT_MIN);
+    faces.Fill(20, 20, {SHADE_NOISE, 20, 0, 0, tint}, random, INT_MIN);
     CHECK_FALSE(faces.focusH.IsValid());
     CHECK(faces.normal.IsValid());
 }
@@ -203,7 +203,7 @@ TEST_CASE("the face has the pixels of its style, taken from the stream")
         plain.Fill(style);
         Faces faces;
         ShadeRandom random(4711);
-        faces.Fill(83, 29, {style, 40, 10, 50, kTint}, random);
+        faces.Fill(83, 29, {style, 40, 10, 50, tint}, random);
         for (int r = 0; r < 29; ++r)
             CHECK(std::memcmp(faces.normal.GetBits() + r * 84, plain.Row(r), 83) == 0);
         CHECK(random.GetState() == plain.GetState());
@@ -214,7 +214,7 @@ TEST_CASE("two fills give different grain, in the same memory")
 {
     Faces faces;
     ShadeRandom random;
-    const ShadeLook look = {SHADE_NOISE, 50, 10, 10, kTint};
+    const ShadeLook look = {SHADE_NOISE, 50, 10, 10, tint};
     faces.Fill(80, 30, look, random);
     const BYTE* bits = faces.normal.GetBits();
     const BYTE* downBits = faces.down.GetBits();
@@ -229,8 +229,8 @@ TEST_CASE("two fills give different grain, in the same memory")
 TEST_CASE("faces follow a new size")
 {
     Faces faces;
-    faces.Fill(80, 30, {SHADE_NOISE, 50, 10, 10, kTint});
-    faces.Fill(31, 47, {SHADE_NOISE, 50, 10, 10, kTint});
+    faces.Fill(80, 30, {SHADE_NOISE, 50, 10, 10, tint});
+    faces.Fill(31, 47, {SHADE_NOISE, 50, 10, 10, tint});
     for (const PaletteDib* face : {&faces.normal, &faces.over, &faces.down, &faces.disabled}) {
         CHECK(face->GetWidth() == 31);
         CHECK(face->GetHeight() == 47);
@@ -242,7 +242,7 @@ TEST_CASE("a window without area has faces without pixels")
     for (const auto& [width, height] : {std::pair{0, 0}, {0, 20}, {20, 0}}) {
         for (unsigned style = 0; style <= 8; ++style) {
             Faces faces;
-            faces.Fill(width, height, {style, 20, 10, 10, kTint});
+            faces.Fill(width, height, {style, 20, 10, 10, tint});
             CHECK(faces.normal.IsValid());
             CHECK(faces.normal.GetSize() == 40 + 1024);
             CHECK(faces.focusH.IsValid());
@@ -254,9 +254,9 @@ TEST_CASE("an impossible size leaves the faces empty and takes no random number"
 {
     Faces faces;
     ShadeRandom random(3);
-    faces.Fill(20, 20, {SHADE_NOISE, 20, 0, 0, kTint}, random);
+    faces.Fill(20, 20, {SHADE_NOISE, 20, 0, 0, tint}, random);
     const auto state = random.GetState();
-    faces.Fill(-1, 20, {SHADE_NOISE, 20, 0, 0, kTint}, random);
+    faces.Fill(-1, 20, {SHADE_NOISE, 20, 0, 0, tint}, random);
     for (const PaletteDib* face : {&faces.normal, &faces.over, &faces.down, &faces.disabled})
         CHECK_FALSE(face->IsValid());
     CHECK(faces.focusH.IsValid());
@@ -265,7 +265,7 @@ TEST_CASE("an impossible size leaves the faces empty and takes no random number"
 
 TEST_CASE("whichever allocation fails, faces are whole or empty")
 {
-    const ShadeLook look = {SHADE_CROSS_BUMP, 20, 10, 10, kTint};
+    const ShadeLook look = {SHADE_CROSS_BUMP, 20, 10, 10, tint};
     bool failed = true;
     int nth = 0;
     while (failed) {
@@ -297,11 +297,11 @@ TEST_CASE("the run-time's own random numbers are neither used nor disturbed")
     std::srand(99);
     CHECK(std::rand() == first);
     Faces faces;
-    faces.Fill(80, 30, {SHADE_SCRATCHED, 50, 10, 10, kTint}, ShadeRandom::OfProcess());
+    faces.Fill(80, 30, {SHADE_SCRATCHED, 50, 10, 10, tint}, ShadeRandom::OfProcess());
     CHECK(std::rand() == second);
 
     CountCalls calls(FacesModule(), "msvcrt", "rand");
-    faces.Fill(80, 30, {SHADE_SCRATCHED, 50, 10, 10, kTint}, ShadeRandom::OfProcess());
+    faces.Fill(80, 30, {SHADE_SCRATCHED, 50, 10, 10, tint}, ShadeRandom::OfProcess());
     CHECK(calls.Calls() == 0);
 }
 

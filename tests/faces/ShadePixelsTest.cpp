@@ -16,9 +16,9 @@
 
 namespace {
 
-constexpr std::uint8_t kUntouched = 0xA5;
+constexpr std::uint8_t untouched = 0xA5;
 
-const std::vector<unsigned> kAllStyles = {0, 1, 2, 3, 4, 5, 6, 7, 8, 9, 1000, 0xFFFFFFFFu};
+const std::vector<unsigned> allStyles = {0, 1, 2, 3, 4, 5, 6, 7, 8, 9, 1000, 0xFFFFFFFFu};
 
 std::vector<ShadeEngine> EnginesHere()
 {
@@ -36,27 +36,27 @@ class TestSurface
 public:
     TestSurface(int width, int height, int gap)
         : m_width(width), m_height(height), m_stride(width + gap),
-          m_block(static_cast<std::size_t>(m_stride) * height + 2 * kMargin, kUntouched)
+          m_block(static_cast<std::size_t>(m_stride) * height + 2 * margin, untouched)
     {
     }
 
-    ShadeSurface Get() { return {m_block.data() + kMargin, m_width, m_height, m_stride}; }
-    const std::uint8_t* Row(int r) const { return m_block.data() + kMargin + r * m_stride; }
+    ShadeSurface Get() { return {m_block.data() + margin, m_width, m_height, m_stride}; }
+    const std::uint8_t* Row(int r) const { return m_block.data() + margin + r * m_stride; }
 
     bool IsUntouchedAround() const
     {
         for (std::size_t i = 0; i < m_block.size(); ++i) {
-            const auto offset = static_cast<std::ptrdiff_t>(i) - kMargin;
+            const auto offset = static_cast<std::ptrdiff_t>(i) - margin;
             const bool inside =
                 offset >= 0 && offset < m_stride * m_height && offset % m_stride < m_width;
-            if (!inside && m_block[i] != kUntouched)
+            if (!inside && m_block[i] != untouched)
                 return false;
         }
         return true;
     }
 
 private:
-    static constexpr std::ptrdiff_t kMargin = 64;
+    static constexpr std::ptrdiff_t margin = 64;
 
     int m_width;
     int m_height;
@@ -101,7 +101,7 @@ void CheckAllStyles(int width, int height, const std::vector<int>& granularities
                     const std::vector<std::uint32_t>& states)
 {
     for (ShadeEngine engine : EnginesHere())
-        for (unsigned style : kAllStyles)
+        for (unsigned style : allStyles)
             for (int granularity : granularities)
                 for (std::uint32_t state : states)
                     CHECK(FindDifference(width, height, style, granularity, state, engine) == "");
@@ -127,7 +127,7 @@ int DivisorOf(int granularity)
 std::uint32_t StateBeforeMaximum()
 {
     for (std::uint32_t state = 1;; ++state) {
-        if (ShadeRandom(state).Next() == ShadeRandom::kMax)
+        if (ShadeRandom(state).Next() == ShadeRandom::largest)
             return state;
     }
 }
@@ -210,14 +210,14 @@ TEST_CASE("the best engine is the newest one that the processor has")
 
 TEST_CASE("a surface without pixels takes no random number")
 {
-    std::uint8_t pixel = kUntouched;
-    for (unsigned style : kAllStyles) {
+    std::uint8_t pixel = untouched;
+    for (unsigned style : allStyles) {
         ShadeRandom random(5);
         CHECK(FillShadePixels({&pixel, 0, 10, 0}, style, 20, random));
         CHECK(FillShadePixels({&pixel, 10, 0, 12}, style, 20, random));
         CHECK(FillShadePixels({nullptr, 1, 1, 4}, style, 20, random));
         CHECK(random.GetState() == 5);
-        CHECK(pixel == kUntouched);
+        CHECK(pixel == untouched);
     }
 }
 
@@ -289,12 +289,12 @@ TEST_CASE(
 
 TEST_CASE("a side of 2^26 pixels or more is refused before anything is drawn")
 {
-    std::uint8_t pixel = kUntouched;
+    std::uint8_t pixel = untouched;
     for (const auto& [width, height] : {std::pair(1 << 26, 1), {1, 1 << 26}, {INT_MAX, INT_MAX}}) {
         ShadeRandom random(7);
         CHECK_FALSE(FillShadePixels({&pixel, width, height, 0}, SHADE_NOISE, 20, random));
         CHECK(random.GetState() == 7);
-        CHECK(pixel == kUntouched);
+        CHECK(pixel == untouched);
     }
 }
 
@@ -317,6 +317,6 @@ TEST_CASE("without memory to work in nothing is drawn and no random number is ta
         CHECK(random.GetState() == 7);
         const ShadeSurface drawn = surface.Get();
         for (int i = 0; i < 40 * 30; ++i)
-            REQUIRE(drawn.bits[i] == kUntouched);
+            REQUIRE(drawn.bits[i] == untouched);
     }
 }

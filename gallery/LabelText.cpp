@@ -1,0 +1,15 @@
+#include "gallery/LabelText.h"
+
+void SetLabelText(CWnd& label, const CString& text)
+{
+    CString before;
+    label.GetWindowText(before);
+    if (text == before)
+        return;
+    label.SetWindowText(text);
+    CRect place;
+    label.GetWindowRect(&place);
+    CWnd* page = label.GetParent();
+    page->ScreenToClient(&place);
+    page->InvalidateRect(&place, TRUE);
+}
