@@ -1,5 +1,6 @@
 #include "controls/KeyedPicture.h"
 
+#include "controls/FollowLayout.h"
 #include "controls/ScopedSelect.h"
 
 #include <memory>
@@ -74,7 +75,13 @@ void DrawKeyedPicture(CDC& target, const CRect& place, CBitmap& mask, CBitmap& p
     memory.CreateCompatibleDC(nullptr);
     {
         const ScopedSelect selected(memory, mask.GetSafeHandle());
+        umbra::FollowLayout(memory, target);
+        // A monochrome bitmap is copied in the target's colours, whatever its owner left there.
+        const COLORREF text = target.SetTextColor(RGB(0, 0, 0));
+        const COLORREF background = target.SetBkColor(RGB(255, 255, 255));
         target.BitBlt(place.left, place.top, place.Width(), place.Height(), &memory, 0, 0, SRCAND);
+        target.SetTextColor(text);
+        target.SetBkColor(background);
     }
     if (picture.GetSafeHandle() == nullptr)
         return;

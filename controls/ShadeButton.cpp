@@ -1,6 +1,7 @@
 #include "controls/ShadeButton.h"
 
 #include "controls/Abandon.h"
+#include "controls/FollowLayout.h"
 #include "controls/KeyedPicture.h"
 #include "controls/ScopedSelect.h"
 #include "faces/ShadeGenerator.h"
@@ -167,6 +168,7 @@ void CxShadeButton::DrawItem(LPDRAWITEMSTRUCT lpDrawItemStruct)
     canvas.CreateCompatibleBitmap(target, item.Width(), item.Height());
     {
         const ScopedSelect canvasSelected(memory, canvas.GetSafeHandle());
+        umbra::FollowLayout(memory, *target);
         const HGDIOBJ font = m_font.GetSafeHandle() != nullptr ? m_font.GetSafeHandle()
                                                                : ::GetStockObject(DEFAULT_GUI_FONT);
         const ScopedSelect fontSelected(memory, font);
@@ -400,7 +402,7 @@ void CxShadeButton::DrawDisabledFace(Face& face)
 {
     if (!m_dibDisabled.Draw(face.dc.GetSafeHdc(), 0, 0))
         FillWithFaceColor(face.dc, face.item);
-    DrawIcon(face.dc, m_hIcon, 0, DSS_DISABLED);
+    DrawIcon(face, m_hIcon, 0, DSS_DISABLED);
     if (m_3dBorder && !m_flat)
         face.dc.DrawEdge(&face.item, EDGE_RAISED, BF_RECT);
 
@@ -421,7 +423,7 @@ void CxShadeButton::DrawRaisedFace(Face& face)
         m_dibNormal.Draw(dc, 0, 0);
 
     const HICON icon = m_hover && m_hIconOver != nullptr ? m_hIconOver : m_hIcon;
-    DrawIcon(face.dc, icon, 0, DSS_NORMAL);
+    DrawIcon(face, icon, 0, DSS_NORMAL);
 
     if (!m_3dBorder || (m_flat && !m_hover))
         return;
@@ -442,7 +444,7 @@ void CxShadeButton::DrawPressedFace(Face& face)
         FillWithFaceColor(face.dc, face.item);
 
     const int shift = m_pushLike ? 1 : 0;
-    DrawIcon(face.dc, m_hIconDown, shift, DSS_NORMAL);
+    DrawIcon(face, m_hIconDown, shift, DSS_NORMAL);
     face.caption.OffsetRect(shift, shift);
 
     if (!m_3dBorder)
@@ -473,13 +475,17 @@ void CxShadeButton::DrawCaption(Face& face)
 
 /// Draws the icon, or without one the picture, when it has no mask colour, `shift` pixels down and
 /// right of its place.
-void CxShadeButton::DrawIcon(CDC& dc, HICON icon, int shift, UINT look)
+void CxShadeButton::DrawIcon(Face& face, HICON icon, int shift, UINT look)
 {
-    const CPoint corner(m_rcIcon.left + shift, m_rcIcon.top + shift);
+    CRect place = m_rcIcon;
+    place.OffsetRect(shift, shift);
+    const umbra::LeftToRight leftToRight(face.dc);
+    if (leftToRight.WasMirrored())
+        place.MoveToX(face.item.right - place.right);
     if (icon != nullptr)
-        dc.DrawState(corner, m_rcIcon.Size(), icon, look, static_cast<HBRUSH>(nullptr));
+        face.dc.DrawState(place.TopLeft(), place.Size(), icon, look, static_cast<HBRUSH>(nullptr));
     else if (m_hBitmap != nullptr && m_maskColor == CLR_NONE)
-        dc.DrawState(corner, m_rcIcon.Size(), m_hBitmap, look);
+        face.dc.DrawState(place.TopLeft(), place.Size(), m_hBitmap, look);
 }
 
 void CxShadeButton::DrawMaskedPicture(CDC& target, UINT state)

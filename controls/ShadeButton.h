@@ -135,7 +135,7 @@ private:
     void DrawPressedFace(Face& face);
     void DrawFocus(Face& face);
     void DrawCaption(Face& face);
-    void DrawIcon(CDC& dc, HICON icon, int shift, UINT look);
+    void DrawIcon(Face& face, HICON icon, int shift, UINT look);
     void DrawMaskedPicture(CDC& target, UINT state);
 
     BOOL IsOver(CPoint screen) const;

@@ -1,6 +1,7 @@
 #include "controls/StaticTS.h"
 
 #include "controls/Abandon.h"
+#include "controls/FollowLayout.h"
 #include "controls/KeyedPicture.h"
 #include "controls/LinkActions.h"
 #include "controls/ScopedSelect.h"
@@ -238,6 +239,7 @@ void CStaticTS::DrawOpaquePicture(CDC* pDC)
     CDC memory;
     memory.CreateCompatibleDC(pDC);
     const ScopedSelect selected(memory, m_bmpPicture.GetSafeHandle());
+    umbra::FollowLayout(memory, *pDC);
     pDC->BitBlt(0, 0, client.Width(), client.Height(), &memory, 0, 0, SRCCOPY);
 }
 

@@ -2,6 +2,7 @@
 
 #include "shell/WorkingFolder.h"
 
+#include "controls/FollowLayout.h"
 #include "controls/ScopedSelect.h"
 #include "faces/ShadeGenerator.h"
 #include "resources/resource.h"
@@ -101,6 +102,7 @@ void CBaseDialog::OnPaint()
     CDC memory;
     memory.CreateCompatibleDC(&dc);
     const ScopedSelect selected(memory, strip.GetSafeHandle());
+    umbra::FollowLayout(memory, dc);
     dc.BitBlt(0, 0, record.bmWidth, record.bmHeight, &memory, 0, 0, SRCCOPY);
 }
 

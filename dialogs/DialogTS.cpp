@@ -3,6 +3,7 @@
 #include "units/DialogUnits.h"
 
 #include "controls/Abandon.h"
+#include "controls/FollowLayout.h"
 #include "controls/KeyedPicture.h"
 
 using umbra::Abandon;
@@ -109,6 +110,7 @@ void CDialogTS::DrawBackground(CDC* pDC, const CRect& client)
         memory.SelectObject(&m_bmpBack);
         if (m_bmpBack.GetBitmap(&image) == 0)
             image = {};
+        umbra::FollowLayout(memory, *pDC);
     }
     pDC->BitBlt(0, 0, min(image.bmWidth, client.Width()), min(image.bmHeight, client.Height()),
                 &memory, 0, 0, SRCCOPY);

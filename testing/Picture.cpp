@@ -45,6 +45,7 @@ Picture Picture::OfWindow(HWND window)
 Picture Picture::OfDc(HDC dc, const RECT& area)
 {
     Canvas copy(area.right - area.left, area.bottom - area.top);
+    ::SetLayout(copy.Dc(), ::GetLayout(dc)); // Between contexts of one layout nothing is mirrored.
     if (!::BitBlt(copy.Dc(), 0, 0, copy.Width(), copy.Height(), dc, area.left, area.top, SRCCOPY))
         return {};
     return copy.ToPicture();
