@@ -3,6 +3,7 @@
 #include "controls/Abandon.h"
 #include "controls/KeyedPicture.h"
 #include "controls/LinkActions.h"
+#include "controls/PrintClient.h"
 #include "controls/ScopedSelect.h"
 #include "controls/ToolTipRelay.h"
 
@@ -16,6 +17,7 @@ BEGIN_MESSAGE_MAP(CHyperLink, CStatic)
     ON_WM_SETCURSOR()
     ON_WM_PAINT()
     ON_WM_MOUSEMOVE()
+    ON_MESSAGE(WM_PRINTCLIENT, OnPrintClient)
 END_MESSAGE_MAP()
 
 namespace {
@@ -140,6 +142,34 @@ BOOL CHyperLink::OnSetCursor(CWnd*, UINT, UINT)
 void CHyperLink::OnPaint()
 {
     CPaintDC dc(this);
+    DrawLabel(dc);
+}
+
+void CHyperLink::OnMouseMove(UINT nFlags, CPoint point)
+{
+    const HWND window = m_hWnd;
+    RelayToolTipEvent(WM_MOUSEMOVE, nFlags, MAKELPARAM(point.x, point.y));
+    if (::IsWindow(window)) // The host is notified of tool tips, and may have ended the label.
+        Default();
+}
+
+LRESULT CHyperLink::OnPrintClient(WPARAM wParam, LPARAM)
+{
+    return umbra::PrintClient(wParam, [this](CDC& dc) { DrawLabel(dc); });
+}
+
+void CHyperLink::BuildTransparencyMask()
+{
+    BuildKeyMask(m_bmpPicture, m_bmpMask, m_crTransparent);
+}
+
+LONG CHyperLink::QueryRegistryDefault(HKEY root, const char* subKey, char* out)
+{
+    return ::QueryRegistryDefault(root, subKey, out);
+}
+
+void CHyperLink::DrawLabel(CDC& dc)
+{
     if (m_crTransparent != CLR_NONE)
         DrawKeyedPicture(dc, CRect(0, 0, m_nBitmapWidth, m_nBitmapHeight), m_bmpMask, m_bmpPicture);
     CString text;
@@ -152,24 +182,6 @@ void CHyperLink::OnPaint()
     dc.SetBkMode(TRANSPARENT);
     dc.SetTextColor(m_crText);
     dc.DrawText(text, -1, &area, DT_CENTER | DT_WORDBREAK);
-}
-
-void CHyperLink::OnMouseMove(UINT nFlags, CPoint point)
-{
-    const HWND window = m_hWnd;
-    RelayToolTipEvent(WM_MOUSEMOVE, nFlags, MAKELPARAM(point.x, point.y));
-    if (::IsWindow(window)) // The host is notified of tool tips, and may have ended the label.
-        Default();
-}
-
-void CHyperLink::BuildTransparencyMask()
-{
-    BuildKeyMask(m_bmpPicture, m_bmpMask, m_crTransparent);
-}
-
-LONG CHyperLink::QueryRegistryDefault(HKEY root, const char* subKey, char* out)
-{
-    return ::QueryRegistryDefault(root, subKey, out);
 }
 
 void CHyperLink::CreateToolTip()

@@ -56,10 +56,12 @@ protected:
     afx_msg BOOL OnSetCursor(CWnd* pWnd, UINT nHitTest, UINT message);
     afx_msg void OnPaint();
     afx_msg void OnMouseMove(UINT nFlags, CPoint point);
+    afx_msg LRESULT OnPrintClient(WPARAM wParam, LPARAM lParam);
 
     void BuildTransparencyMask();
     LONG QueryRegistryDefault(HKEY root, const char* subKey, char* out);
 
 private:
+    void DrawLabel(CDC& dc);
     void CreateToolTip();
 };

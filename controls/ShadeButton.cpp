@@ -11,6 +11,8 @@
 
 #include <stdlib.h>
 
+#include <algorithm>
+
 using umbra::Abandon;
 
 BEGIN_MESSAGE_MAP(CxShadeButton, CButton)
@@ -36,6 +38,11 @@ void FillWithFaceColor(CDC& dc, const CRect& area)
     ::FillRect(dc.GetSafeHdc(), &area, ::GetSysColorBrush(COLOR_BTNFACE));
 }
 
+bool IsAmong(HICON icon, const HICON* first, const HICON* end)
+{
+    return std::find(first, end, icon) != end;
+}
+
 void DrawRectangle(CDC& dc, const CRect& area, int topLeft, int bottomRight)
 {
     dc.Draw3dRect(&area, ::GetSysColor(topLeft), ::GetSysColor(bottomRight));
@@ -51,11 +58,8 @@ CxShadeButton::~CxShadeButton()
 {
     m_font.DeleteObject();
     free(m_pictureData);
-    ReleaseIcons();
-    if (m_bmpImage.GetSafeHandle() == m_hBitmap)
-        m_bmpImage.Detach(); // They share the handle, which is deleted once.
-    if (m_hBitmap != nullptr)
-        ::DeleteObject(m_hBitmap);
+    ReplaceIcons(nullptr, nullptr, nullptr);
+    DeletePicture();
     if (m_pictureOwned) {
         m_bmpImage.DeleteObject();
         m_bmpMask.DeleteObject();
@@ -66,12 +70,17 @@ CxShadeButton::~CxShadeButton()
 BOOL CxShadeButton::SetShade(UINT shade, BYTE granularity, BYTE highlight, BYTE coloring,
                              COLORREF color)
 {
-    CRect window;
-    GetWindowRect(&window);
-    FillShadeFaces({m_dibNormal, m_dibDown, m_dibDisabled, m_dibOver, m_dibFocusH, m_dibFocusV},
-                   window.Width(), window.Height(), m_border,
-                   {shade, granularity, highlight, coloring, color}, ShadeColors::OfSystem(),
-                   ShadeRandom::OfProcess());
+    m_shade = {TRUE, shade, granularity, highlight, coloring, color};
+    MakeFaces();
+    return TRUE;
+}
+
+BOOL CxShadeButton::UpdateShade()
+{
+    if (!m_shade.isSet)
+        return FALSE;
+    MakeFaces();
+    Invalidate();
     return TRUE;
 }
 
@@ -85,17 +94,17 @@ BOOL CxShadeButton::SetPicture(CString path, UINT align, int width, int height, 
         m_bmpImage.Attach(m_hBitmap);
         BuildKeyMask(m_bmpImage, m_bmpMask, maskColor == CLR_NONE ? RGB(0, 0, 0) : maskColor);
     }
-    m_hIcon = nullptr;
+    ReplaceIcons(nullptr, nullptr, nullptr);
     return TRUE;
 }
 
 void CxShadeButton::SetIcons(HICON hIcon, UINT align, int width, int height, HICON hIconDown,
                              HICON hIconOver)
 {
-    ReleaseIcons();
-    m_hIcon = hIcon;
-    m_hIconDown = hIconDown != nullptr ? hIconDown : hIcon;
-    m_hIconOver = hIconOver != nullptr ? hIconOver : hIcon;
+    ReplaceIcons(hIcon, hIconDown != nullptr ? hIconDown : hIcon,
+                 hIconOver != nullptr ? hIconOver : hIcon);
+    if (hIcon != nullptr)
+        DeletePicture();
     PlacePicture(align, width, height);
     Invalidate();
 }
@@ -297,6 +306,17 @@ HBITMAP CxShadeButton::LoadPictureBitmap(const char* path)
     return ::LoadPictureBitmap(path);
 }
 
+void CxShadeButton::MakeFaces()
+{
+    CRect window;
+    GetWindowRect(&window);
+    const ShadeLook look = {m_shade.style, m_shade.granularity, m_shade.highlight, m_shade.coloring,
+                            m_shade.color};
+    FillShadeFaces({m_dibNormal, m_dibDown, m_dibDisabled, m_dibOver, m_dibFocusH, m_dibFocusV},
+                   window.Width(), window.Height(), m_border, look, ShadeColors::OfSystem(),
+                   ShadeRandom::OfProcess());
+}
+
 void CxShadeButton::ReadStyle(DWORD style)
 {
     m_pushLike = (style & BS_PUSHLIKE) != 0;
@@ -342,15 +362,28 @@ void CxShadeButton::PlacePicture(UINT align, int width, int height)
     }
 }
 
-void CxShadeButton::ReleaseIcons()
+/// Destroys the former icons, each once, save those that go on being shown.
+void CxShadeButton::ReplaceIcons(HICON normal, HICON down, HICON over)
 {
-    if (m_hIconDown != nullptr && m_hIconDown != m_hIcon)
-        ::DestroyIcon(m_hIconDown);
-    if (m_hIconOver != nullptr && m_hIconOver != m_hIcon && m_hIconOver != m_hIconDown)
-        ::DestroyIcon(m_hIconOver);
-    if (m_hIcon != nullptr)
-        ::DestroyIcon(m_hIcon);
-    m_hIcon = m_hIconDown = m_hIconOver = nullptr;
+    const HICON former[] = {m_hIconDown, m_hIconOver, m_hIcon};
+    const HICON next[] = {normal, down, over};
+    for (size_t i = 0; i < _countof(former); ++i) {
+        const bool shared = IsAmong(former[i], former + i + 1, former + _countof(former));
+        if (former[i] != nullptr && !shared && !IsAmong(former[i], next, next + _countof(next)))
+            ::DestroyIcon(former[i]);
+    }
+    m_hIcon = normal;
+    m_hIconDown = down;
+    m_hIconOver = over;
+}
+
+void CxShadeButton::DeletePicture()
+{
+    if (m_bmpImage.GetSafeHandle() == m_hBitmap)
+        m_bmpImage.Detach(); // They share the handle, which is deleted once.
+    if (m_hBitmap != nullptr)
+        ::DeleteObject(m_hBitmap);
+    m_hBitmap = nullptr;
 }
 
 /// While the button is held, it is down only under the mouse. TRUE when its state had to change:

@@ -40,14 +40,21 @@ public:
     /// all faces go towards `colour`. Repaints nothing. Always TRUE.
     BOOL SetShade(UINT shade, BYTE granularity, BYTE highlight, BYTE coloring, COLORREF color);
 
+    /// Makes the faces anew as the last SetShade asked for, for the button's present size and the
+    /// system's present colours: to be called after a change of either. Repaints. FALSE: there was
+    /// no SetShade yet.
+    BOOL UpdateShade();
+
     /// Loads a picture file to be shown in width by height pixels, its mask colour transparent
-    /// (CLR_NONE: none). It replaces an icon, and a former picture, which is let go, not deleted.
-    /// A file that does not load leaves the button without a picture. Repaints nothing. Always
-    /// TRUE.
+    /// (CLR_NONE: none). It replaces the icons of all states, which are destroyed, and a former
+    /// picture, which is let go, not deleted. A file that does not load leaves the button without a
+    /// picture and without icons. Repaints nothing. Always TRUE.
     BOOL SetPicture(CString path, UINT align, int width, int height, COLORREF maskColor);
 
     /// Shows an icon of width by height pixels; the pressed and hot looks have the same one unless
-    /// theirs is given. The button owns the icons from here on. NULL takes the icon away.
+    /// theirs is given. The button owns the icons from here on and destroys former ones, save those
+    /// that are given again. An icon replaces a picture, which is deleted. NULL takes the icons
+    /// away.
     void SetIcons(HICON hIcon, UINT align, int width, int height, HICON hIconDown = nullptr,
                   HICON hIconOver = nullptr);
 
@@ -113,6 +120,18 @@ protected:
     HBITMAP LoadPictureBitmap(const char* path);
 
 private:
+    /// What the last SetShade asked for.
+    struct Shade
+    {
+        BOOL isSet = FALSE;
+        UINT style = 0;
+        BYTE granularity = 0;
+        BYTE highlight = 0;
+        BYTE coloring = 0;
+        COLORREF color = 0;
+    };
+    Shade m_shade;
+
     /// What the steps of one paint share.
     struct Face
     {
@@ -123,9 +142,11 @@ private:
         UINT state; ///< ODS_... bits.
     };
 
+    void MakeFaces();
     void ReadStyle(DWORD style);
     void PlacePicture(UINT align, int width, int height);
-    void ReleaseIcons();
+    void ReplaceIcons(HICON normal, HICON down, HICON over);
+    void DeletePicture();
 
     BOOL CorrectCapture();
     CRect GetCaptionArea(const CRect& item) const;

@@ -4,6 +4,7 @@
 #include "controls/FollowLayout.h"
 #include "controls/KeyedPicture.h"
 #include "controls/LinkActions.h"
+#include "controls/PrintClient.h"
 #include "controls/ScopedSelect.h"
 
 #include "units/DialogUnits.h"
@@ -19,6 +20,7 @@ BEGIN_MESSAGE_MAP(CStaticTS, CStatic)
     ON_WM_CREATE()
     ON_WM_SETCURSOR()
     ON_WM_LBUTTONDOWN()
+    ON_MESSAGE(WM_PRINTCLIENT, OnPrintClient)
 END_MESSAGE_MAP()
 
 namespace {
@@ -117,13 +119,7 @@ BOOL CStaticTS::OnEraseBkgnd(CDC*)
 void CStaticTS::OnPaint()
 {
     CPaintDC dc(this);
-    if (m_bHasPicture) {
-        if (m_crTransparent == CLR_NONE)
-            DrawOpaquePicture(&dc);
-        else
-            DrawMasked(&dc, keyedExtent, keyedExtent);
-    }
-    DrawLabelText(&dc);
+    DrawLabel(&dc);
 }
 
 int CStaticTS::OnCreate(LPCREATESTRUCT lpCreateStruct)
@@ -158,6 +154,11 @@ void CStaticTS::OnLButtonDown(UINT, CPoint)
             return; // The shell works off messages, so the host may have ended the label.
     }
     Default();
+}
+
+LRESULT CStaticTS::OnPrintClient(WPARAM wParam, LPARAM)
+{
+    return umbra::PrintClient(wParam, [this](CDC& dc) { DrawLabel(&dc); });
 }
 
 void CStaticTS::FreeBitmaps()
@@ -230,6 +231,17 @@ UINT CStaticTS::ShellOpen(CString target, int showCommand)
 LONG CStaticTS::QueryRegistryDefault(HKEY root, const char* subKey, char* out)
 {
     return ::QueryRegistryDefault(root, subKey, out);
+}
+
+void CStaticTS::DrawLabel(CDC* pDC)
+{
+    if (m_bHasPicture) {
+        if (m_crTransparent == CLR_NONE)
+            DrawOpaquePicture(pDC);
+        else
+            DrawMasked(pDC, keyedExtent, keyedExtent);
+    }
+    DrawLabelText(pDC);
 }
 
 void CStaticTS::DrawOpaquePicture(CDC* pDC)

@@ -67,6 +67,7 @@ protected:
     afx_msg int OnCreate(LPCREATESTRUCT lpCreateStruct);
     afx_msg BOOL OnSetCursor(CWnd* pWnd, UINT nHitTest, UINT message);
     afx_msg void OnLButtonDown(UINT nFlags, CPoint point);
+    afx_msg LRESULT OnPrintClient(WPARAM wParam, LPARAM lParam);
 
     void FreeBitmaps();
     void BuildMask();
@@ -79,6 +80,7 @@ protected:
     LONG QueryRegistryDefault(HKEY root, const char* subKey, char* out);
 
 private:
+    void DrawLabel(CDC* pDC);
     void DrawOpaquePicture(CDC* pDC);
     void SelectLabelFont(CDC* pDC);
     LOGFONT DescribeFont() const;

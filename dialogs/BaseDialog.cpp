@@ -3,6 +3,7 @@
 #include "shell/WorkingFolder.h"
 
 #include "controls/FollowLayout.h"
+#include "controls/PrintClient.h"
 #include "controls/ScopedSelect.h"
 #include "faces/ShadeGenerator.h"
 #include "resources/resource.h"
@@ -12,6 +13,7 @@ COLORREF g_crShade = RGB(192, 192, 192);
 
 BEGIN_MESSAGE_MAP(CBaseDialog, CDialogTS)
     ON_WM_PAINT()
+    ON_MESSAGE(WM_PRINTCLIENT, OnPrintClient)
 END_MESSAGE_MAP()
 
 namespace {
@@ -40,7 +42,8 @@ BOOL CBaseDialog::OnInitDialog()
 {
     CDialog::OnInitDialog();
     m_strImageDir = g_strImageDir;
-    if (m_strImageDir.Right(1) != "\\")
+    // The last byte may be the second one of a character, which a backslash looks like.
+    if (m_strImageDir.IsEmpty() || m_strImageDir.ReverseFind('\\') != m_strImageDir.GetLength() - 1)
         m_strImageDir += '\\';
 
     // Where two flags name one button, the later step wins.
@@ -95,6 +98,16 @@ void CBaseDialog::DoDataExchange(CDataExchange* pDX)
 void CBaseDialog::OnPaint()
 {
     CPaintDC dc(this);
+    DrawStrip(dc);
+}
+
+LRESULT CBaseDialog::OnPrintClient(WPARAM wParam, LPARAM)
+{
+    return umbra::PrintClient(wParam, [this](CDC& dc) { DrawStrip(dc); });
+}
+
+void CBaseDialog::DrawStrip(CDC& dc)
+{
     CBitmap strip;
     strip.LoadBitmap(IDB_STRIP);
     BITMAP record = {};

@@ -62,8 +62,12 @@ protected:
     DECLARE_MESSAGE_MAP()
     /// Paints the background strip. A page's own version is the one that runs.
     afx_msg virtual void OnPaint();
+    /// Paints the strip where a picture of the page is asked for; a page that paints more in its
+    /// own OnPaint handles WM_PRINTCLIENT, too.
+    afx_msg LRESULT OnPrintClient(WPARAM wParam, LPARAM lParam);
 
 private:
+    void DrawStrip(CDC& dc);
     CString PathOfStringImage(UINT stringId) const;
     void SetButton(CxShadeButton& button, const char* caption);
     void SetButtonIcon(CxShadeButton& button, UINT stringId);

@@ -1,5 +1,11 @@
 #include "gallery/Images.h"
 
+CString EndWithBackslash(const CString& folder)
+{
+    // The last byte may be the second one of a character, which a backslash looks like.
+    return folder.ReverseFind('\\') == folder.GetLength() - 1 ? folder : folder + "\\";
+}
+
 CString GalleryFolder()
 {
     CString path;
@@ -10,10 +16,7 @@ CString GalleryFolder()
 
 CString ImageFolder()
 {
-    CString folder = g_strImageDir;
-    if (folder.Right(1) != "\\")
-        folder += "\\";
-    return folder + "images\\";
+    return EndWithBackslash(g_strImageDir) + "images\\";
 }
 
 bool HasImages()

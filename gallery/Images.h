@@ -3,6 +3,9 @@
 
 #include <umbra.h>
 
+/// A folder with a backslash at its end; the empty one stays empty.
+CString EndWithBackslash(const CString& folder);
+
 /// The folder of the program file, with a backslash at its end.
 CString GalleryFolder();
 

@@ -398,12 +398,9 @@ void ShootWorking(CAlbum& album)
 
 BOOL ShootGallery(const CString& folder)
 {
-    CString place = folder;
-    if (place.Right(1) != "\\" && place.Right(1) != "/")
-        place += "\\";
-    CAlbum album(place);
-    ::CreateDirectory(folder,
-                      nullptr); // What fails here fails again when the first file is written.
+    CAlbum album(EndWithBackslash(folder));
+    // What fails here fails again when the first file is written.
+    ::CreateDirectory(folder, nullptr);
     if (!HasImages())
         album.Fail("the image folder " + ImageFolder() + " is missing");
     for (const auto shoot : {ShootStart, ShootStartWithoutImages, ShootBackgrounds, ShootGrid,

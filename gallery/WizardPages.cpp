@@ -128,9 +128,7 @@ CString CWizardFolderPage::Folder() const
 {
     CString folder;
     GetDlgItemText(IDC_FOLDER, folder);
-    if (!folder.IsEmpty() && folder.Right(1) != "\\")
-        folder += "\\";
-    return folder;
+    return EndWithBackslash(folder);
 }
 
 void CWizardFolderPage::ShowFound()
