@@ -39,6 +39,22 @@ INT_PTR CDialogTS::DoModal()
     return CDialog::DoModal();
 }
 
+void CDialogTS::SetBackground(HBITMAP image, HBITMAP mask)
+{
+    FreeBitmaps();
+    m_bmpBack.DeleteObject(); // What the members held on their own.
+    m_bmpMask.DeleteObject();
+    if (image != nullptr)
+        m_bmpBack.Attach(image);
+    if (image != nullptr && mask != nullptr)
+        m_bmpMask.Attach(mask);
+    m_bHasBitmap = image != nullptr;
+    m_bShaped = image != nullptr && mask != nullptr;
+    m_bMaskBuilt = m_bShaped;
+    if (GetSafeHwnd() != nullptr)
+        Invalidate();
+}
+
 void CDialogTS::FreeBitmaps()
 {
     if (m_bHasBitmap) {

@@ -12,8 +12,6 @@ namespace {
 // The background strip, in pixels, and how its last row goes on.
 const int stripWidth = 72;
 const int stripHeight = 367;
-const COLORREF stripFoot = RGB(37, 48, 72);
-const COLORREF stripFootEdge = RGB(32, 42, 65);
 
 const char titleFace[] = "Arial"; // As the caption line of a bitmap background.
 
@@ -164,6 +162,13 @@ void CGalleryPage::DrawStripFoot(CDC& dc)
     const int height = client.Height() - stripHeight;
     if (height <= 0)
         return;
-    dc.FillSolidRect(0, stripHeight, stripWidth - 1, height, stripFoot);
-    dc.FillSolidRect(stripWidth - 1, stripHeight, 1, height, stripFootEdge);
+    // The strip's lowest row goes on downward.
+    CBitmap strip;
+    strip.LoadBitmap(IDB_STRIP);
+    CDC memory;
+    memory.CreateCompatibleDC(&dc);
+    CBitmap* former = memory.SelectObject(&strip);
+    dc.StretchBlt(0, stripHeight, stripWidth, height, &memory, 0, stripHeight - 1, stripWidth, 1,
+                  SRCCOPY);
+    memory.SelectObject(former);
 }

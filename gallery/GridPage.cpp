@@ -7,7 +7,7 @@ END_MESSAGE_MAP()
 namespace {
 
 const UINT firstRequest[] = {11, 5, 34, 17}; // Off the grid.
-const short largestRequest = 999;
+const UINT largestRequest = 999;
 const int margin = 3; // Pixels around the rectangles.
 
 } // namespace
@@ -38,9 +38,13 @@ void CGridPage::DoDataExchange(CDataExchange* pDX)
     DDX_Control(pDX, IDC_SNAPPED_VIEW, m_snappedView);
 }
 
-void CGridPage::OnRequest(UINT)
+void CGridPage::OnRequest(UINT controlId)
 {
-    if (m_ready)
+    if (!m_ready)
+        return;
+    if (GetDlgItemInt(controlId) > largestRequest)
+        SetDlgItemInt(controlId, largestRequest); // Which comes here again.
+    else
         ShowResult();
 }
 
@@ -62,8 +66,7 @@ void CGridPage::ShowResult()
 {
     int request[4];
     for (int i = 0; i < 4; ++i)
-        request[i] = min(static_cast<int>(GetDlgItemInt(IDC_REQUEST_FIRST + i)),
-                         static_cast<int>(largestRequest));
+        request[i] = static_cast<int>(GetDlgItemInt(IDC_REQUEST_FIRST + i));
     int units[4];
     PixelsToDialogUnits(request[0], request[1], request[2], request[3], &units[0], &units[1],
                         &units[2], &units[3]);

@@ -2,6 +2,8 @@
 
 #include "gallery/Images.h"
 
+#include <shlwapi.h>
+
 BEGIN_MESSAGE_MAP(CLabelsPage, CGalleryPage)
 END_MESSAGE_MAP()
 
@@ -17,6 +19,16 @@ const int panelMargin = 12;
 const int badgeSize = 48;
 const int nameHeight = 16;
 const int largeExtent = 200; // What a keyed picture is cut to.
+
+/// Whether the system knows what to open a .txt file with.
+bool HasTextProgram()
+{
+    char command[MAX_PATH] = "";
+    DWORD length = MAX_PATH;
+    return SUCCEEDED(::AssocQueryString(ASSOCF_NOTRUNCATE, ASSOCSTR_COMMAND, ".txt", "open",
+                                        command, &length)) &&
+           command[0] != '\0';
+}
 
 } // namespace
 
@@ -123,6 +135,9 @@ void CLabelsPage::PrepareLinks()
     m_fileLink.SetLink(TRUE);
     m_fileLink.SetLabelTextColor(palette::accent);
     FitToText(m_fileLink);
+    if (HasImages() && !HasTextProgram())
+        SetLabelText(m_footnote,
+                     "The system has no program for text files, so the second link opens nothing.");
 
     m_targetLink.SetLink(TRUE);
     m_targetLink.SetLabelTextColor(palette::accent);

@@ -63,7 +63,7 @@ CSampleDialog::CSampleDialog(Kind kind)
 
 CSampleDialog::~CSampleDialog()
 {
-    FreeBitmaps(); // They are ours: the dialog only lets go of them.
+    SetBackground(nullptr); // They are ours: the dialog only lets go of them.
     if (m_image != nullptr)
         ::DeleteObject(m_image);
     if (m_mask != nullptr)
@@ -134,8 +134,7 @@ void CSampleDialog::PrepareBitmap()
     if (m_image == nullptr)
         return;
     SetClientSize(SizeOf(m_image));
-    m_bmpBack.Attach(m_image);
-    m_bHasBitmap = TRUE;
+    SetBackground(m_image);
     m_bCaptionText = TRUE;
     m_text.MoveWindow(&textOnBitmap);
     m_btnClose.MoveWindow(&closeOnBitmap);
@@ -151,10 +150,7 @@ void CSampleDialog::PrepareShape()
         return;
     SetClientSize(SizeOf(m_image));
     CutOutShape();
-    m_bmpBack.Attach(m_image);
-    m_bmpMask.Attach(m_mask);
-    m_bHasBitmap = TRUE; // So that both are let go in the end.
-    m_bShaped = TRUE;
+    SetBackground(m_image, m_mask);
     m_text.MoveWindow(&textOnShape);
     m_btnClose.MoveWindow(&closeOnShape);
 }

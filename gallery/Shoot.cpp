@@ -156,8 +156,8 @@ void CAlbum::WriteIndex()
                    "figcaption { margin-top: 6px; color: #54637e; max-width: 640px; }\n"
                    "</style>\n</head>\n<body>\n<h1>Umbra gallery</h1>\n";
     for (const Entry& entry : m_entries) {
-        page += "<figure><img src=\"" + entry.name + ".png\" alt=\"\"><figcaption>" +
-                entry.caption + "</figcaption></figure>\n";
+        page += "<figure><img src=\"" + entry.name + ".png\" alt=\"" + entry.caption +
+                "\"><figcaption>" + entry.caption + "</figcaption></figure>\n";
     }
     page += "</body>\n</html>\n";
 
