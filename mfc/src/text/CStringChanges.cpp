@@ -1,0 +1,233 @@
+// Strings changed in place, and strings joined.
+#include <classes/CString.h>
+
+#include <classes/CException.h>
+
+#include "text/MultibyteText.h"
+#include "text/StringBuffer.h"
+
+#include <mbstring.h>
+
+#include <string>
+
+using afxint::CharacterCode;
+using afxint::Contains;
+using afxint::FindCharacter;
+using afxint::FindText;
+using afxint::ForEachCharacter;
+using afxint::HasDoubleBytes;
+using afxint::IsSpace;
+using afxint::LengthWithoutTail;
+using afxint::longest;
+using afxint::MakeWritable;
+using afxint::SetLengthOf;
+using afxint::ViewOf;
+
+namespace {
+
+/// Changes each character by a function of the C library, or the whole text by one of the system
+/// when all characters are single bytes.
+void ChangeCase(char* text, int length, unsigned (*change)(unsigned),
+                DWORD(WINAPI* changeBytes)(LPSTR, DWORD))
+{
+    if (!HasDoubleBytes()) {
+        changeBytes(text, length);
+        return;
+    }
+    ForEachCharacter({text, static_cast<size_t>(length)}, 0, [&](int position, std::string_view c) {
+        const unsigned changed = change(CharacterCode(c));
+        if (c.size() == 2)
+            text[position++] = static_cast<char>(changed >> 8);
+        text[position] = static_cast<char>(changed);
+        return true;
+    });
+}
+
+CString Concatenate(std::string_view left, std::string_view right)
+{
+    if (left.size() + right.size() > longest)
+        AfxThrowMemoryException();
+    CString result;
+    char* text = result.GetBufferSetLength(static_cast<int>(left.size() + right.size()));
+    left.copy(text, left.size());
+    right.copy(text + left.size(), right.size());
+    return result;
+}
+
+} // namespace
+
+CString& CString::MakeUpper()
+{
+    MakeWritable(m_pszData, GetLength());
+    ChangeCase(m_pszData, GetLength(), _mbctoupper, ::CharUpperBuff);
+    return *this;
+}
+
+CString& CString::MakeLower()
+{
+    MakeWritable(m_pszData, GetLength());
+    ChangeCase(m_pszData, GetLength(), _mbctolower, ::CharLowerBuff);
+    return *this;
+}
+
+CString& CString::MakeReverse()
+{
+    const CString forward(*this);
+    MakeWritable(m_pszData, GetLength());
+    char* to = m_pszData + GetLength();
+    ForEachCharacter(ViewOf(forward), 0, [&](int, std::string_view character) {
+        to -= character.size();
+        character.copy(to, character.size());
+        return true;
+    });
+    return *this;
+}
+
+CString& CString::Trim()
+{
+    return TrimRight().TrimLeft();
+}
+
+CString& CString::Trim(XCHAR chTarget)
+{
+    return TrimRight(chTarget).TrimLeft(chTarget);
+}
+
+CString& CString::Trim(PCXSTR pszTargets)
+{
+    return TrimRight(pszTargets).TrimLeft(pszTargets);
+}
+
+CString& CString::TrimLeft()
+{
+    Delete(0, FindCharacter(ViewOf(*this), 0, [](std::string_view c) { return !IsSpace(c); }));
+    return *this;
+}
+
+CString& CString::TrimLeft(XCHAR chTarget)
+{
+    const char set[] = {chTarget, '\0'};
+    return TrimLeft(set);
+}
+
+CString& CString::TrimLeft(PCXSTR pszTargets)
+{
+    const std::string_view set = ViewOf(pszTargets);
+    Delete(0,
+           FindCharacter(ViewOf(*this), 0, [=](std::string_view c) { return !Contains(set, c); }));
+    return *this;
+}
+
+CString& CString::TrimRight()
+{
+    Truncate(LengthWithoutTail(ViewOf(*this), IsSpace));
+    return *this;
+}
+
+CString& CString::TrimRight(XCHAR chTarget)
+{
+    const char set[] = {chTarget, '\0'};
+    return TrimRight(set);
+}
+
+CString& CString::TrimRight(PCXSTR pszTargets)
+{
+    const std::string_view set = ViewOf(pszTargets);
+    Truncate(
+        LengthWithoutTail(ViewOf(*this), [=](std::string_view c) { return Contains(set, c); }));
+    return *this;
+}
+
+int CString::Replace(XCHAR chOld, XCHAR chNew)
+{
+    if (chOld == chNew)
+        return 0;
+    int replaced = 0;
+    for (int at = Find(chOld); at >= 0; at = Find(chOld, at + 1)) {
+        SetAt(at, chNew);
+        ++replaced;
+    }
+    return replaced;
+}
+
+int CString::Replace(PCXSTR pszOld, PCXSTR pszNew)
+{
+    const std::string_view text = ViewOf(*this);
+    const std::string_view wanted = ViewOf(pszOld);
+    if (wanted.empty())
+        return 0;
+    std::string result;
+    int replaced = 0;
+    int copied = 0;
+    for (int at = FindText(text, wanted, 0); at >= 0; at = FindText(text, wanted, copied)) {
+        result.append(text, copied, at - copied).append(ViewOf(pszNew));
+        copied = at + static_cast<int>(wanted.size());
+        ++replaced;
+    }
+    if (replaced == 0)
+        return 0;
+    result.append(text, copied);
+    if (result.size() > longest)
+        AfxThrowMemoryException();
+    SetString(result.data(), static_cast<int>(result.size()));
+    return replaced;
+}
+
+int CString::Remove(XCHAR chRemove)
+{
+    std::string kept;
+    ForEachCharacter(ViewOf(*this), 0, [&](int, std::string_view character) {
+        if (character != std::string_view(&chRemove, 1))
+            kept += character;
+        return true;
+    });
+    const int removed = GetLength() - static_cast<int>(kept.size());
+    if (removed > 0)
+        SetString(kept.data(), static_cast<int>(kept.size()));
+    return removed;
+}
+
+int CString::Insert(int iIndex, XCHAR ch)
+{
+    const char text[] = {ch, '\0'};
+    return Insert(iIndex, text);
+}
+
+int CString::Insert(int iIndex, PCXSTR psz)
+{
+    const std::string_view inserted = ViewOf(psz);
+    if (inserted.empty())
+        return GetLength();
+    iIndex = min(max(iIndex, 0), GetLength());
+    const std::string_view text = ViewOf(*this);
+    const CString head = Concatenate(text.substr(0, iIndex), inserted);
+    return (*this = Concatenate(ViewOf(head), text.substr(iIndex))).GetLength();
+}
+
+int CString::Delete(int iIndex, int nCount)
+{
+    const int length = GetLength();
+    iIndex = max(iIndex, 0);
+    nCount = min(max(nCount, 0), length - iIndex);
+    if (nCount <= 0)
+        return length;
+    MakeWritable(m_pszData, length);
+    memmove(m_pszData + iIndex, m_pszData + iIndex + nCount, length - iIndex - nCount);
+    SetLengthOf(m_pszData, length - nCount);
+    return length - nCount;
+}
+
+CString operator+(const CString& str1, const CString& str2)
+{
+    return Concatenate(ViewOf(str1), ViewOf(str2));
+}
+
+CString operator+(const CString& str1, LPCSTR psz2)
+{
+    return Concatenate(ViewOf(str1), ViewOf(psz2));
+}
+
+CString operator+(LPCSTR psz1, const CString& str2)
+{
+    return Concatenate(ViewOf(psz1), ViewOf(str2));
+}

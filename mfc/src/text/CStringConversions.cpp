@@ -1,0 +1,109 @@
+// Strings out of wide characters, single ones and variants, and the way back.
+#include <classes/CString.h>
+
+#include <classes/CException.h>
+
+#include "text/Narrowing.h"
+#include "text/StringBuffer.h"
+
+#include <utility>
+
+using afxint::MakeWritable;
+using afxint::Narrowed;
+
+std::string afxint::Narrowed(std::wstring_view text)
+{
+    const int length = static_cast<int>(text.size());
+    const int needed =
+        ::WideCharToMultiByte(CP_ACP, 0, text.data(), length, nullptr, 0, nullptr, nullptr);
+    std::string narrow(needed, '\0');
+    ::WideCharToMultiByte(CP_ACP, 0, text.data(), length, narrow.data(), needed, nullptr, nullptr);
+    return narrow;
+}
+
+CString::CString(PCYSTR pch, int nLength) : CString()
+{
+    if (nLength < 0 || (pch == nullptr && nLength > 0))
+        AfxThrowInvalidArgException();
+    const std::string narrow = Narrowed({pch, static_cast<size_t>(nLength)});
+    SetString(narrow.data(), static_cast<int>(narrow.size()));
+}
+
+BSTR CString::AllocSysString() const
+{
+    const int needed = ::MultiByteToWideChar(CP_ACP, 0, m_pszData, GetLength(), nullptr, 0);
+    BSTR result = ::SysAllocStringLen(nullptr, needed);
+    if (result == nullptr)
+        AfxThrowMemoryException();
+    ::MultiByteToWideChar(CP_ACP, 0, m_pszData, GetLength(), result, needed);
+    return result;
+}
+
+BSTR CString::SetSysString(BSTR* pbstr) const
+{
+    if (pbstr == nullptr)
+        AfxThrowInvalidArgException();
+    BSTR result = AllocSysString();
+    ::SysFreeString(std::exchange(*pbstr, result));
+    return result;
+}
+
+void CString::AnsiToOem()
+{
+    MakeWritable(m_pszData, GetLength());
+    ::CharToOemBuff(m_pszData, m_pszData, GetLength());
+}
+
+void CString::OemToAnsi()
+{
+    MakeWritable(m_pszData, GetLength());
+    ::OemToCharBuff(m_pszData, m_pszData, GetLength());
+}
+
+CString& CString::Assign(PCYSTR text)
+{
+    if (text == nullptr) {
+        Empty();
+    } else if (IS_INTRESOURCE(text)) {
+        LoadString(LOWORD(reinterpret_cast<UINT_PTR>(text)));
+    } else {
+        const std::string narrow = Narrowed(text);
+        SetString(narrow.data(), static_cast<int>(narrow.size()));
+    }
+    return *this;
+}
+
+CString& CString::Assign(const unsigned char* text)
+{
+    SetString(reinterpret_cast<LPCSTR>(text));
+    return *this;
+}
+
+CString& CString::Assign(char ch, int count)
+{
+    count = max(count, 0);
+    memset(GetBufferSetLength(count), ch, count);
+    return *this;
+}
+
+CString& CString::Assign(wchar_t ch, int count)
+{
+    const std::string narrow = Narrowed(std::wstring(max(count, 0), ch));
+    SetString(narrow.data(), static_cast<int>(narrow.size()));
+    return *this;
+}
+
+CString& CString::Assign(const VARIANT& variant)
+{
+    if (variant.vt == VT_EMPTY || variant.vt == VT_NULL) {
+        Empty();
+        return *this;
+    }
+    VARIANT text;
+    ::VariantInit(&text);
+    if (FAILED(::VariantChangeType(&text, const_cast<VARIANT*>(&variant), 0, VT_BSTR)))
+        AfxThrowInvalidArgException();
+    const CString converted(text.bstrVal, static_cast<int>(::SysStringLen(text.bstrVal)));
+    ::VariantClear(&text);
+    return *this = converted;
+}

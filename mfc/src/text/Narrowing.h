@@ -1,0 +1,12 @@
+// Wide text in the code page of the system.
+#pragma once
+
+#include <string>
+#include <string_view>
+
+namespace afxint {
+
+/// The text in the system's code page; what that lacks becomes the system's substitute.
+std::string Narrowed(std::wstring_view text);
+
+} // namespace afxint
