@@ -8,6 +8,8 @@ using afxint::Ask;
 
 namespace {
 
+constexpr afxint::CommonControl kind = {ANIMATE_CLASS, ICC_ANIMATE_CLASS};
+
 constexpr UINT isPlaying = WM_USER + 104; ///< Came with a later Windows; an older one answers 0.
 
 } // namespace
@@ -18,15 +20,13 @@ CAnimateCtrl::CAnimateCtrl() = default;
 
 BOOL CAnimateCtrl::Create(DWORD dwStyle, const RECT& rect, CWnd* pParentWnd, UINT nID)
 {
-    afxint::NeedCommonControls(ICC_ANIMATE_CLASS);
-    return CWnd::Create(ANIMATE_CLASS, NULL, dwStyle, rect, pParentWnd, nID);
+    return afxint::CreateControl(*this, kind, dwStyle, rect, pParentWnd, nID);
 }
 
 BOOL CAnimateCtrl::CreateEx(DWORD dwExStyle, DWORD dwStyle, const RECT& rect, CWnd* pParentWnd,
                             UINT nID)
 {
-    afxint::NeedCommonControls(ICC_ANIMATE_CLASS);
-    return CWnd::CreateEx(dwExStyle, ANIMATE_CLASS, NULL, dwStyle, rect, pParentWnd, nID);
+    return afxint::CreateControlEx(*this, kind, dwExStyle, dwStyle, rect, pParentWnd, nID);
 }
 
 BOOL CAnimateCtrl::Open(LPCTSTR lpszFileName)

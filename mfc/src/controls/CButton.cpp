@@ -3,6 +3,7 @@
 #include "controls/ControlMessages.h"
 
 using afxint::Ask;
+using afxint::AskFor;
 
 IMPLEMENT_DYNAMIC(CButton, CWnd)
 
@@ -47,32 +48,32 @@ void CButton::SetButtonStyle(UINT nStyle, BOOL bRedraw)
 
 HICON CButton::SetIcon(HICON hIcon)
 {
-    return (HICON)Ask(m_hWnd, BM_SETIMAGE, IMAGE_ICON, hIcon);
+    return AskFor<HICON>(m_hWnd, BM_SETIMAGE, IMAGE_ICON, hIcon);
 }
 
 HICON CButton::GetIcon() const
 {
-    return (HICON)Ask(m_hWnd, BM_GETIMAGE, IMAGE_ICON);
+    return AskFor<HICON>(m_hWnd, BM_GETIMAGE, IMAGE_ICON);
 }
 
 HBITMAP CButton::SetBitmap(HBITMAP hBitmap)
 {
-    return (HBITMAP)Ask(m_hWnd, BM_SETIMAGE, IMAGE_BITMAP, hBitmap);
+    return AskFor<HBITMAP>(m_hWnd, BM_SETIMAGE, IMAGE_BITMAP, hBitmap);
 }
 
 HBITMAP CButton::GetBitmap() const
 {
-    return (HBITMAP)Ask(m_hWnd, BM_GETIMAGE, IMAGE_BITMAP);
+    return AskFor<HBITMAP>(m_hWnd, BM_GETIMAGE, IMAGE_BITMAP);
 }
 
 HCURSOR CButton::SetCursor(HCURSOR hCursor)
 {
-    return (HCURSOR)Ask(m_hWnd, BM_SETIMAGE, IMAGE_CURSOR, hCursor);
+    return AskFor<HCURSOR>(m_hWnd, BM_SETIMAGE, IMAGE_CURSOR, hCursor);
 }
 
 HCURSOR CButton::GetCursor()
 {
-    return (HCURSOR)Ask(m_hWnd, BM_GETIMAGE, IMAGE_CURSOR);
+    return AskFor<HCURSOR>(m_hWnd, BM_GETIMAGE, IMAGE_CURSOR);
 }
 
 BOOL CButton::GetIdealSize(LPSIZE psize)
@@ -108,8 +109,5 @@ BOOL CButton::OnChildNotify(UINT message, WPARAM wParam, LPARAM lParam, LRESULT*
 {
     if (CWnd::OnChildNotify(message, wParam, lParam, pLResult))
         return TRUE;
-    if (message != WM_DRAWITEM)
-        return FALSE;
-    DrawItem((LPDRAWITEMSTRUCT)lParam);
-    return TRUE;
+    return afxint::DrawOnRequest(*this, message, lParam);
 }

@@ -106,12 +106,12 @@ int CComboBox::SetItemData(int nIndex, DWORD_PTR dwItemData)
 
 void* CComboBox::GetItemDataPtr(int nIndex) const
 {
-    return (void*)GetItemData(nIndex);
+    return reinterpret_cast<void*>(GetItemData(nIndex));
 }
 
 int CComboBox::SetItemDataPtr(int nIndex, void* pData)
 {
-    return SetItemData(nIndex, (DWORD_PTR)pData);
+    return SetItemData(nIndex, reinterpret_cast<DWORD_PTR>(pData));
 }
 
 int CComboBox::GetLBText(int nIndex, LPTSTR lpszText) const
@@ -264,19 +264,19 @@ BOOL CComboBox::OnChildNotify(UINT message, WPARAM wParam, LPARAM lParam, LRESUL
 
     switch (message) {
     case WM_DRAWITEM:
-        DrawItem((LPDRAWITEMSTRUCT)lParam);
+        DrawItem(reinterpret_cast<LPDRAWITEMSTRUCT>(lParam));
         return TRUE;
     case WM_MEASUREITEM:
-        MeasureItem((LPMEASUREITEMSTRUCT)lParam);
+        MeasureItem(reinterpret_cast<LPMEASUREITEMSTRUCT>(lParam));
         return TRUE;
     case WM_COMPAREITEM: {
-        const int order = CompareItem((LPCOMPAREITEMSTRUCT)lParam);
-        if (pLResult != nullptr)
+        const int order = CompareItem(reinterpret_cast<LPCOMPAREITEMSTRUCT>(lParam));
+        if (pLResult != NULL)
             *pLResult = order;
         return TRUE;
     }
     case WM_DELETEITEM:
-        DeleteItem((LPDELETEITEMSTRUCT)lParam);
+        DeleteItem(reinterpret_cast<LPDELETEITEMSTRUCT>(lParam));
         return TRUE;
     default:
         return FALSE;

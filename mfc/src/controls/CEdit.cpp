@@ -3,6 +3,7 @@
 #include "controls/ControlMessages.h"
 
 using afxint::Ask;
+using afxint::AskFor;
 
 namespace {
 
@@ -50,12 +51,12 @@ BOOL CEdit::SetReadOnly(BOOL bReadOnly)
 
 TCHAR CEdit::GetPasswordChar() const
 {
-    return (TCHAR)Ask(m_hWnd, EM_GETPASSWORDCHAR);
+    return static_cast<TCHAR>(Ask(m_hWnd, EM_GETPASSWORDCHAR));
 }
 
 void CEdit::SetPasswordChar(TCHAR ch)
 {
-    Ask(m_hWnd, EM_SETPASSWORDCHAR, (std::make_unsigned_t<TCHAR>)ch);
+    Ask(m_hWnd, EM_SETPASSWORDCHAR, static_cast<std::make_unsigned_t<TCHAR>>(ch));
 }
 
 void CEdit::GetRect(LPRECT lpRect) const
@@ -97,7 +98,7 @@ void CEdit::SetSel(int nStartChar, int nEndChar, BOOL bNoScroll)
 
 HLOCAL CEdit::GetHandle() const
 {
-    return (HLOCAL)Ask(m_hWnd, EM_GETHANDLE);
+    return AskFor<HLOCAL>(m_hWnd, EM_GETHANDLE);
 }
 
 void CEdit::SetHandle(HLOCAL hBuffer)
@@ -143,7 +144,7 @@ int CEdit::GetLine(int nIndex, LPTSTR lpszBuffer) const
 
 int CEdit::GetLine(int nIndex, LPTSTR lpszBuffer, int nMaxLength) const
 {
-    const WORD room = (WORD)nMaxLength;
+    const WORD room = static_cast<WORD>(nMaxLength);
     memcpy(lpszBuffer, &room, sizeof(room));
     return GetLine(nIndex, lpszBuffer);
 }

@@ -3,6 +3,14 @@
 #include "controls/ControlMessages.h"
 
 using afxint::Ask;
+using afxint::AskFor;
+using afxint::AskForImageList;
+
+namespace {
+
+constexpr afxint::CommonControl kind = {WC_HEADER, ICC_LISTVIEW_CLASSES};
+
+} // namespace
 
 IMPLEMENT_DYNAMIC(CHeaderCtrl, CWnd)
 
@@ -10,26 +18,23 @@ CHeaderCtrl::CHeaderCtrl() = default;
 
 BOOL CHeaderCtrl::Create(DWORD dwStyle, const RECT& rect, CWnd* pParentWnd, UINT nID)
 {
-    afxint::NeedCommonControls(ICC_LISTVIEW_CLASSES);
-    return CWnd::Create(WC_HEADER, NULL, dwStyle, rect, pParentWnd, nID);
+    return afxint::CreateControl(*this, kind, dwStyle, rect, pParentWnd, nID);
 }
 
 BOOL CHeaderCtrl::CreateEx(DWORD dwExStyle, DWORD dwStyle, const RECT& rect, CWnd* pParentWnd,
                            UINT nID)
 {
-    afxint::NeedCommonControls(ICC_LISTVIEW_CLASSES);
-    return CWnd::CreateEx(dwExStyle, WC_HEADER, NULL, dwStyle, rect, pParentWnd, nID);
+    return afxint::CreateControlEx(*this, kind, dwExStyle, dwStyle, rect, pParentWnd, nID);
 }
 
 CImageList* CHeaderCtrl::GetImageList() const
 {
-    return CImageList::FromHandle((HIMAGELIST)Ask(m_hWnd, HDM_GETIMAGELIST));
+    return AskForImageList(m_hWnd, HDM_GETIMAGELIST);
 }
 
 CImageList* CHeaderCtrl::SetImageList(CImageList* pImageList)
 {
-    return CImageList::FromHandle(
-        (HIMAGELIST)Ask(m_hWnd, HDM_SETIMAGELIST, 0, pImageList->GetSafeHandle()));
+    return AskForImageList(m_hWnd, HDM_SETIMAGELIST, 0, pImageList->GetSafeHandle());
 }
 
 int CHeaderCtrl::GetItemCount() const
@@ -99,7 +104,7 @@ int CHeaderCtrl::HitTest(LPHDHITTESTINFO phdhti)
 
 CImageList* CHeaderCtrl::CreateDragImage(int nIndex)
 {
-    return afxint::OwnedImageList((HIMAGELIST)Ask(m_hWnd, HDM_CREATEDRAGIMAGE, nIndex));
+    return afxint::OwnedImageList(AskFor<HIMAGELIST>(m_hWnd, HDM_CREATEDRAGIMAGE, nIndex));
 }
 
 int CHeaderCtrl::SetHotDivider(CPoint pt)
@@ -140,8 +145,5 @@ BOOL CHeaderCtrl::OnChildNotify(UINT message, WPARAM wParam, LPARAM lParam, LRES
 {
     if (CWnd::OnChildNotify(message, wParam, lParam, pLResult))
         return TRUE;
-    if (message != WM_DRAWITEM)
-        return FALSE;
-    DrawItem((LPDRAWITEMSTRUCT)lParam);
-    return TRUE;
+    return afxint::DrawOnRequest(*this, message, lParam);
 }

@@ -137,12 +137,12 @@ int CListBox::SetItemData(int nIndex, DWORD_PTR dwItemData)
 
 void* CListBox::GetItemDataPtr(int nIndex) const
 {
-    return (void*)GetItemData(nIndex);
+    return reinterpret_cast<void*>(GetItemData(nIndex));
 }
 
 int CListBox::SetItemDataPtr(int nIndex, void* pData)
 {
-    return SetItemData(nIndex, (DWORD_PTR)pData);
+    return SetItemData(nIndex, reinterpret_cast<DWORD_PTR>(pData));
 }
 
 int CListBox::GetItemRect(int nIndex, LPRECT lpRect) const
@@ -274,19 +274,19 @@ BOOL CListBox::OnChildNotify(UINT message, WPARAM wParam, LPARAM lParam, LRESULT
         return TRUE;
 
     LRESULT unused = 0;
-    LRESULT& result = pLResult == nullptr ? unused : *pLResult;
+    LRESULT& result = pLResult == NULL ? unused : *pLResult;
     switch (message) {
     case WM_DRAWITEM:
-        DrawItem((LPDRAWITEMSTRUCT)lParam);
+        DrawItem(reinterpret_cast<LPDRAWITEMSTRUCT>(lParam));
         break;
     case WM_MEASUREITEM:
-        MeasureItem((LPMEASUREITEMSTRUCT)lParam);
+        MeasureItem(reinterpret_cast<LPMEASUREITEMSTRUCT>(lParam));
         break;
     case WM_COMPAREITEM:
-        result = CompareItem((LPCOMPAREITEMSTRUCT)lParam);
+        result = CompareItem(reinterpret_cast<LPCOMPAREITEMSTRUCT>(lParam));
         break;
     case WM_DELETEITEM:
-        DeleteItem((LPDELETEITEMSTRUCT)lParam);
+        DeleteItem(reinterpret_cast<LPDELETEITEMSTRUCT>(lParam));
         break;
     case WM_VKEYTOITEM:
         result = VKeyToItem(LOWORD(wParam), HIWORD(wParam));

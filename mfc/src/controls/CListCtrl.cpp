@@ -6,6 +6,15 @@
 #include "controls/ControlMessages.h"
 
 using afxint::Ask;
+using afxint::AskFor;
+using afxint::AskForImageList;
+using afxint::AskForWindow;
+
+namespace {
+
+constexpr afxint::CommonControl kind = {WC_LISTVIEW, ICC_LISTVIEW_CLASSES};
+
+} // namespace
 
 IMPLEMENT_DYNAMIC(CListCtrl, CWnd)
 
@@ -13,15 +22,13 @@ CListCtrl::CListCtrl() = default;
 
 BOOL CListCtrl::Create(DWORD dwStyle, const RECT& rect, CWnd* pParentWnd, UINT nID)
 {
-    afxint::NeedCommonControls(ICC_LISTVIEW_CLASSES);
-    return CWnd::Create(WC_LISTVIEW, NULL, dwStyle, rect, pParentWnd, nID);
+    return afxint::CreateControl(*this, kind, dwStyle, rect, pParentWnd, nID);
 }
 
 BOOL CListCtrl::CreateEx(DWORD dwExStyle, DWORD dwStyle, const RECT& rect, CWnd* pParentWnd,
                          UINT nID)
 {
-    afxint::NeedCommonControls(ICC_LISTVIEW_CLASSES);
-    return CWnd::CreateEx(dwExStyle, WC_LISTVIEW, NULL, dwStyle, rect, pParentWnd, nID);
+    return afxint::CreateControlEx(*this, kind, dwExStyle, dwStyle, rect, pParentWnd, nID);
 }
 
 COLORREF CListCtrl::GetBkColor() const
@@ -66,13 +73,12 @@ COLORREF CListCtrl::SetOutlineColor(COLORREF color)
 
 CImageList* CListCtrl::GetImageList(int nImageList) const
 {
-    return CImageList::FromHandle((HIMAGELIST)Ask(m_hWnd, LVM_GETIMAGELIST, nImageList));
+    return AskForImageList(m_hWnd, LVM_GETIMAGELIST, nImageList);
 }
 
 CImageList* CListCtrl::SetImageList(CImageList* pImageList, int nImageListType)
 {
-    return CImageList::FromHandle(
-        (HIMAGELIST)Ask(m_hWnd, LVM_SETIMAGELIST, nImageListType, pImageList->GetSafeHandle()));
+    return AskForImageList(m_hWnd, LVM_SETIMAGELIST, nImageListType, pImageList->GetSafeHandle());
 }
 
 BOOL CListCtrl::GetItemRect(int nItem, LPRECT lpRect, UINT nCode) const
@@ -166,12 +172,12 @@ DWORD CListCtrl::SetExtendedStyle(DWORD dwNewStyle)
 
 HCURSOR CListCtrl::GetHotCursor()
 {
-    return (HCURSOR)Ask(m_hWnd, LVM_GETHOTCURSOR);
+    return AskFor<HCURSOR>(m_hWnd, LVM_GETHOTCURSOR);
 }
 
 HCURSOR CListCtrl::SetHotCursor(HCURSOR hc)
 {
-    return (HCURSOR)Ask(m_hWnd, LVM_SETHOTCURSOR, 0, hc);
+    return AskFor<HCURSOR>(m_hWnd, LVM_SETHOTCURSOR, 0, hc);
 }
 
 DWORD CListCtrl::GetHoverTime() const
@@ -233,13 +239,12 @@ BOOL CListCtrl::SetBkImage(LPTSTR pszUrl, BOOL fTile, int xOffsetPercent, int yO
 
 CToolTipCtrl* CListCtrl::GetToolTips() const
 {
-    return (CToolTipCtrl*)CWnd::FromHandle((HWND)Ask(m_hWnd, LVM_GETTOOLTIPS));
+    return AskForWindow<CToolTipCtrl>(m_hWnd, LVM_GETTOOLTIPS);
 }
 
 CToolTipCtrl* CListCtrl::SetToolTips(CToolTipCtrl* pWndTip)
 {
-    return (CToolTipCtrl*)CWnd::FromHandle(
-        (HWND)Ask(m_hWnd, LVM_SETTOOLTIPS, pWndTip->GetSafeHwnd()));
+    return AskForWindow<CToolTipCtrl>(m_hWnd, LVM_SETTOOLTIPS, pWndTip->GetSafeHwnd());
 }
 
 BOOL CListCtrl::SetInfoTip(PLVSETINFOTIP plvInfoTip)
@@ -289,7 +294,7 @@ BOOL CListCtrl::Arrange(UINT nCode)
 
 CImageList* CListCtrl::CreateDragImage(int nItem, LPPOINT lpPoint)
 {
-    return afxint::OwnedImageList((HIMAGELIST)Ask(m_hWnd, LVM_CREATEDRAGIMAGE, nItem, lpPoint));
+    return afxint::OwnedImageList(AskFor<HIMAGELIST>(m_hWnd, LVM_CREATEDRAGIMAGE, nItem, lpPoint));
 }
 
 CSize CListCtrl::ApproximateViewRect(CSize sz, int iCount) const
@@ -306,8 +311,5 @@ BOOL CListCtrl::OnChildNotify(UINT message, WPARAM wParam, LPARAM lParam, LRESUL
 {
     if (CWnd::OnChildNotify(message, wParam, lParam, pLResult))
         return TRUE;
-    if (message != WM_DRAWITEM)
-        return FALSE;
-    DrawItem((LPDRAWITEMSTRUCT)lParam);
-    return TRUE;
+    return afxint::DrawOnRequest(*this, message, lParam);
 }

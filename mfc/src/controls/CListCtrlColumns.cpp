@@ -6,6 +6,7 @@
 #include "controls/ControlMessages.h"
 
 using afxint::Ask;
+using afxint::AskForWindow;
 
 BOOL CListCtrl::GetColumn(int nCol, LVCOLUMN* pColumn) const
 {
@@ -51,7 +52,7 @@ LRESULT CListCtrl::SetSelectedColumn(int iCol)
 
 CHeaderCtrl* CListCtrl::GetHeaderCtrl()
 {
-    return (CHeaderCtrl*)CWnd::FromHandle((HWND)Ask(m_hWnd, LVM_GETHEADER));
+    return AskForWindow<CHeaderCtrl>(m_hWnd, LVM_GETHEADER);
 }
 
 int CListCtrl::InsertColumn(int nCol, const LVCOLUMN* pColumn)

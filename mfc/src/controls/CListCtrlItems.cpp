@@ -6,6 +6,17 @@
 #include "controls/ControlMessages.h"
 
 using afxint::Ask;
+using afxint::AskForWindow;
+
+namespace {
+
+/// A position is the item's number counted from one, so that NULL is none.
+POSITION PositionOf(int item)
+{
+    return reinterpret_cast<POSITION>(static_cast<INT_PTR>(item) + 1);
+}
+
+} // namespace
 
 int CListCtrl::GetItemCount() const
 {
@@ -61,20 +72,19 @@ int CListCtrl::GetNextItem(int nItem, int nFlags) const
 
 POSITION CListCtrl::GetFirstSelectedItemPosition() const
 {
-    // A position is the item's number counted from one, so that NULL is none.
-    return (POSITION)(INT_PTR)(GetNextItem(-1, LVNI_SELECTED) + 1);
+    return PositionOf(GetNextItem(-1, LVNI_SELECTED));
 }
 
 int CListCtrl::GetNextSelectedItem(POSITION& pos) const
 {
-    const int item = (int)(INT_PTR)pos - 1;
-    pos = (POSITION)(INT_PTR)(GetNextItem(item, LVNI_SELECTED) + 1);
+    const int item = static_cast<int>(reinterpret_cast<INT_PTR>(pos)) - 1;
+    pos = PositionOf(GetNextItem(item, LVNI_SELECTED));
     return item;
 }
 
 CEdit* CListCtrl::GetEditControl() const
 {
-    return (CEdit*)CWnd::FromHandle((HWND)Ask(m_hWnd, LVM_GETEDITCONTROL));
+    return AskForWindow<CEdit>(m_hWnd, LVM_GETEDITCONTROL);
 }
 
 BOOL CListCtrl::GetCheck(int nItem) const
@@ -241,7 +251,7 @@ int CListCtrl::FindItem(LVFINDINFO* pFindInfo, int nStart) const
 
 CEdit* CListCtrl::EditLabel(int nItem)
 {
-    return (CEdit*)CWnd::FromHandle((HWND)Ask(m_hWnd, LVM_EDITLABEL, nItem));
+    return AskForWindow<CEdit>(m_hWnd, LVM_EDITLABEL, nItem);
 }
 
 void CListCtrl::CancelEditLabel()

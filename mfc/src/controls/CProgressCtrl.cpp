@@ -6,6 +6,8 @@ using afxint::Ask;
 
 namespace {
 
+constexpr afxint::CommonControl kind = {PROGRESS_CLASS, ICC_PROGRESS_CLASS};
+
 // Messages that came with a later Windows; an older one answers 0.
 constexpr UINT getStep = WM_USER + 13;
 constexpr UINT getBkColor = WM_USER + 14;
@@ -21,15 +23,13 @@ CProgressCtrl::CProgressCtrl() = default;
 
 BOOL CProgressCtrl::Create(DWORD dwStyle, const RECT& rect, CWnd* pParentWnd, UINT nID)
 {
-    afxint::NeedCommonControls(ICC_PROGRESS_CLASS);
-    return CWnd::Create(PROGRESS_CLASS, NULL, dwStyle, rect, pParentWnd, nID);
+    return afxint::CreateControl(*this, kind, dwStyle, rect, pParentWnd, nID);
 }
 
 BOOL CProgressCtrl::CreateEx(DWORD dwExStyle, DWORD dwStyle, const RECT& rect, CWnd* pParentWnd,
                              UINT nID)
 {
-    afxint::NeedCommonControls(ICC_PROGRESS_CLASS);
-    return CWnd::CreateEx(dwExStyle, PROGRESS_CLASS, NULL, dwStyle, rect, pParentWnd, nID);
+    return afxint::CreateControlEx(*this, kind, dwExStyle, dwStyle, rect, pParentWnd, nID);
 }
 
 void CProgressCtrl::SetRange(short nLower, short nUpper)

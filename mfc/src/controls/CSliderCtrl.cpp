@@ -5,6 +5,14 @@
 #include "controls/ControlMessages.h"
 
 using afxint::Ask;
+using afxint::AskFor;
+using afxint::AskForWindow;
+
+namespace {
+
+constexpr afxint::CommonControl kind = {TRACKBAR_CLASS, ICC_BAR_CLASSES};
+
+} // namespace
 
 IMPLEMENT_DYNAMIC(CSliderCtrl, CWnd)
 
@@ -12,15 +20,13 @@ CSliderCtrl::CSliderCtrl() = default;
 
 BOOL CSliderCtrl::Create(DWORD dwStyle, const RECT& rect, CWnd* pParentWnd, UINT nID)
 {
-    afxint::NeedCommonControls(ICC_BAR_CLASSES);
-    return CWnd::Create(TRACKBAR_CLASS, NULL, dwStyle, rect, pParentWnd, nID);
+    return afxint::CreateControl(*this, kind, dwStyle, rect, pParentWnd, nID);
 }
 
 BOOL CSliderCtrl::CreateEx(DWORD dwExStyle, DWORD dwStyle, const RECT& rect, CWnd* pParentWnd,
                            UINT nID)
 {
-    afxint::NeedCommonControls(ICC_BAR_CLASSES);
-    return CWnd::CreateEx(dwExStyle, TRACKBAR_CLASS, NULL, dwStyle, rect, pParentWnd, nID);
+    return afxint::CreateControlEx(*this, kind, dwExStyle, dwStyle, rect, pParentWnd, nID);
 }
 
 int CSliderCtrl::GetLineSize() const
@@ -116,7 +122,7 @@ UINT CSliderCtrl::GetNumTics() const
 
 DWORD* CSliderCtrl::GetTicArray() const
 {
-    return (DWORD*)Ask(m_hWnd, TBM_GETPTICS);
+    return AskFor<DWORD*>(m_hWnd, TBM_GETPTICS);
 }
 
 int CSliderCtrl::GetTic(int nTic) const
@@ -141,17 +147,17 @@ void CSliderCtrl::SetTicFreq(int nFreq)
 
 CWnd* CSliderCtrl::GetBuddy(BOOL fLocation) const
 {
-    return CWnd::FromHandle((HWND)Ask(m_hWnd, TBM_GETBUDDY, fLocation));
+    return AskForWindow<CWnd>(m_hWnd, TBM_GETBUDDY, fLocation);
 }
 
 CWnd* CSliderCtrl::SetBuddy(CWnd* pWndBuddy, BOOL fLocation)
 {
-    return CWnd::FromHandle((HWND)Ask(m_hWnd, TBM_SETBUDDY, fLocation, pWndBuddy->GetSafeHwnd()));
+    return AskForWindow<CWnd>(m_hWnd, TBM_SETBUDDY, fLocation, pWndBuddy->GetSafeHwnd());
 }
 
 CToolTipCtrl* CSliderCtrl::GetToolTips() const
 {
-    return (CToolTipCtrl*)CWnd::FromHandle((HWND)Ask(m_hWnd, TBM_GETTOOLTIPS));
+    return AskForWindow<CToolTipCtrl>(m_hWnd, TBM_GETTOOLTIPS);
 }
 
 void CSliderCtrl::SetToolTips(CToolTipCtrl* pWndTip)

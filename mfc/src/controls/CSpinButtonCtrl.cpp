@@ -3,6 +3,13 @@
 #include "controls/ControlMessages.h"
 
 using afxint::Ask;
+using afxint::AskForWindow;
+
+namespace {
+
+constexpr afxint::CommonControl kind = {UPDOWN_CLASS, ICC_UPDOWN_CLASS};
+
+} // namespace
 
 IMPLEMENT_DYNAMIC(CSpinButtonCtrl, CWnd)
 
@@ -10,15 +17,13 @@ CSpinButtonCtrl::CSpinButtonCtrl() = default;
 
 BOOL CSpinButtonCtrl::Create(DWORD dwStyle, const RECT& rect, CWnd* pParentWnd, UINT nID)
 {
-    afxint::NeedCommonControls(ICC_UPDOWN_CLASS);
-    return CWnd::Create(UPDOWN_CLASS, NULL, dwStyle, rect, pParentWnd, nID);
+    return afxint::CreateControl(*this, kind, dwStyle, rect, pParentWnd, nID);
 }
 
 BOOL CSpinButtonCtrl::CreateEx(DWORD dwExStyle, DWORD dwStyle, const RECT& rect, CWnd* pParentWnd,
                                UINT nID)
 {
-    afxint::NeedCommonControls(ICC_UPDOWN_CLASS);
-    return CWnd::CreateEx(dwExStyle, UPDOWN_CLASS, NULL, dwStyle, rect, pParentWnd, nID);
+    return afxint::CreateControlEx(*this, kind, dwExStyle, dwStyle, rect, pParentWnd, nID);
 }
 
 BOOL CSpinButtonCtrl::SetAccel(int nAccel, UDACCEL* pAccel)
@@ -43,12 +48,12 @@ UINT CSpinButtonCtrl::GetBase() const
 
 CWnd* CSpinButtonCtrl::SetBuddy(CWnd* pWndBuddy)
 {
-    return CWnd::FromHandle((HWND)Ask(m_hWnd, UDM_SETBUDDY, pWndBuddy->GetSafeHwnd()));
+    return AskForWindow<CWnd>(m_hWnd, UDM_SETBUDDY, pWndBuddy->GetSafeHwnd());
 }
 
 CWnd* CSpinButtonCtrl::GetBuddy() const
 {
-    return CWnd::FromHandle((HWND)Ask(m_hWnd, UDM_GETBUDDY));
+    return AskForWindow<CWnd>(m_hWnd, UDM_GETBUDDY);
 }
 
 int CSpinButtonCtrl::SetPos(int nPos)

@@ -2,7 +2,7 @@
 
 #include "controls/ControlMessages.h"
 
-using afxint::Ask;
+using afxint::AskFor;
 
 IMPLEMENT_DYNAMIC(CStatic, CWnd)
 
@@ -15,42 +15,42 @@ BOOL CStatic::Create(LPCTSTR lpszText, DWORD dwStyle, const RECT& rect, CWnd* pP
 
 HBITMAP CStatic::SetBitmap(HBITMAP hBitmap)
 {
-    return (HBITMAP)Ask(m_hWnd, STM_SETIMAGE, IMAGE_BITMAP, hBitmap);
+    return AskFor<HBITMAP>(m_hWnd, STM_SETIMAGE, IMAGE_BITMAP, hBitmap);
 }
 
 HBITMAP CStatic::GetBitmap() const
 {
-    return (HBITMAP)Ask(m_hWnd, STM_GETIMAGE, IMAGE_BITMAP);
+    return AskFor<HBITMAP>(m_hWnd, STM_GETIMAGE, IMAGE_BITMAP);
 }
 
 HICON CStatic::SetIcon(HICON hIcon)
 {
-    return (HICON)Ask(m_hWnd, STM_SETICON, hIcon);
+    return AskFor<HICON>(m_hWnd, STM_SETICON, hIcon);
 }
 
 HICON CStatic::GetIcon() const
 {
-    return (HICON)Ask(m_hWnd, STM_GETICON);
+    return AskFor<HICON>(m_hWnd, STM_GETICON);
 }
 
 HENHMETAFILE CStatic::SetEnhMetaFile(HENHMETAFILE hMetaFile)
 {
-    return (HENHMETAFILE)Ask(m_hWnd, STM_SETIMAGE, IMAGE_ENHMETAFILE, hMetaFile);
+    return AskFor<HENHMETAFILE>(m_hWnd, STM_SETIMAGE, IMAGE_ENHMETAFILE, hMetaFile);
 }
 
 HENHMETAFILE CStatic::GetEnhMetaFile() const
 {
-    return (HENHMETAFILE)Ask(m_hWnd, STM_GETIMAGE, IMAGE_ENHMETAFILE);
+    return AskFor<HENHMETAFILE>(m_hWnd, STM_GETIMAGE, IMAGE_ENHMETAFILE);
 }
 
 HCURSOR CStatic::SetCursor(HCURSOR hCursor)
 {
-    return (HCURSOR)Ask(m_hWnd, STM_SETIMAGE, IMAGE_CURSOR, hCursor);
+    return AskFor<HCURSOR>(m_hWnd, STM_SETIMAGE, IMAGE_CURSOR, hCursor);
 }
 
 HCURSOR CStatic::GetCursor()
 {
-    return (HCURSOR)Ask(m_hWnd, STM_GETIMAGE, IMAGE_CURSOR);
+    return AskFor<HCURSOR>(m_hWnd, STM_GETIMAGE, IMAGE_CURSOR);
 }
 
 void CStatic::DrawItem(LPDRAWITEMSTRUCT)
@@ -61,8 +61,5 @@ BOOL CStatic::OnChildNotify(UINT message, WPARAM wParam, LPARAM lParam, LRESULT*
 {
     if (CWnd::OnChildNotify(message, wParam, lParam, pLResult))
         return TRUE;
-    if (message != WM_DRAWITEM)
-        return FALSE;
-    DrawItem((LPDRAWITEMSTRUCT)lParam);
-    return TRUE;
+    return afxint::DrawOnRequest(*this, message, lParam);
 }

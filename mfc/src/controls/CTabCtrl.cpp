@@ -5,6 +5,14 @@
 #include "controls/ControlMessages.h"
 
 using afxint::Ask;
+using afxint::AskForImageList;
+using afxint::AskForWindow;
+
+namespace {
+
+constexpr afxint::CommonControl kind = {WC_TABCONTROL, ICC_TAB_CLASSES};
+
+} // namespace
 
 IMPLEMENT_DYNAMIC(CTabCtrl, CWnd)
 
@@ -12,26 +20,23 @@ CTabCtrl::CTabCtrl() = default;
 
 BOOL CTabCtrl::Create(DWORD dwStyle, const RECT& rect, CWnd* pParentWnd, UINT nID)
 {
-    afxint::NeedCommonControls(ICC_TAB_CLASSES);
-    return CWnd::Create(WC_TABCONTROL, NULL, dwStyle, rect, pParentWnd, nID);
+    return afxint::CreateControl(*this, kind, dwStyle, rect, pParentWnd, nID);
 }
 
 BOOL CTabCtrl::CreateEx(DWORD dwExStyle, DWORD dwStyle, const RECT& rect, CWnd* pParentWnd,
                         UINT nID)
 {
-    afxint::NeedCommonControls(ICC_TAB_CLASSES);
-    return CWnd::CreateEx(dwExStyle, WC_TABCONTROL, NULL, dwStyle, rect, pParentWnd, nID);
+    return afxint::CreateControlEx(*this, kind, dwExStyle, dwStyle, rect, pParentWnd, nID);
 }
 
 CImageList* CTabCtrl::GetImageList() const
 {
-    return CImageList::FromHandle((HIMAGELIST)Ask(m_hWnd, TCM_GETIMAGELIST));
+    return AskForImageList(m_hWnd, TCM_GETIMAGELIST);
 }
 
 CImageList* CTabCtrl::SetImageList(CImageList* pImageList)
 {
-    return CImageList::FromHandle(
-        (HIMAGELIST)Ask(m_hWnd, TCM_SETIMAGELIST, 0, pImageList->GetSafeHandle()));
+    return AskForImageList(m_hWnd, TCM_SETIMAGELIST, 0, pImageList->GetSafeHandle());
 }
 
 int CTabCtrl::GetItemCount() const
@@ -96,7 +101,7 @@ int CTabCtrl::GetRowCount() const
 
 CToolTipCtrl* CTabCtrl::GetToolTips() const
 {
-    return (CToolTipCtrl*)CWnd::FromHandle((HWND)Ask(m_hWnd, TCM_GETTOOLTIPS));
+    return AskForWindow<CToolTipCtrl>(m_hWnd, TCM_GETTOOLTIPS);
 }
 
 void CTabCtrl::SetToolTips(CToolTipCtrl* pWndTip)
@@ -212,8 +217,5 @@ BOOL CTabCtrl::OnChildNotify(UINT message, WPARAM wParam, LPARAM lParam, LRESULT
 {
     if (CWnd::OnChildNotify(message, wParam, lParam, pLResult))
         return TRUE;
-    if (message != WM_DRAWITEM)
-        return FALSE;
-    DrawItem((LPDRAWITEMSTRUCT)lParam);
-    return TRUE;
+    return afxint::DrawOnRequest(*this, message, lParam);
 }

@@ -24,7 +24,7 @@ TOOLINFO ToolOf(CWnd* window, UINT_PTR id)
     const HWND parent = ::GetParent(window->GetSafeHwnd());
     tool.hwnd = parent == NULL ? window->GetSafeHwnd() : parent;
     tool.uFlags = TTF_IDISHWND;
-    tool.uId = (UINT_PTR)window->GetSafeHwnd();
+    tool.uId = reinterpret_cast<UINT_PTR>(window->GetSafeHwnd());
     return tool;
 }
 

@@ -6,6 +6,15 @@
 #include "controls/ControlMessages.h"
 
 using afxint::Ask;
+using afxint::AskFor;
+using afxint::AskForImageList;
+using afxint::AskForWindow;
+
+namespace {
+
+constexpr afxint::CommonControl kind = {WC_TREEVIEW, ICC_TREEVIEW_CLASSES};
+
+} // namespace
 
 IMPLEMENT_DYNAMIC(CTreeCtrl, CWnd)
 
@@ -13,15 +22,13 @@ CTreeCtrl::CTreeCtrl() = default;
 
 BOOL CTreeCtrl::Create(DWORD dwStyle, const RECT& rect, CWnd* pParentWnd, UINT nID)
 {
-    afxint::NeedCommonControls(ICC_TREEVIEW_CLASSES);
-    return CWnd::Create(WC_TREEVIEW, NULL, dwStyle, rect, pParentWnd, nID);
+    return afxint::CreateControl(*this, kind, dwStyle, rect, pParentWnd, nID);
 }
 
 BOOL CTreeCtrl::CreateEx(DWORD dwExStyle, DWORD dwStyle, const RECT& rect, CWnd* pParentWnd,
                          UINT nID)
 {
-    afxint::NeedCommonControls(ICC_TREEVIEW_CLASSES);
-    return CWnd::CreateEx(dwExStyle, WC_TREEVIEW, NULL, dwStyle, rect, pParentWnd, nID);
+    return afxint::CreateControlEx(*this, kind, dwExStyle, dwStyle, rect, pParentWnd, nID);
 }
 
 UINT CTreeCtrl::GetCount() const
@@ -41,18 +48,17 @@ void CTreeCtrl::SetIndent(UINT nIndent)
 
 CImageList* CTreeCtrl::GetImageList(UINT nImageList) const
 {
-    return CImageList::FromHandle((HIMAGELIST)Ask(m_hWnd, TVM_GETIMAGELIST, nImageList));
+    return AskForImageList(m_hWnd, TVM_GETIMAGELIST, nImageList);
 }
 
 CImageList* CTreeCtrl::SetImageList(CImageList* pImageList, int nImageListType)
 {
-    return CImageList::FromHandle(
-        (HIMAGELIST)Ask(m_hWnd, TVM_SETIMAGELIST, nImageListType, pImageList->GetSafeHandle()));
+    return AskForImageList(m_hWnd, TVM_SETIMAGELIST, nImageListType, pImageList->GetSafeHandle());
 }
 
 HTREEITEM CTreeCtrl::GetNextItem(HTREEITEM hItem, UINT nCode) const
 {
-    return (HTREEITEM)Ask(m_hWnd, TVM_GETNEXTITEM, nCode, hItem);
+    return AskFor<HTREEITEM>(m_hWnd, TVM_GETNEXTITEM, nCode, hItem);
 }
 
 HTREEITEM CTreeCtrl::GetChildItem(HTREEITEM hItem) const
@@ -216,7 +222,7 @@ BOOL CTreeCtrl::GetItemRect(HTREEITEM hItem, LPRECT lpRect, BOOL bTextOnly) cons
 
 CEdit* CTreeCtrl::GetEditControl() const
 {
-    return (CEdit*)CWnd::FromHandle((HWND)Ask(m_hWnd, TVM_GETEDITCONTROL));
+    return AskForWindow<CEdit>(m_hWnd, TVM_GETEDITCONTROL);
 }
 
 UINT CTreeCtrl::GetVisibleCount() const
@@ -226,13 +232,12 @@ UINT CTreeCtrl::GetVisibleCount() const
 
 CToolTipCtrl* CTreeCtrl::GetToolTips() const
 {
-    return (CToolTipCtrl*)CWnd::FromHandle((HWND)Ask(m_hWnd, TVM_GETTOOLTIPS));
+    return AskForWindow<CToolTipCtrl>(m_hWnd, TVM_GETTOOLTIPS);
 }
 
 CToolTipCtrl* CTreeCtrl::SetToolTips(CToolTipCtrl* pWndTip)
 {
-    return (CToolTipCtrl*)CWnd::FromHandle(
-        (HWND)Ask(m_hWnd, TVM_SETTOOLTIPS, pWndTip->GetSafeHwnd()));
+    return AskForWindow<CToolTipCtrl>(m_hWnd, TVM_SETTOOLTIPS, pWndTip->GetSafeHwnd());
 }
 
 COLORREF CTreeCtrl::GetBkColor() const
@@ -282,12 +287,12 @@ BOOL CTreeCtrl::SetInsertMark(HTREEITEM hItem, BOOL fAfter)
 
 SHORT CTreeCtrl::GetItemHeight() const
 {
-    return (SHORT)Ask(m_hWnd, TVM_GETITEMHEIGHT);
+    return static_cast<SHORT>(Ask(m_hWnd, TVM_GETITEMHEIGHT));
 }
 
 SHORT CTreeCtrl::SetItemHeight(SHORT cyHeight)
 {
-    return (SHORT)Ask(m_hWnd, TVM_SETITEMHEIGHT, cyHeight);
+    return static_cast<SHORT>(Ask(m_hWnd, TVM_SETITEMHEIGHT, cyHeight));
 }
 
 BOOL CTreeCtrl::GetCheck(HTREEITEM hItem) const
@@ -313,7 +318,7 @@ UINT CTreeCtrl::SetScrollTime(UINT uScrollTime)
 
 HTREEITEM CTreeCtrl::MapAccIdToItem(UINT uAccId) const
 {
-    return (HTREEITEM)Ask(m_hWnd, TVM_MAPACCIDTOHTREEITEM, uAccId);
+    return AskFor<HTREEITEM>(m_hWnd, TVM_MAPACCIDTOHTREEITEM, uAccId);
 }
 
 UINT CTreeCtrl::MapItemToAccID(HTREEITEM hItem) const
@@ -323,7 +328,7 @@ UINT CTreeCtrl::MapItemToAccID(HTREEITEM hItem) const
 
 HTREEITEM CTreeCtrl::InsertItem(LPTVINSERTSTRUCT lpInsertStruct)
 {
-    return (HTREEITEM)Ask(m_hWnd, TVM_INSERTITEM, 0, lpInsertStruct);
+    return AskFor<HTREEITEM>(m_hWnd, TVM_INSERTITEM, 0, lpInsertStruct);
 }
 
 HTREEITEM CTreeCtrl::InsertItem(UINT nMask, LPCTSTR lpszItem, int nImage, int nSelectedImage,
@@ -392,7 +397,7 @@ BOOL CTreeCtrl::SelectSetFirstVisible(HTREEITEM hItem)
 
 CEdit* CTreeCtrl::EditLabel(HTREEITEM hItem)
 {
-    return (CEdit*)CWnd::FromHandle((HWND)Ask(m_hWnd, TVM_EDITLABEL, 0, hItem));
+    return AskForWindow<CEdit>(m_hWnd, TVM_EDITLABEL, 0, hItem);
 }
 
 BOOL CTreeCtrl::EndEditLabelNow(BOOL fCancel)
@@ -412,12 +417,12 @@ HTREEITEM CTreeCtrl::HitTest(CPoint pt, UINT* pFlags) const
 
 HTREEITEM CTreeCtrl::HitTest(TVHITTESTINFO* pHitTestInfo) const
 {
-    return (HTREEITEM)Ask(m_hWnd, TVM_HITTEST, 0, pHitTestInfo);
+    return AskFor<HTREEITEM>(m_hWnd, TVM_HITTEST, 0, pHitTestInfo);
 }
 
 CImageList* CTreeCtrl::CreateDragImage(HTREEITEM hItem)
 {
-    return afxint::OwnedImageList((HIMAGELIST)Ask(m_hWnd, TVM_CREATEDRAGIMAGE, 0, hItem));
+    return afxint::OwnedImageList(AskFor<HIMAGELIST>(m_hWnd, TVM_CREATEDRAGIMAGE, 0, hItem));
 }
 
 BOOL CTreeCtrl::SortChildren(HTREEITEM hItem)

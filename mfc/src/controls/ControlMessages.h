@@ -1,33 +1,56 @@
-// What the classes of the controls share.
+// What the classes of the controls share: their creation, and the messages that they wrap.
 #pragma once
 
 #include <classes/CImageList.h>
+#include <classes/CWnd.h>
+
+#include <type_traits>
 
 namespace afxint {
+
+/// A number, pointer or handle as it travels in a message.
+template <class Word, class Value>
+Word AsWord(Value value)
+{
+    if constexpr (std::is_pointer_v<Value>)
+        return reinterpret_cast<Word>(value);
+    else
+        return static_cast<Word>(value);
+}
 
 /// Sends a message to a control, with numbers, pointers and handles as they are.
 template <class W = WPARAM, class L = LPARAM>
 LRESULT Ask(HWND control, UINT message, W wParam = 0, L lParam = 0)
 {
     ASSERT(::IsWindow(control));
-    return ::SendMessage(control, message, (WPARAM)wParam, (LPARAM)lParam);
+    return ::SendMessage(control, message, AsWord<WPARAM>(wParam), AsWord<LPARAM>(lParam));
 }
 
-/// Registers the window classes of common controls (ICC_ values), which the system does only on
-/// demand.
-inline void NeedCommonControls(DWORD classes)
+/// The same for a message that is answered with a handle or a pointer.
+template <class Answer, class W = WPARAM, class L = LPARAM>
+Answer AskFor(HWND control, UINT message, W wParam = 0, L lParam = 0)
 {
-    INITCOMMONCONTROLSEX request = {sizeof(request), classes};
-    ::InitCommonControlsEx(&request);
+    return reinterpret_cast<Answer>(Ask(control, message, wParam, lParam));
 }
 
-/// A size out of the two words that a message answered with.
-inline SIZE SizeOfWords(LRESULT words)
+/// The same for a message that is answered with a window; NULL for none. The object is temporary
+/// unless the window has one of its own.
+template <class Window, class W = WPARAM, class L = LPARAM>
+Window* AskForWindow(HWND control, UINT message, W wParam = 0, L lParam = 0)
 {
-    return {(short)LOWORD(words), (short)HIWORD(words)};
+    return static_cast<Window*>(CWnd::FromHandle(AskFor<HWND>(control, message, wParam, lParam)));
 }
 
-/// An object for an image list that a control has made for the caller; NULL for none.
+/// The same for a message that is answered with an image list, which stays the control's; NULL for
+/// none.
+template <class W = WPARAM, class L = LPARAM>
+CImageList* AskForImageList(HWND control, UINT message, W wParam = 0, L lParam = 0)
+{
+    return CImageList::FromHandle(AskFor<HIMAGELIST>(control, message, wParam, lParam));
+}
+
+/// An object for an image list that a control has made for the caller, who deletes the object; NULL
+/// for none.
 inline CImageList* OwnedImageList(HIMAGELIST handle)
 {
     if (handle == NULL)
@@ -35,6 +58,53 @@ inline CImageList* OwnedImageList(HIMAGELIST handle)
     CImageList* list = new CImageList;
     list->Attach(handle);
     return list;
+}
+
+/// A size out of the two words that a message answered with.
+inline SIZE SizeOfWords(LRESULT words)
+{
+    return {static_cast<short>(LOWORD(words)), static_cast<short>(HIWORD(words))};
+}
+
+/// A kind of common control: the name of its window class, and what registers that (ICC_ values).
+struct CommonControl
+{
+    LPCTSTR name;
+    DWORD classes;
+};
+
+/// Registers the window classes of common controls, which the system does only on demand.
+inline void NeedCommonControls(DWORD classes)
+{
+    INITCOMMONCONTROLSEX request = {sizeof(request), classes};
+    ::InitCommonControlsEx(&request);
+}
+
+/// Create of a common control without a text.
+inline BOOL CreateControl(CWnd& control, const CommonControl& kind, DWORD style, const RECT& rect,
+                          CWnd* parent, UINT id)
+{
+    NeedCommonControls(kind.classes);
+    return control.CWnd::Create(kind.name, NULL, style, rect, parent, id);
+}
+
+/// CreateEx of a common control without a text.
+inline BOOL CreateControlEx(CWnd& control, const CommonControl& kind, DWORD exStyle, DWORD style,
+                            const RECT& rect, CWnd* parent, UINT id)
+{
+    NeedCommonControls(kind.classes);
+    return control.CWnd::CreateEx(exStyle, kind.name, NULL, style, rect, parent, id);
+}
+
+/// What a control that draws itself does with a message that came back to it: lets DrawItem draw.
+/// FALSE for other messages.
+template <class Control>
+BOOL DrawOnRequest(Control& control, UINT message, LPARAM lParam)
+{
+    if (message != WM_DRAWITEM)
+        return FALSE;
+    control.DrawItem(reinterpret_cast<LPDRAWITEMSTRUCT>(lParam));
+    return TRUE;
 }
 
 } // namespace afxint

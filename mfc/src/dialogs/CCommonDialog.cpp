@@ -10,7 +10,7 @@
 namespace {
 
 /// The object whose window is still to come.
-thread_local CCommonDialog* awaitingWindow = nullptr;
+thread_local CCommonDialog* awaitingWindow = NULL;
 
 } // namespace
 
@@ -22,7 +22,7 @@ UINT_PTR CALLBACK afxint::CommonDialogHook::Procedure(HWND window, UINT message,
 
     if (message == WM_INITDIALOG) {
         CCommonDialog* dialog = std::exchange(awaitingWindow, nullptr);
-        if (dialog == nullptr || !dialog->SubclassWindow(window))
+        if (dialog == NULL || !dialog->SubclassWindow(window))
             return FALSE;
         return dialog->OnInitDialog();
     }
@@ -59,7 +59,7 @@ INT_PTR CCommonDialog::ShowSystemDialog(BOOL (*show)(CCommonDialog* dialog, HWND
     const HWND owner = PreModal();
     awaitingWindow = this;
     const BOOL confirmed = show(this, owner);
-    awaitingWindow = nullptr; // A dialog that failed, or whose hook was taken out, left it there.
+    awaitingWindow = NULL; // A dialog that failed, or whose hook was taken out, left it there.
     PostModal();
     return confirmed ? IDOK : IDCANCEL;
 }

@@ -43,7 +43,7 @@ CDialogEx::~CDialogEx()
 void CDialogEx::SetBackgroundColor(COLORREF color, BOOL bRepaint)
 {
     background_.DeleteObject();
-    if (color != (COLORREF)-1)
+    if (color != static_cast<COLORREF>(-1))
         background_.CreateSolidBrush(color);
     if (bRepaint && GetSafeHwnd() != NULL)
         Invalidate();
@@ -107,11 +107,11 @@ HBRUSH CDialogEx::OnCtlColor(CDC* pDC, CWnd* pWnd, UINT nCtlColor)
     // A reflected request may be answered by the control itself.
     LRESULT answer = 0;
     if (pWnd->SendChildNotifyLastMsg(&answer))
-        return (HBRUSH)answer;
+        return reinterpret_cast<HBRUSH>(answer);
     pDC->SetBkMode(TRANSPARENT);
     if (image_ != NULL)
-        return (HBRUSH)::GetStockObject(HOLLOW_BRUSH);
-    return (HBRUSH)background_.GetSafeHandle();
+        return static_cast<HBRUSH>(::GetStockObject(HOLLOW_BRUSH));
+    return static_cast<HBRUSH>(background_.GetSafeHandle());
 }
 
 void CDialogEx::DropImage()

@@ -76,13 +76,13 @@ BOOL CFileDialog::GetReadOnlyPref() const
 
 POSITION CFileDialog::GetStartPosition() const
 {
-    return (POSITION)m_ofn.lpstrFile;
+    return reinterpret_cast<POSITION>(m_ofn.lpstrFile);
 }
 
 CString CFileDialog::GetNextPathName(POSITION& pos) const
 {
     // One file is a path. Several are their folder and then their names, each ended by a zero.
-    LPCTSTR name = (LPCTSTR)pos;
+    LPTSTR name = reinterpret_cast<LPTSTR>(pos);
     CString path = m_ofn.lpstrFile;
     if (name == m_ofn.lpstrFile) {
         name += lstrlen(name) + 1;
@@ -95,7 +95,7 @@ CString CFileDialog::GetNextPathName(POSITION& pos) const
         path += _T('\\');
     path += name;
     name += lstrlen(name) + 1;
-    pos = *name == 0 ? NULL : (POSITION)name;
+    pos = *name == 0 ? NULL : reinterpret_cast<POSITION>(name);
     return path;
 }
 
@@ -127,7 +127,7 @@ CString CFileDialog::GetFolderPath() const
 
 void CFileDialog::SetControlText(int nID, LPCSTR lpsz)
 {
-    GetParent()->SendMessage(CDM_SETCONTROLTEXT, nID, (LPARAM)lpsz);
+    GetParent()->SendMessage(CDM_SETCONTROLTEXT, nID, reinterpret_cast<LPARAM>(lpsz));
 }
 
 void CFileDialog::HideControl(int nID)
@@ -137,7 +137,7 @@ void CFileDialog::HideControl(int nID)
 
 void CFileDialog::SetDefExt(LPCSTR lpsz)
 {
-    GetParent()->SendMessage(CDM_SETDEFEXT, 0, (LPARAM)lpsz);
+    GetParent()->SendMessage(CDM_SETDEFEXT, 0, reinterpret_cast<LPARAM>(lpsz));
 }
 
 UINT CFileDialog::OnShareViolation(LPCTSTR)
@@ -177,7 +177,7 @@ BOOL CFileDialog::OnNotify(WPARAM wParam, LPARAM lParam, LRESULT* pResult)
         return TRUE;
 
     LRESULT answer = 0;
-    const OFNOTIFY* notification = (const OFNOTIFY*)lParam;
+    const auto* notification = reinterpret_cast<const OFNOTIFY*>(lParam);
     switch (notification->hdr.code) {
     case CDN_INITDONE:
         OnInitDone();
@@ -209,7 +209,8 @@ BOOL CFileDialog::OnNotify(WPARAM wParam, LPARAM lParam, LRESULT* pResult)
 CString CFileDialog::AskDialog(UINT message) const
 {
     CString answer;
-    GetParent()->SendMessage(message, MAX_PATH, (LPARAM)answer.GetBuffer(MAX_PATH));
+    GetParent()->SendMessage(message, MAX_PATH,
+                             reinterpret_cast<LPARAM>(answer.GetBuffer(MAX_PATH)));
     answer.ReleaseBuffer();
     return answer;
 }

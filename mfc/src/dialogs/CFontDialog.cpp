@@ -83,7 +83,7 @@ INT_PTR CFontDialog::DoModal()
 void CFontDialog::GetCurrentFont(LPLOGFONT lplf)
 {
     if (m_hWnd != NULL)
-        SendMessage(WM_CHOOSEFONT_GETLOGFONT, 0, (LPARAM)lplf);
+        SendMessage(WM_CHOOSEFONT_GETLOGFONT, 0, reinterpret_cast<LPARAM>(lplf));
     else
         *lplf = *m_cf.lpLogFont;
 }

@@ -12,7 +12,7 @@ struct afxint::PropertyPageHook
 {
     static UINT CALLBACK Procedure(HWND, UINT message, PROPSHEETPAGE* systemPage)
     {
-        CPropertyPage* page = (CPropertyPage*)systemPage->lParam;
+        auto* page = reinterpret_cast<CPropertyPage*>(systemPage->lParam);
         if (message == PSPCB_CREATE)
             page->creation_ = std::make_unique<WindowCreation>(page);
         else if (message == PSPCB_RELEASE)
@@ -139,7 +139,7 @@ BOOL CPropertyPage::PreTranslateMessage(MSG* pMsg)
 BOOL CPropertyPage::OnNotify(WPARAM wParam, LPARAM lParam, LRESULT* pResult)
 {
     // Only the sheet itself speaks to the page in this way, not a sheet within the page.
-    const NMHDR* header = (const NMHDR*)lParam;
+    const auto* header = reinterpret_cast<const NMHDR*>(lParam);
     const HWND sheet = ::GetParent(m_hWnd);
     if (header->hwndFrom != sheet && header->hwndFrom != m_hWnd)
         return CDialog::OnNotify(wParam, lParam, pResult);
@@ -157,7 +157,7 @@ BOOL CPropertyPage::OnNotify(WPARAM wParam, LPARAM lParam, LRESULT* pResult)
 
 LRESULT CPropertyPage::WindowProc(UINT message, WPARAM wParam, LPARAM lParam)
 {
-    if (creation_ != nullptr)
+    if (creation_)
         creation_.reset(); // The first message: the object has its window.
     return CDialog::WindowProc(message, wParam, lParam);
 }
@@ -180,7 +180,7 @@ HPROPSHEETPAGE CPropertyPage::MakeSystemPage()
     page.dwFlags |= PSP_USECALLBACK;
     page.pfnCallback = afxint::PropertyPageHook::Procedure;
     page.pfnDlgProc = afxint::DialogProcedure;
-    page.lParam = (LPARAM)this;
+    page.lParam = reinterpret_cast<LPARAM>(this);
     if (!(page.dwFlags & PSP_DLGINDIRECT))
         page.hInstance = AfxFindResourceHandle(page.pszTemplate, RT_DIALOG);
     firstActivation_ = true;

@@ -9,11 +9,14 @@
 #include <algorithm>
 
 using afxint::Ask;
+using afxint::AskForWindow;
 
 namespace {
 
+constexpr DWORD systemStyle = static_cast<DWORD>(-1); ///< Leaves the styles to the system.
+
 /// The sheet whose window is being made.
-thread_local CPropertySheet* sheetInCreation = nullptr;
+thread_local CPropertySheet* sheetInCreation = NULL;
 
 } // namespace
 
@@ -23,7 +26,7 @@ struct afxint::PropertySheetHook
     static int CALLBACK Procedure(HWND, UINT message, LPARAM lParam)
     {
         const CPropertySheet* sheet = sheetInCreation;
-        if (message != PSCB_PRECREATE || sheet == nullptr || sheet->style_ == (DWORD)-1)
+        if (message != PSCB_PRECREATE || sheet == NULL || sheet->style_ == systemStyle)
             return 0;
         // Both kinds of dialog templates hold the two styles, but not in the same place.
         struct Template
@@ -31,8 +34,8 @@ struct afxint::PropertySheetHook
             WORD version, signature;
             DWORD helpId, exStyle, style;
         };
-        Template* extended = (Template*)lParam;
-        DLGTEMPLATE* plain = (DLGTEMPLATE*)lParam;
+        auto* extended = reinterpret_cast<Template*>(lParam);
+        auto* plain = reinterpret_cast<DLGTEMPLATE*>(lParam);
         const bool isExtended = extended->signature == 0xffff;
         (isExtended ? extended->style : plain->style) =
             (sheet->style_ & ~DS_SETFONT) |
@@ -95,7 +98,7 @@ INT_PTR CPropertySheet::DoModal()
     // system, inside a loop of the library.
     modal_ = true;
     lastButton_ = IDCANCEL;
-    style_ = (DWORD)-1;
+    style_ = systemStyle;
     INT_PTR result = -1;
     if (ShowSheet(ownerWindow))
         result = RunModalLoop();
@@ -185,7 +188,7 @@ BOOL CPropertySheet::SetActivePage(CPropertyPage* pPage)
 
 CTabCtrl* CPropertySheet::GetTabControl() const
 {
-    return (CTabCtrl*)CWnd::FromHandle((HWND)Ask(m_hWnd, PSM_GETTABCONTROL));
+    return AskForWindow<CTabCtrl>(m_hWnd, PSM_GETTABCONTROL);
 }
 
 void CPropertySheet::SetTitle(LPCTSTR lpszText, UINT nStyle)
@@ -313,8 +316,8 @@ bool CPropertySheet::ShowSheet(HWND owner)
     afxint::WindowCreation creation(this);
     sheetInCreation = this;
     const INT_PTR sheet = creation.IsReady() ? ::PropertySheet(&header) : -1;
-    sheetInCreation = nullptr;
-    const HWND window = sheet == -1 ? NULL : (HWND)sheet;
+    sheetInCreation = NULL;
+    const HWND window = sheet == -1 ? NULL : reinterpret_cast<HWND>(sheet);
     if (!creation.Finish(window))
         PostNcDestroy();
     return window != NULL;
