@@ -2,6 +2,7 @@
 
 #include "application/ModuleState.h"
 #include "application/ResourceChain.h"
+#include "text/StringResource.h"
 
 #include <algorithm>
 
@@ -38,22 +39,6 @@ std::vector<HINSTANCE> ListResourceModules()
     }
     modules.push_back(state.ownLibrary);
     return modules;
-}
-
-/// Strings lie in blocks of sixteen, each a length in characters and the characters.
-bool HasString(HINSTANCE module, UINT id)
-{
-    HRSRC found = FindResource(module, MAKEINTRESOURCE(id / 16 + 1), RT_STRING);
-    if (found == NULL)
-        return false;
-    HGLOBAL loaded = LoadResource(module, found);
-    const auto* text = static_cast<const WORD*>(loaded == NULL ? NULL : LockResource(loaded));
-    if (text == NULL)
-        return false;
-    const WORD* end = text + SizeofResource(module, found) / sizeof(WORD);
-    for (UINT skipped = 0; skipped < id % 16 && text < end; ++skipped)
-        text += 1 + *text;
-    return text < end && *text != 0;
 }
 
 void ReplacePlaceholders(CString& result, UINT id, const LPCTSTR* parts, int count)
@@ -205,7 +190,7 @@ namespace afxint {
 HINSTANCE FindStringModule(UINT id)
 {
     for (HINSTANCE module : ListResourceModules()) {
-        if (HasString(module, id))
+        if (!afxint::FindString(module, id).empty())
             return module;
     }
     return NULL;

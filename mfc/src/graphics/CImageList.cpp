@@ -1,19 +1,12 @@
 #include <afxcmn.h>
 
+#include "graphics/DrawingHandles.h"
 #include "objects/OwnedHandle.h"
 
 IMPLEMENT_DYNCREATE(CImageList, CObject)
 
 using afxint::CurrentThread;
-
-namespace {
-
-HBITMAP HandleOf(const CBitmap* bitmap)
-{
-    return static_cast<HBITMAP>(bitmap->GetSafeHandle());
-}
-
-} // namespace
+using afxint::HandleOf;
 
 CImageList* afxint::ImageListTraits::Wrap(HIMAGELIST handle)
 {

@@ -3,23 +3,34 @@
 
 #include "application/ResourceChain.h"
 #include "text/Narrowing.h"
+#include "text/StringResource.h"
 
 #include <string>
-#include <string_view>
 
 using afxint::Narrowed;
 
 namespace {
 
-/// The string resource as it lies in the module; empty when the module has none of that id.
-std::wstring_view FindString(HINSTANCE module, UINT id, const WORD* language)
+bool LoadInto(CString& string, HINSTANCE module, UINT id, const WORD* language)
+{
+    const std::wstring_view text = afxint::FindString(module, id, language);
+    if (text.empty())
+        return false;
+    const std::string narrow = Narrowed(text);
+    string.SetString(narrow.data(), static_cast<int>(narrow.size()));
+    return true;
+}
+
+} // namespace
+
+std::wstring_view afxint::FindString(HINSTANCE module, UINT id, const WORD* language)
 {
     const LPCTSTR block = MAKEINTRESOURCE(id / 16 + 1);
-    const HRSRC found = language == nullptr ? ::FindResource(module, block, RT_STRING)
-                                            : ::FindResourceEx(module, RT_STRING, block, *language);
+    const HRSRC found = language == NULL ? ::FindResource(module, block, RT_STRING)
+                                         : ::FindResourceEx(module, RT_STRING, block, *language);
     const HGLOBAL loaded = found == NULL ? NULL : ::LoadResource(module, found);
     const auto* text = static_cast<const wchar_t*>(loaded == NULL ? NULL : ::LockResource(loaded));
-    if (text == nullptr)
+    if (text == NULL)
         return {};
     // A block is sixteen counted strings; the count is in characters and stands before each.
     const wchar_t* end = text + ::SizeofResource(module, found) / sizeof(wchar_t);
@@ -30,18 +41,6 @@ std::wstring_view FindString(HINSTANCE module, UINT id, const WORD* language)
     return {text + 1, static_cast<size_t>(*text)};
 }
 
-bool LoadInto(CString& string, HINSTANCE module, UINT id, const WORD* language)
-{
-    const std::wstring_view text = FindString(module, id, language);
-    if (text.empty())
-        return false;
-    const std::string narrow = Narrowed(text);
-    string.SetString(narrow.data(), static_cast<int>(narrow.size()));
-    return true;
-}
-
-} // namespace
-
 BOOL CString::LoadString(UINT nID)
 {
     const HINSTANCE module = afxint::FindStringModule(nID);
@@ -50,7 +49,7 @@ BOOL CString::LoadString(UINT nID)
 
 BOOL CString::LoadString(HINSTANCE hInstance, UINT nID)
 {
-    return LoadInto(*this, hInstance, nID, nullptr);
+    return LoadInto(*this, hInstance, nID, NULL);
 }
 
 BOOL CString::LoadString(HINSTANCE hInstance, UINT nID, WORD wLanguageID)
