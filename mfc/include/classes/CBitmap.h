@@ -1,3 +1,4 @@
+// A bitmap in the format of some device: a drawing object that a memory context draws on.
 #pragma once
 
 #include <atltypes.h>
@@ -5,7 +6,6 @@
 
 class CDC;
 
-/// A bitmap.
 class CBitmap : public CGdiObject
 {
     DECLARE_DYNAMIC(CBitmap)

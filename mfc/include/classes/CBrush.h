@@ -1,10 +1,10 @@
+// A brush: the drawing object that fills.
 #pragma once
 
 #include <classes/CGdiObject.h>
 
 class CBitmap;
 
-/// A brush.
 class CBrush : public CGdiObject
 {
     DECLARE_DYNAMIC(CBrush)

@@ -1,8 +1,9 @@
+// A device context for the client area of a window.
 #pragma once
 
 #include <classes/CDC.h>
 
-/// The client area of a window for the object's lifetime; of the screen when pWnd is NULL.
+/// Held for the object's lifetime; the screen's when pWnd is NULL.
 class CClientDC : public CDC
 {
     DECLARE_DYNAMIC(CClientDC)

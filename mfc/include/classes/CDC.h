@@ -1,3 +1,4 @@
+// A device context: what all drawing goes through.
 #pragma once
 
 #include <atltypes.h>
@@ -37,7 +38,9 @@ public:
     /// The object that owns the context, else a temporary one that lives until the next idle time.
     static CDC* PASCAL FromHandle(HDC hDC);
     static void PASCAL DeleteTempMap();
+    /// Takes the handle over. Only for objects that hold none. FALSE for a NULL handle.
     BOOL Attach(HDC hDC);
+    /// Gives the handle up without deleting the context.
     HDC Detach();
     virtual void SetAttribDC(HDC hDC);
     virtual void SetOutputDC(HDC hDC);

@@ -1,10 +1,10 @@
+// A font: the drawing object that text is written with.
 #pragma once
 
 #include <classes/CGdiObject.h>
 
 class CDC;
 
-/// A font.
 class CFont : public CGdiObject
 {
     DECLARE_DYNAMIC(CFont)

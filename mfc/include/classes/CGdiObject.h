@@ -5,6 +5,9 @@
 
 /// Holds a GDI handle and owns it: the destructor deletes what is still held. Objects that
 /// FromHandle makes for foreign handles are temporary and own nothing.
+///
+/// What creates or loads in the derived classes is for objects that hold none, and returns FALSE on
+/// failure.
 class CGdiObject : public CObject
 {
     DECLARE_DYNCREATE(CGdiObject)

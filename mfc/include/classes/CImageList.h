@@ -1,3 +1,4 @@
+// A list of pictures of one size.
 #pragma once
 
 #include <atltypes.h>
@@ -28,7 +29,9 @@ public:
     /// NULL when no object owns the list.
     static CImageList* PASCAL FromHandlePermanent(HIMAGELIST hImageList);
     static void PASCAL DeleteTempMap();
+    /// Takes the handle over. Only for objects that hold none. FALSE for a NULL handle.
     BOOL Attach(HIMAGELIST hImageList);
+    /// Gives the handle up without destroying the list.
     HIMAGELIST Detach();
 
     BOOL Create(int cx, int cy, UINT nFlags, int nInitial, int nGrow);

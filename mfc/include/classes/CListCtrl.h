@@ -150,6 +150,7 @@ public:
     BOOL Scroll(CSize size);
     BOOL RedrawItems(int nFirst, int nLast);
     BOOL Arrange(UINT nCode);
+    /// The field that the label is edited in, which is the control's; NULL on failure.
     CEdit* EditLabel(int nItem);
     void CancelEditLabel();
     int InsertColumn(int nCol, const LVCOLUMN* pColumn);

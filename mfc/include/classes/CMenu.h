@@ -1,3 +1,4 @@
+// A menu, as a bar or as a popup.
 #pragma once
 
 #include <classes/CObject.h>
@@ -27,7 +28,9 @@ public:
     /// The object that owns the menu, else a temporary one that lives until the next idle time.
     static CMenu* PASCAL FromHandle(HMENU hMenu);
     static void PASCAL DeleteTempMap();
+    /// Takes the handle over. Only for objects that hold none. FALSE for a NULL handle.
     BOOL Attach(HMENU hMenu);
+    /// Gives the handle up without destroying the menu.
     HMENU Detach();
 
     BOOL CreateMenu();

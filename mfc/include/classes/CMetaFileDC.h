@@ -1,8 +1,9 @@
+// A device context that records drawing into a metafile.
 #pragma once
 
 #include <classes/CDC.h>
 
-/// Records drawing into a metafile. It has no attribute context until SetAttribDC names one.
+/// It has no attribute context until SetAttribDC names one.
 class CMetaFileDC : public CDC
 {
     DECLARE_DYNAMIC(CMetaFileDC)

@@ -1,3 +1,4 @@
+// A device context for what of a window has to be painted.
 #pragma once
 
 #include <classes/CDC.h>

@@ -1,10 +1,10 @@
+// A colour palette: the drawing object that says which colours a device shows.
 #pragma once
 
 #include <classes/CGdiObject.h>
 
 class CDC;
 
-/// A colour palette.
 class CPalette : public CGdiObject
 {
     DECLARE_DYNAMIC(CPalette)

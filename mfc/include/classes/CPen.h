@@ -1,8 +1,8 @@
+// A pen: the drawing object that lines are drawn with.
 #pragma once
 
 #include <classes/CGdiObject.h>
 
-/// A pen.
 class CPen : public CGdiObject
 {
     DECLARE_DYNAMIC(CPen)

@@ -1,3 +1,4 @@
+// A region: a drawing object that is a part of the plane, of any shape.
 #pragma once
 
 #include <atltypes.h>
@@ -5,7 +6,6 @@
 
 class CDC;
 
-/// A region.
 class CRgn : public CGdiObject
 {
     DECLARE_DYNAMIC(CRgn)

@@ -89,6 +89,7 @@ public:
     BOOL SelectItem(HTREEITEM hItem);
     BOOL SelectDropTarget(HTREEITEM hItem);
     BOOL SelectSetFirstVisible(HTREEITEM hItem);
+    /// The field that the label is edited in, which is the control's; NULL on failure.
     CEdit* EditLabel(HTREEITEM hItem);
     BOOL EndEditLabelNow(BOOL fCancel);
     HTREEITEM HitTest(CPoint pt, UINT* pFlags = NULL) const;

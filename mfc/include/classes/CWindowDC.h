@@ -1,8 +1,9 @@
+// A device context for a whole window with its frame.
 #pragma once
 
 #include <classes/CDC.h>
 
-/// A whole window with its frame for the object's lifetime; the screen when pWnd is NULL.
+/// Held for the object's lifetime; the screen's when pWnd is NULL.
 class CWindowDC : public CDC
 {
     DECLARE_DYNAMIC(CWindowDC)

@@ -113,6 +113,7 @@ public:
     BOOL ModifyStyleEx(DWORD dwRemove, DWORD dwAdd, UINT nFlags = 0);
     HICON SetIcon(HICON hIcon, BOOL bBigIcon);
     HICON GetIcon(BOOL bBigIcon) const;
+    /// The font stays the caller's and must outlive its use.
     void SetFont(CFont* pFont, BOOL bRedraw = TRUE);
     CFont* GetFont() const;
     CMenu* GetMenu() const;
@@ -134,6 +135,7 @@ public:
     void MoveWindow(int x, int y, int nWidth, int nHeight, BOOL bRepaint = TRUE);
     void MoveWindow(LPCRECT lpRect, BOOL bRepaint = TRUE);
     BOOL SetWindowPos(const CWnd* pWndInsertAfter, int x, int y, int cx, int cy, UINT nFlags);
+    /// The system owns the region afterwards; 0 on failure.
     int SetWindowRgn(HRGN hRgn, BOOL bRedraw);
     int GetWindowRgn(HRGN hRgn) const;
     void BringWindowToTop();
@@ -175,6 +177,7 @@ public:
     // Painting.
     CDC* BeginPaint(LPPAINTSTRUCT lpPaint);
     void EndPaint(LPPAINTSTRUCT lpPaint);
+    /// These three give temporary objects; the caller gives the context back with ReleaseDC.
     CDC* GetDC();
     CDC* GetWindowDC();
     CDC* GetDCEx(CRgn* prgnClip, DWORD flags);
