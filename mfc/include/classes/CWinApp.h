@@ -134,6 +134,6 @@ private:
     void GiveHelp(DWORD_PTR data, UINT winHelpCommand, UINT htmlHelpCommand);
     bool TakeSwitch(LPCTSTR name);
 
-    HCURSOR m_hcurBeforeWait;
-    int m_nWaitCursorCount;
+    HCURSOR cursorBeforeWait_;
+    int waitCursors_;
 };
