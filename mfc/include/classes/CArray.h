@@ -30,24 +30,24 @@ public:
     ArrayBase() = default;
     ~ArrayBase() override { FreeAll(); }
 
-    INT_PTR GetSize() const { return m_nSize; }
-    INT_PTR GetCount() const { return m_nSize; }
-    BOOL IsEmpty() const { return m_nSize == 0; }
-    INT_PTR GetUpperBound() const { return m_nSize - 1; }
+    INT_PTR GetSize() const { return size_; }
+    INT_PTR GetCount() const { return size_; }
+    BOOL IsEmpty() const { return size_ == 0; }
+    INT_PTR GetUpperBound() const { return size_ - 1; }
     /// New elements are value-initialised. A positive nGrowBy sets the steps of later growth.
     void SetSize(INT_PTR nNewSize, INT_PTR nGrowBy = -1);
     void FreeExtra();
     void RemoveAll() { SetSize(0); }
 
-    const TYPE& GetAt(INT_PTR nIndex) const { return m_pData[Checked(nIndex)]; }
-    TYPE& GetAt(INT_PTR nIndex) { return m_pData[Checked(nIndex)]; }
-    void SetAt(INT_PTR nIndex, ARG_TYPE newElement) { m_pData[Checked(nIndex)] = newElement; }
-    const TYPE& ElementAt(INT_PTR nIndex) const { return m_pData[Checked(nIndex)]; }
-    TYPE& ElementAt(INT_PTR nIndex) { return m_pData[Checked(nIndex)]; }
-    const TYPE* GetData() const { return m_pData; }
-    TYPE* GetData() { return m_pData; }
-    const TYPE& operator[](INT_PTR nIndex) const { return m_pData[Checked(nIndex)]; }
-    TYPE& operator[](INT_PTR nIndex) { return m_pData[Checked(nIndex)]; }
+    const TYPE& GetAt(INT_PTR nIndex) const { return data_[Checked(nIndex)]; }
+    TYPE& GetAt(INT_PTR nIndex) { return data_[Checked(nIndex)]; }
+    void SetAt(INT_PTR nIndex, ARG_TYPE newElement) { data_[Checked(nIndex)] = newElement; }
+    const TYPE& ElementAt(INT_PTR nIndex) const { return data_[Checked(nIndex)]; }
+    TYPE& ElementAt(INT_PTR nIndex) { return data_[Checked(nIndex)]; }
+    const TYPE* GetData() const { return data_; }
+    TYPE* GetData() { return data_; }
+    const TYPE& operator[](INT_PTR nIndex) const { return data_[Checked(nIndex)]; }
+    TYPE& operator[](INT_PTR nIndex) { return data_[Checked(nIndex)]; }
 
     void SetAtGrow(INT_PTR nIndex, ARG_TYPE newElement);
     /// The index of the new element.
@@ -62,7 +62,7 @@ public:
 private:
     INT_PTR Checked(INT_PTR index) const
     {
-        if (index < 0 || index >= m_nSize)
+        if (index < 0 || index >= size_)
             AfxThrowInvalidArgException();
         return index;
     }
@@ -72,10 +72,10 @@ private:
     void FreeAll();
     static void Relocate(TYPE* to, TYPE* from, INT_PTR count);
 
-    TYPE* m_pData = nullptr;
-    INT_PTR m_nSize = 0;
-    INT_PTR m_nCapacity = 0;
-    INT_PTR m_nGrowBy = 0;
+    TYPE* data_ = NULL;
+    INT_PTR size_ = 0;
+    INT_PTR capacity_ = 0;
+    INT_PTR growBy_ = 0;
 };
 
 template <class TYPE, class ARG_TYPE>
@@ -84,29 +84,29 @@ void ArrayBase<TYPE, ARG_TYPE>::SetSize(INT_PTR nNewSize, INT_PTR nGrowBy)
     if (nNewSize < 0)
         AfxThrowInvalidArgException();
     if (nGrowBy >= 0)
-        m_nGrowBy = nGrowBy;
+        growBy_ = nGrowBy;
     if (nNewSize == 0) {
         FreeAll();
         return;
     }
     Reserve(nNewSize);
-    while (m_nSize < nNewSize) {
-        ::new (static_cast<void*>(m_pData + m_nSize)) TYPE();
-        ++m_nSize;
+    while (size_ < nNewSize) {
+        ::new (static_cast<void*>(data_ + size_)) TYPE();
+        ++size_;
     }
-    while (m_nSize > nNewSize) {
-        --m_nSize;
-        m_pData[m_nSize].~TYPE();
+    while (size_ > nNewSize) {
+        --size_;
+        data_[size_].~TYPE();
     }
 }
 
 template <class TYPE, class ARG_TYPE>
 void ArrayBase<TYPE, ARG_TYPE>::FreeExtra()
 {
-    if (m_nSize == 0)
+    if (size_ == 0)
         FreeAll();
-    else if (m_nSize < m_nCapacity)
-        Reallocate(m_nSize);
+    else if (size_ < capacity_)
+        Reallocate(size_);
 }
 
 template <class TYPE, class ARG_TYPE>
@@ -114,19 +114,19 @@ void ArrayBase<TYPE, ARG_TYPE>::SetAtGrow(INT_PTR nIndex, ARG_TYPE newElement)
 {
     if (nIndex < 0)
         AfxThrowInvalidArgException();
-    if (nIndex < m_nSize) {
-        m_pData[nIndex] = newElement;
+    if (nIndex < size_) {
+        data_[nIndex] = newElement;
         return;
     }
     TYPE value(newElement); // The argument may live in this array, which moves.
     SetSize(nIndex + 1);
-    m_pData[nIndex] = std::move(value);
+    data_[nIndex] = std::move(value);
 }
 
 template <class TYPE, class ARG_TYPE>
 INT_PTR ArrayBase<TYPE, ARG_TYPE>::Add(ARG_TYPE newElement)
 {
-    const INT_PTR index = m_nSize;
+    const INT_PTR index = size_;
     SetAtGrow(index, newElement);
     return index;
 }
@@ -134,10 +134,10 @@ INT_PTR ArrayBase<TYPE, ARG_TYPE>::Add(ARG_TYPE newElement)
 template <class TYPE, class ARG_TYPE>
 INT_PTR ArrayBase<TYPE, ARG_TYPE>::Append(const ArrayBase& src)
 {
-    const INT_PTR first = m_nSize;
-    const INT_PTR count = src.m_nSize; // Read first: an array may be appended to itself.
+    const INT_PTR first = size_;
+    const INT_PTR count = src.size_; // Read first: an array may be appended to itself.
     SetSize(first + count);
-    CopyElements<TYPE>(m_pData + first, src.m_pData, count);
+    CopyElements<TYPE>(data_ + first, src.data_, count);
     return first;
 }
 
@@ -146,8 +146,8 @@ void ArrayBase<TYPE, ARG_TYPE>::Copy(const ArrayBase& src)
 {
     if (this == &src)
         return;
-    SetSize(src.m_nSize);
-    CopyElements<TYPE>(m_pData, src.m_pData, m_nSize);
+    SetSize(src.size_);
+    CopyElements<TYPE>(data_, src.data_, size_);
 }
 
 template <class TYPE, class ARG_TYPE>
@@ -158,39 +158,39 @@ void ArrayBase<TYPE, ARG_TYPE>::InsertAt(INT_PTR nIndex, ARG_TYPE newElement, IN
     TYPE value(newElement);
     OpenGap(nIndex, nCount);
     for (INT_PTR i = 0; i < nCount; ++i)
-        m_pData[nIndex + i] = value;
+        data_[nIndex + i] = value;
 }
 
 template <class TYPE, class ARG_TYPE>
 void ArrayBase<TYPE, ARG_TYPE>::InsertAt(INT_PTR nStartIndex, ArrayBase* pNewArray)
 {
-    if (nStartIndex < 0 || pNewArray == nullptr || pNewArray == this)
+    if (nStartIndex < 0 || pNewArray == NULL || pNewArray == this)
         AfxThrowInvalidArgException();
-    if (pNewArray->m_nSize == 0)
+    if (pNewArray->size_ == 0)
         return;
-    OpenGap(nStartIndex, pNewArray->m_nSize);
-    CopyElements<TYPE>(m_pData + nStartIndex, pNewArray->m_pData, pNewArray->m_nSize);
+    OpenGap(nStartIndex, pNewArray->size_);
+    CopyElements<TYPE>(data_ + nStartIndex, pNewArray->data_, pNewArray->size_);
 }
 
 template <class TYPE, class ARG_TYPE>
 void ArrayBase<TYPE, ARG_TYPE>::RemoveAt(INT_PTR nIndex, INT_PTR nCount)
 {
-    if (nIndex < 0 || nCount < 0 || nIndex > m_nSize || nCount > m_nSize - nIndex)
+    if (nIndex < 0 || nCount < 0 || nIndex > size_ || nCount > size_ - nIndex)
         AfxThrowInvalidArgException();
     for (INT_PTR i = nIndex; i < nIndex + nCount; ++i)
-        m_pData[i].~TYPE();
-    Relocate(m_pData + nIndex, m_pData + nIndex + nCount, m_nSize - nIndex - nCount);
-    m_nSize -= nCount;
+        data_[i].~TYPE();
+    Relocate(data_ + nIndex, data_ + nIndex + nCount, size_ - nIndex - nCount);
+    size_ -= nCount;
 }
 
 template <class TYPE, class ARG_TYPE>
 void ArrayBase<TYPE, ARG_TYPE>::Reserve(INT_PTR capacity)
 {
-    if (capacity <= m_nCapacity)
+    if (capacity <= capacity_)
         return;
-    const INT_PTR step = m_nGrowBy > 0 ? m_nGrowBy : max(m_nSize / 2, 4);
+    const INT_PTR step = growBy_ > 0 ? growBy_ : max(size_ / 2, 4);
     // The first block is exact: most arrays get their size once.
-    Reallocate(m_nCapacity == 0 ? max(capacity, m_nGrowBy) : max(capacity, m_nCapacity + step));
+    Reallocate(capacity_ == 0 ? max(capacity, growBy_) : max(capacity, capacity_ + step));
 }
 
 template <class TYPE, class ARG_TYPE>
@@ -198,41 +198,41 @@ void ArrayBase<TYPE, ARG_TYPE>::Reallocate(INT_PTR capacity)
 {
     if (capacity > PTRDIFF_MAX / static_cast<INT_PTR>(sizeof(TYPE)))
         AfxThrowMemoryException();
-    void* block = ::operator new(static_cast<size_t>(capacity) * sizeof(TYPE),
-                                 std::align_val_t{alignof(TYPE)}, std::nothrow);
-    if (block == nullptr)
+    void* block = ::operator new (static_cast<size_t>(capacity) * sizeof(TYPE),
+                                  std::align_val_t{alignof(TYPE)}, std::nothrow);
+    if (block == NULL)
         AfxThrowMemoryException();
-    Relocate(static_cast<TYPE*>(block), m_pData, m_nSize);
-    ::operator delete(m_pData, std::align_val_t{alignof(TYPE)});
-    m_pData = static_cast<TYPE*>(block);
-    m_nCapacity = capacity;
+    Relocate(static_cast<TYPE*>(block), data_, size_);
+    ::operator delete (data_, std::align_val_t{alignof(TYPE)});
+    data_ = static_cast<TYPE*>(block);
+    capacity_ = capacity;
 }
 
 /// Makes room for `count` fresh elements at `index`.
 template <class TYPE, class ARG_TYPE>
 void ArrayBase<TYPE, ARG_TYPE>::OpenGap(INT_PTR index, INT_PTR count)
 {
-    if (index >= m_nSize) {
+    if (index >= size_) {
         SetSize(index + count);
         return;
     }
-    Reserve(m_nSize + count);
-    Relocate(m_pData + index + count, m_pData + index, m_nSize - index);
+    Reserve(size_ + count);
+    Relocate(data_ + index + count, data_ + index, size_ - index);
     for (INT_PTR i = 0; i < count; ++i)
-        ::new (static_cast<void*>(m_pData + index + i)) TYPE();
-    m_nSize += count;
+        ::new (static_cast<void*>(data_ + index + i)) TYPE();
+    size_ += count;
 }
 
 template <class TYPE, class ARG_TYPE>
 void ArrayBase<TYPE, ARG_TYPE>::FreeAll()
 {
-    while (m_nSize > 0) {
-        --m_nSize;
-        m_pData[m_nSize].~TYPE();
+    while (size_ > 0) {
+        --size_;
+        data_[size_].~TYPE();
     }
-    ::operator delete(m_pData, std::align_val_t{alignof(TYPE)});
-    m_pData = nullptr;
-    m_nCapacity = 0;
+    ::operator delete (data_, std::align_val_t{alignof(TYPE)});
+    data_ = NULL;
+    capacity_ = 0;
 }
 
 /// Moves elements to raw memory, which may overlap their old place.

@@ -27,6 +27,6 @@ public:
 
 private:
     friend struct afxint::ExchangeAccess;
-    HWND m_hWndLastControl;
-    BOOL m_bEditLastControl;
+    HWND lastControl_;
+    BOOL editsLastControl_;
 };

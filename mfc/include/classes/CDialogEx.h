@@ -40,7 +40,7 @@ private:
     afx_msg HBRUSH OnCtlColor(CDC* pDC, CWnd* pWnd, UINT nCtlColor);
     void DropImage();
 
-    HBITMAP image_ = nullptr;
+    HBITMAP image_ = NULL;
     BackgroundLocation location_ = BACKGR_TILE;
     BOOL ownsImage_ = FALSE;
     CBrush background_;

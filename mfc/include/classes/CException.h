@@ -46,7 +46,7 @@ private:
     friend class CInvalidArgException;
     CSimpleException(BOOL bAutoDelete, UINT nMessageID);
 
-    UINT m_nMessageID; ///< 0 for none.
+    UINT messageId_; ///< 0 for none.
 };
 
 /// Memory has run out.

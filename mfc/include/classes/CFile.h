@@ -102,6 +102,6 @@ public:
 private:
     void Check(BOOL succeeded) const;
 
-    CString m_strFileName;
-    BOOL m_bCloseOnDelete;
+    CString fileName_;
+    BOOL closesOnDelete_;
 };

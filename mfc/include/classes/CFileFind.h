@@ -56,10 +56,10 @@ private:
     BOOL GetTime(FILETIME WIN32_FIND_DATA::*which, FILETIME* result) const;
     BOOL GetTime(FILETIME WIN32_FIND_DATA::*which, CTime& result) const;
 
-    HANDLE m_hContext;
-    BOOL m_bHasFound; ///< FindNextFile has been called.
-    BOOL m_bHasNext;
-    WIN32_FIND_DATA m_found;
-    WIN32_FIND_DATA m_next;
-    CString m_strRoot; ///< The directory of the search, with its backslash.
+    HANDLE context_;
+    BOOL hasFound_; ///< FindNextFile has been called.
+    BOOL hasNext_;
+    WIN32_FIND_DATA found_;
+    WIN32_FIND_DATA next_;
+    CString root_; ///< The directory of the search, with its backslash.
 };

@@ -28,25 +28,25 @@ public:
     explicit ListBase([[maybe_unused]] INT_PTR nBlockSize = 10) { ASSERT(nBlockSize > 0); }
     ~ListBase() override { RemoveAll(); }
 
-    INT_PTR GetCount() const { return m_nCount; }
-    INT_PTR GetSize() const { return m_nCount; }
-    BOOL IsEmpty() const { return m_nCount == 0; }
+    INT_PTR GetCount() const { return count_; }
+    INT_PTR GetSize() const { return count_; }
+    BOOL IsEmpty() const { return count_ == 0; }
 
-    TYPE& GetHead() { return Checked(m_pHead)->value; }
-    const TYPE& GetHead() const { return Checked(m_pHead)->value; }
-    TYPE& GetTail() { return Checked(m_pTail)->value; }
-    const TYPE& GetTail() const { return Checked(m_pTail)->value; }
-    TYPE RemoveHead() { return Take(Checked(m_pHead)); }
-    TYPE RemoveTail() { return Take(Checked(m_pTail)); }
-    POSITION AddHead(ARG_TYPE newElement) { return Link(newElement, m_pHead); }
-    POSITION AddTail(ARG_TYPE newElement) { return Link(newElement, nullptr); }
+    TYPE& GetHead() { return Checked(head_)->value; }
+    const TYPE& GetHead() const { return Checked(head_)->value; }
+    TYPE& GetTail() { return Checked(tail_)->value; }
+    const TYPE& GetTail() const { return Checked(tail_)->value; }
+    TYPE RemoveHead() { return Take(Checked(head_)); }
+    TYPE RemoveTail() { return Take(Checked(tail_)); }
+    POSITION AddHead(ARG_TYPE newElement) { return Link(newElement, head_); }
+    POSITION AddTail(ARG_TYPE newElement) { return Link(newElement, NULL); }
     /// These add all elements of another list, in their order.
     void AddHead(ListBase* pNewList);
     void AddTail(ListBase* pNewList);
     void RemoveAll();
 
-    POSITION GetHeadPosition() const { return Position(m_pHead); }
-    POSITION GetTailPosition() const { return Position(m_pTail); }
+    POSITION GetHeadPosition() const { return Position(head_); }
+    POSITION GetTailPosition() const { return Position(tail_); }
     /// The element at the position, which moves on, to NULL after the last one.
     TYPE& GetNext(POSITION& rPosition) { return Step(rPosition, &Node::next); }
     const TYPE& GetNext(POSITION& rPosition) const { return Step(rPosition, &Node::next); }
@@ -76,7 +76,7 @@ private:
     static POSITION Position(Node* node) { return reinterpret_cast<POSITION>(node); }
     static Node* Checked(Node* node)
     {
-        if (node == nullptr)
+        if (node == NULL)
             AfxThrowInvalidArgException();
         return node;
     }
@@ -91,37 +91,37 @@ private:
     Node* Unlink(Node* node);
     TYPE Take(Node* node);
 
-    Node* m_pHead = nullptr;
-    Node* m_pTail = nullptr;
-    INT_PTR m_nCount = 0;
+    Node* head_ = NULL;
+    Node* tail_ = NULL;
+    INT_PTR count_ = 0;
 };
 
 template <class TYPE, class ARG_TYPE>
 void ListBase<TYPE, ARG_TYPE>::AddHead(ListBase* pNewList)
 {
-    if (pNewList == nullptr)
+    if (pNewList == NULL)
         AfxThrowInvalidArgException();
     // Backwards from the last element of now: the list may be added to itself.
-    INT_PTR left = pNewList->m_nCount;
-    for (Node* node = pNewList->m_pTail; left > 0; node = node->previous, --left)
+    INT_PTR left = pNewList->count_;
+    for (Node* node = pNewList->tail_; left > 0; node = node->previous, --left)
         AddHead(node->value);
 }
 
 template <class TYPE, class ARG_TYPE>
 void ListBase<TYPE, ARG_TYPE>::AddTail(ListBase* pNewList)
 {
-    if (pNewList == nullptr)
+    if (pNewList == NULL)
         AfxThrowInvalidArgException();
-    INT_PTR left = pNewList->m_nCount;
-    for (Node* node = pNewList->m_pHead; left > 0; node = node->next, --left)
+    INT_PTR left = pNewList->count_;
+    for (Node* node = pNewList->head_; left > 0; node = node->next, --left)
         AddTail(node->value);
 }
 
 template <class TYPE, class ARG_TYPE>
 void ListBase<TYPE, ARG_TYPE>::RemoveAll()
 {
-    while (m_pHead != nullptr)
-        delete Unlink(m_pHead);
+    while (head_ != NULL)
+        delete Unlink(head_);
 }
 
 template <class TYPE, class ARG_TYPE>
@@ -139,8 +139,8 @@ POSITION ListBase<TYPE, ARG_TYPE>::InsertAfter(POSITION position, ARG_TYPE newEl
 template <class TYPE, class ARG_TYPE>
 POSITION ListBase<TYPE, ARG_TYPE>::Find(ARG_TYPE searchValue, POSITION startAfter) const
 {
-    Node* node = startAfter == NULL ? m_pHead : At(startAfter)->next;
-    while (node != nullptr && !CompareElements(&node->value, &searchValue))
+    Node* node = startAfter == NULL ? head_ : At(startAfter)->next;
+    while (node != NULL && !CompareElements(&node->value, &searchValue))
         node = node->next;
     return Position(node);
 }
@@ -148,9 +148,9 @@ POSITION ListBase<TYPE, ARG_TYPE>::Find(ARG_TYPE searchValue, POSITION startAfte
 template <class TYPE, class ARG_TYPE>
 POSITION ListBase<TYPE, ARG_TYPE>::FindIndex(INT_PTR nIndex) const
 {
-    if (nIndex < 0 || nIndex >= m_nCount)
+    if (nIndex < 0 || nIndex >= count_)
         return NULL;
-    Node* node = m_pHead;
+    Node* node = head_;
     while (nIndex-- > 0)
         node = node->next;
     return Position(node);
@@ -160,20 +160,20 @@ POSITION ListBase<TYPE, ARG_TYPE>::FindIndex(INT_PTR nIndex) const
 template <class TYPE, class ARG_TYPE>
 POSITION ListBase<TYPE, ARG_TYPE>::Link(ARG_TYPE value, Node* before)
 {
-    Node* previous = before == nullptr ? m_pTail : before->previous;
+    Node* previous = before == NULL ? tail_ : before->previous;
     Node* node = new Node{TYPE(value), previous, before};
-    (previous == nullptr ? m_pHead : previous->next) = node;
-    (before == nullptr ? m_pTail : before->previous) = node;
-    ++m_nCount;
+    (previous == NULL ? head_ : previous->next) = node;
+    (before == NULL ? tail_ : before->previous) = node;
+    ++count_;
     return Position(node);
 }
 
 template <class TYPE, class ARG_TYPE>
 typename ListBase<TYPE, ARG_TYPE>::Node* ListBase<TYPE, ARG_TYPE>::Unlink(Node* node)
 {
-    (node->previous == nullptr ? m_pHead : node->previous->next) = node->next;
-    (node->next == nullptr ? m_pTail : node->next->previous) = node->previous;
-    --m_nCount;
+    (node->previous == NULL ? head_ : node->previous->next) = node->next;
+    (node->next == NULL ? tail_ : node->next->previous) = node->previous;
+    --count_;
     return node;
 }
 

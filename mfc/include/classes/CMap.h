@@ -48,9 +48,9 @@ public:
     explicit MapBase([[maybe_unused]] INT_PTR nBlockSize = 10) { ASSERT(nBlockSize > 0); }
     ~MapBase() override { RemoveAll(); }
 
-    INT_PTR GetCount() const { return m_nCount; }
-    INT_PTR GetSize() const { return m_nCount; }
-    BOOL IsEmpty() const { return m_nCount == 0; }
+    INT_PTR GetCount() const { return count_; }
+    INT_PTR GetSize() const { return count_; }
+    BOOL IsEmpty() const { return count_ == 0; }
 
     /// FALSE, and rValue unchanged, when there is no such key.
     BOOL Lookup(ARG_KEY key, VALUE& rValue) const;
@@ -61,11 +61,11 @@ public:
     BOOL RemoveKey(ARG_KEY key);
     void RemoveAll();
 
-    POSITION GetStartPosition() const { return Position(m_pOldest); }
+    POSITION GetStartPosition() const { return Position(oldest_); }
     /// The entry at the position, which moves on, to NULL after the last one.
     void GetNextAssoc(POSITION& rNextPosition, KEY& rKey, VALUE& rValue) const;
 
-    UINT GetHashTableSize() const { return m_nTableSize; }
+    UINT GetHashTableSize() const { return tableSize_; }
     /// Only for an empty map. The table grows by itself later.
     void InitHashTable(UINT hashSize, BOOL bAllocNow = TRUE);
 
@@ -76,8 +76,8 @@ protected:
 
     CPair* PLookup(ARG_KEY key) { return Find(key, ::HashKey<ARG_KEY>(key)); }
     const CPair* PLookup(ARG_KEY key) const { return Find(key, ::HashKey<ARG_KEY>(key)); }
-    CPair* PGetFirstAssoc() { return m_pOldest; }
-    const CPair* PGetFirstAssoc() const { return m_pOldest; }
+    CPair* PGetFirstAssoc() { return oldest_; }
+    const CPair* PGetFirstAssoc() const { return oldest_; }
     CPair* PGetNextAssoc(const CPair* pAssocRet) { return After(pAssocRet); }
     const CPair* PGetNextAssoc(const CPair* pAssocRet) const { return After(pAssocRet); }
 
@@ -86,32 +86,32 @@ private:
     {
         Entry(ARG_KEY keyval, UINT keyHash) : CPair(keyval), hash(keyHash) {}
         UINT hash;
-        Entry* chained = nullptr; ///< The next entry of the same slot.
-        Entry* older = nullptr;
-        Entry* newer = nullptr;
+        Entry* chained = NULL; ///< The next entry of the same slot.
+        Entry* older = NULL;
+        Entry* newer = NULL;
     };
 
     static POSITION Position(Entry* entry) { return reinterpret_cast<POSITION>(entry); }
     static Entry* After(const CPair* pair)
     {
-        return pair == nullptr ? nullptr : static_cast<const Entry*>(pair)->newer;
+        return pair == NULL ? NULL : static_cast<const Entry*>(pair)->newer;
     }
     Entry* Find(ARG_KEY key, UINT hash) const;
     void Link(Entry* entry);
     void Resize(UINT slots);
 
-    std::vector<Entry*> m_slots;
-    UINT m_nTableSize = 17;
-    Entry* m_pOldest = nullptr;
-    Entry* m_pNewest = nullptr;
-    INT_PTR m_nCount = 0;
+    std::vector<Entry*> slots_;
+    UINT tableSize_ = 17;
+    Entry* oldest_ = NULL;
+    Entry* newest_ = NULL;
+    INT_PTR count_ = 0;
 };
 
 template <class KEY, class ARG_KEY, class VALUE, class ARG_VALUE>
 BOOL MapBase<KEY, ARG_KEY, VALUE, ARG_VALUE>::Lookup(ARG_KEY key, VALUE& rValue) const
 {
     const CPair* pair = PLookup(key);
-    if (pair == nullptr)
+    if (pair == NULL)
         return FALSE;
     rValue = pair->value;
     return TRUE;
@@ -122,7 +122,7 @@ VALUE& MapBase<KEY, ARG_KEY, VALUE, ARG_VALUE>::operator[](ARG_KEY key)
 {
     const UINT hash = ::HashKey<ARG_KEY>(key);
     Entry* entry = Find(key, hash);
-    if (entry == nullptr) {
+    if (entry == NULL) {
         entry = new Entry(key, hash);
         Link(entry);
     }
@@ -133,15 +133,15 @@ template <class KEY, class ARG_KEY, class VALUE, class ARG_VALUE>
 BOOL MapBase<KEY, ARG_KEY, VALUE, ARG_VALUE>::RemoveKey(ARG_KEY key)
 {
     Entry* entry = Find(key, ::HashKey<ARG_KEY>(key));
-    if (entry == nullptr)
+    if (entry == NULL)
         return FALSE;
-    Entry** link = &m_slots[entry->hash % m_nTableSize];
+    Entry** link = &slots_[entry->hash % tableSize_];
     while (*link != entry)
         link = &(*link)->chained;
     *link = entry->chained;
-    (entry->older == nullptr ? m_pOldest : entry->older->newer) = entry->newer;
-    (entry->newer == nullptr ? m_pNewest : entry->newer->older) = entry->older;
-    --m_nCount;
+    (entry->older == NULL ? oldest_ : entry->older->newer) = entry->newer;
+    (entry->newer == NULL ? newest_ : entry->newer->older) = entry->older;
+    --count_;
     delete entry;
     return TRUE;
 }
@@ -149,11 +149,11 @@ BOOL MapBase<KEY, ARG_KEY, VALUE, ARG_VALUE>::RemoveKey(ARG_KEY key)
 template <class KEY, class ARG_KEY, class VALUE, class ARG_VALUE>
 void MapBase<KEY, ARG_KEY, VALUE, ARG_VALUE>::RemoveAll()
 {
-    m_slots.clear();
-    m_nCount = 0;
-    m_pNewest = nullptr;
-    Entry* entry = std::exchange(m_pOldest, nullptr);
-    while (entry != nullptr)
+    slots_.clear();
+    count_ = 0;
+    newest_ = NULL;
+    Entry* entry = std::exchange(oldest_, nullptr);
+    while (entry != NULL)
         delete std::exchange(entry, entry->newer);
 }
 
@@ -172,10 +172,10 @@ void MapBase<KEY, ARG_KEY, VALUE, ARG_VALUE>::GetNextAssoc(POSITION& rNextPositi
 template <class KEY, class ARG_KEY, class VALUE, class ARG_VALUE>
 void MapBase<KEY, ARG_KEY, VALUE, ARG_VALUE>::InitHashTable(UINT hashSize, BOOL bAllocNow)
 {
-    if (hashSize == 0 || m_nCount != 0)
+    if (hashSize == 0 || count_ != 0)
         AfxThrowInvalidArgException();
-    m_nTableSize = hashSize;
-    m_slots.clear();
+    tableSize_ = hashSize;
+    slots_.clear();
     if (bAllocNow)
         Resize(hashSize);
 }
@@ -184,10 +184,10 @@ template <class KEY, class ARG_KEY, class VALUE, class ARG_VALUE>
 typename MapBase<KEY, ARG_KEY, VALUE, ARG_VALUE>::Entry*
 MapBase<KEY, ARG_KEY, VALUE, ARG_VALUE>::Find(ARG_KEY key, UINT hash) const
 {
-    if (m_slots.empty())
-        return nullptr;
-    Entry* entry = m_slots[hash % m_nTableSize];
-    while (entry != nullptr && (entry->hash != hash || !CompareElements(&entry->key, &key)))
+    if (slots_.empty())
+        return NULL;
+    Entry* entry = slots_[hash % tableSize_];
+    while (entry != NULL && (entry->hash != hash || !CompareElements(&entry->key, &key)))
         entry = entry->chained;
     return entry;
 }
@@ -195,26 +195,26 @@ MapBase<KEY, ARG_KEY, VALUE, ARG_VALUE>::Find(ARG_KEY key, UINT hash) const
 template <class KEY, class ARG_KEY, class VALUE, class ARG_VALUE>
 void MapBase<KEY, ARG_KEY, VALUE, ARG_VALUE>::Link(Entry* entry)
 {
-    if (m_slots.empty())
-        Resize(m_nTableSize);
-    else if (m_nCount >= 2 * static_cast<INT_PTR>(m_nTableSize))
-        Resize(2 * m_nTableSize + 1);
-    Entry*& slot = m_slots[entry->hash % m_nTableSize];
+    if (slots_.empty())
+        Resize(tableSize_);
+    else if (count_ >= 2 * static_cast<INT_PTR>(tableSize_))
+        Resize(2 * tableSize_ + 1);
+    Entry*& slot = slots_[entry->hash % tableSize_];
     entry->chained = slot;
     slot = entry;
-    entry->older = m_pNewest;
-    (m_pNewest == nullptr ? m_pOldest : m_pNewest->newer) = entry;
-    m_pNewest = entry;
-    ++m_nCount;
+    entry->older = newest_;
+    (newest_ == NULL ? oldest_ : newest_->newer) = entry;
+    newest_ = entry;
+    ++count_;
 }
 
 template <class KEY, class ARG_KEY, class VALUE, class ARG_VALUE>
 void MapBase<KEY, ARG_KEY, VALUE, ARG_VALUE>::Resize(UINT slots)
 {
-    m_slots.assign(slots, nullptr);
-    m_nTableSize = slots;
-    for (Entry* entry = m_pOldest; entry != nullptr; entry = entry->newer) {
-        Entry*& slot = m_slots[entry->hash % slots];
+    slots_.assign(slots, nullptr);
+    tableSize_ = slots;
+    for (Entry* entry = oldest_; entry != NULL; entry = entry->newer) {
+        Entry*& slot = slots_[entry->hash % slots];
         entry->chained = slot;
         slot = entry;
     }

@@ -230,7 +230,7 @@ private:
     void AFX_CDECL MessagePlain(PCXSTR format, ...);
     void AFX_CDECL MessagePlain(UINT formatId, ...);
 
-    PXSTR m_pszData; ///< The characters; the bookkeeping of the buffer stands before them.
+    PXSTR data_; ///< The characters; the bookkeeping of the buffer stands before them.
 };
 
 using CStringA = CString;

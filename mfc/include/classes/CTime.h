@@ -57,5 +57,5 @@ public:
     CString FormatGmt(UINT nFormatID) const;
 
 private:
-    __time64_t m_time;
+    __time64_t time_;
 };

@@ -40,5 +40,5 @@ public:
     CString Format(UINT nID) const;
 
 private:
-    __time64_t m_timeSpan;
+    __time64_t span_;
 };

@@ -23,7 +23,7 @@ public:
     BOOL LookupKey(ARG_KEY key, ARG_KEY& rKey) const
     {
         const auto* pair = Base::PLookup(key);
-        if (pair == nullptr)
+        if (pair == NULL)
             return FALSE;
         rKey = pair->key;
         return TRUE;

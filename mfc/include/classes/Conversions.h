@@ -33,7 +33,7 @@ private:
     struct Block;
     void* Allocate(size_t bytes);
 
-    Block* newest_ = nullptr;
+    Block* newest_ = NULL;
 };
 
 inline LPSTR NotConst(LPCSTR text)

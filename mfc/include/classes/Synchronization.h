@@ -102,8 +102,8 @@ public:
     BOOL IsLocked();
 
 private:
-    CSyncObject* m_pObject;
-    BOOL m_bAcquired;
+    CSyncObject* object_;
+    BOOL acquired_;
 };
 
 /// Waits for one or all of several objects, at most 64; critical sections cannot be among them.
@@ -123,7 +123,7 @@ public:
     BOOL IsLocked(DWORD dwItem);
 
 private:
-    std::vector<CSyncObject*> m_objects;
-    std::vector<HANDLE> m_handles;
-    std::vector<BOOL> m_locked;
+    std::vector<CSyncObject*> objects_;
+    std::vector<HANDLE> handles_;
+    std::vector<BOOL> locked_;
 };

@@ -20,10 +20,10 @@ public:
         bool system;
     };
 
-    CWinApp* app = nullptr;         ///< The program's object; not owned.
-    HINSTANCE instance = nullptr;   ///< The program.
-    HINSTANCE resource = nullptr;   ///< Where resources are looked for first.
-    HINSTANCE ownLibrary = nullptr; ///< The class library itself, last in the search.
+    CWinApp* app = NULL;            ///< The program's object; not owned.
+    HINSTANCE instance = NULL;      ///< The program.
+    HINSTANCE resource = NULL;      ///< Where resources are looked for first.
+    HINSTANCE ownLibrary = NULL;    ///< The class library itself, last in the search.
     std::vector<Library> libraries; ///< In the order of their loading. Guarded by lock.
     bool oleStarted = false;        ///< AfxOleInit was called; WinMain ends it.
     CRITICAL_SECTION lock;          ///< For what several threads use.

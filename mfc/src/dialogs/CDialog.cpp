@@ -301,8 +301,8 @@ BOOL CDialog::CreateFromTemplate(LPCDLGTEMPLATE dialogTemplate, CWnd* parent, HI
     afxint::WindowCreation creation(this);
     HWND window = NULL;
     if (creation.IsReady()) {
-        window = ::CreateDialogIndirectParam(module, dialogTemplate, owner,
-                                             &afxint::DialogProcedure, 0);
+        window =
+            ::CreateDialogIndirectParam(module, dialogTemplate, owner, &afxint::DialogProcedure, 0);
     }
     if (window == NULL)
         TRACE("A dialog could not be created, error %u.\n", GetLastError());

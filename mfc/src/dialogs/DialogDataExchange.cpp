@@ -15,7 +15,7 @@ namespace afxint {
 /// The checks belong to the control that was prepared last.
 struct ExchangeAccess
 {
-    static HWND LastControl(const CDataExchange& exchange) { return exchange.m_hWndLastControl; }
+    static HWND LastControl(const CDataExchange& exchange) { return exchange.lastControl_; }
 };
 
 } // namespace afxint

@@ -81,9 +81,9 @@ void ThrowLastError(LPCTSTR file)
 CString afxint::FullPathOf(LPCTSTR name)
 {
     CString path;
-    const DWORD length = ::GetFullPathName(name, 0, nullptr, nullptr);
+    const DWORD length = ::GetFullPathName(name, 0, NULL, NULL);
     const DWORD written =
-        ::GetFullPathName(name, length, path.GetBuffer(static_cast<int>(length)), nullptr);
+        ::GetFullPathName(name, length, path.GetBuffer(static_cast<int>(length)), NULL);
     path.ReleaseBufferSetLength(written < length ? static_cast<int>(written) : 0);
     return path.IsEmpty() ? CString(name) : path;
 }
@@ -102,7 +102,7 @@ CFile::CFile() : CFile(hFileNull)
 {
 }
 
-CFile::CFile(HANDLE hFile) : m_hFile(hFile), m_bCloseOnDelete(hFile != hFileNull)
+CFile::CFile(HANDLE hFile) : m_hFile(hFile), closesOnDelete_(hFile != hFileNull)
 {
 }
 
@@ -115,7 +115,7 @@ CFile::CFile(LPCTSTR lpszFileName, UINT nOpenFlags) : CFile()
 
 CFile::~CFile()
 {
-    if (m_bCloseOnDelete)
+    if (closesOnDelete_)
         Abort();
 }
 
@@ -143,13 +143,13 @@ BOOL CFile::GetStatus(CFileStatus& rStatus) const
     rStatus.m_size =
         (static_cast<ULONGLONG>(information.nFileSizeHigh) << 32) | information.nFileSizeLow;
     rStatus.m_attribute = LOBYTE(information.dwFileAttributes & ~FILE_ATTRIBUTE_NORMAL);
-    lstrcpyn(rStatus.m_szFullName, m_strFileName, _MAX_PATH);
+    lstrcpyn(rStatus.m_szFullName, fileName_, _MAX_PATH);
     return TRUE;
 }
 
 CString CFile::GetFileName() const
 {
-    return ::PathFindFileName(m_strFileName);
+    return ::PathFindFileName(fileName_);
 }
 
 CString CFile::GetFileTitle() const
@@ -159,25 +159,25 @@ CString CFile::GetFileTitle() const
 
 CString CFile::GetFilePath() const
 {
-    return m_strFileName;
+    return fileName_;
 }
 
 void CFile::SetFilePath(LPCTSTR lpszNewName)
 {
-    m_strFileName = lpszNewName;
+    fileName_ = lpszNewName;
 }
 
 BOOL CFile::Open(LPCTSTR lpszFileName, UINT nOpenFlags, CFileException* pError)
 {
     ASSERT(m_hFile == hFileNull);
-    SECURITY_ATTRIBUTES security = {sizeof(security), nullptr, !(nOpenFlags & modeNoInherit)};
+    SECURITY_ATTRIBUTES security = {sizeof(security), NULL, !(nOpenFlags & modeNoInherit)};
     const HANDLE file =
-        lpszFileName == nullptr || *lpszFileName == '\0'
+        lpszFileName == NULL || *lpszFileName == '\0'
             ? (::SetLastError(ERROR_INVALID_NAME), hFileNull)
             : ::CreateFile(lpszFileName, AccessOf(nOpenFlags), SharingOf(nOpenFlags), &security,
-                           DispositionOf(nOpenFlags), AttributesOf(nOpenFlags), nullptr);
+                           DispositionOf(nOpenFlags), AttributesOf(nOpenFlags), NULL);
     if (file == hFileNull) {
-        if (pError != nullptr) {
+        if (pError != NULL) {
             pError->m_lOsError = static_cast<LONG>(::GetLastError());
             pError->m_cause = CFileException::OsErrorToException(pError->m_lOsError);
             pError->m_strFileName = lpszFileName;
@@ -185,8 +185,8 @@ BOOL CFile::Open(LPCTSTR lpszFileName, UINT nOpenFlags, CFileException* pError)
         return FALSE;
     }
     m_hFile = file;
-    m_bCloseOnDelete = TRUE;
-    m_strFileName = afxint::FullPathOf(lpszFileName);
+    closesOnDelete_ = TRUE;
+    fileName_ = afxint::FullPathOf(lpszFileName);
     return TRUE;
 }
 
@@ -241,8 +241,8 @@ void PASCAL CFile::SetStatus(LPCTSTR lpszFileName, const CFileStatus& status)
     }
     if (anyTime) {
         CFile file(::CreateFile(lpszFileName, FILE_WRITE_ATTRIBUTES,
-                                FILE_SHARE_READ | FILE_SHARE_WRITE | FILE_SHARE_DELETE, nullptr,
-                                OPEN_EXISTING, FILE_FLAG_BACKUP_SEMANTICS, nullptr));
+                                FILE_SHARE_READ | FILE_SHARE_WRITE | FILE_SHARE_DELETE, NULL,
+                                OPEN_EXISTING, FILE_FLAG_BACKUP_SEMANTICS, NULL));
         if (file.m_hFile == hFileNull || !::SetFileTime(file, given[0], given[1], given[2]))
             ThrowLastError(lpszFileName);
     }
@@ -267,7 +267,7 @@ CFile* CFile::Duplicate() const
     const HANDLE process = ::GetCurrentProcess();
     Check(::DuplicateHandle(process, m_hFile, process, &handle, 0, FALSE, DUPLICATE_SAME_ACCESS));
     CFile* copy = new CFile(handle);
-    copy->m_strFileName = m_strFileName;
+    copy->fileName_ = fileName_;
     return copy;
 }
 
@@ -295,10 +295,10 @@ UINT CFile::Read(void* lpBuf, UINT nCount)
 {
     if (nCount == 0)
         return 0;
-    if (lpBuf == nullptr)
+    if (lpBuf == NULL)
         AfxThrowInvalidArgException();
     DWORD read = 0;
-    Check(::ReadFile(m_hFile, lpBuf, nCount, &read, nullptr));
+    Check(::ReadFile(m_hFile, lpBuf, nCount, &read, NULL));
     return read;
 }
 
@@ -306,12 +306,12 @@ void CFile::Write(const void* lpBuf, UINT nCount)
 {
     if (nCount == 0)
         return;
-    if (lpBuf == nullptr)
+    if (lpBuf == NULL)
         AfxThrowInvalidArgException();
     DWORD written = 0;
-    Check(::WriteFile(m_hFile, lpBuf, nCount, &written, nullptr));
+    Check(::WriteFile(m_hFile, lpBuf, nCount, &written, NULL));
     if (written != nCount)
-        AfxThrowFileException(CFileException::diskFull, -1, m_strFileName);
+        AfxThrowFileException(CFileException::diskFull, -1, fileName_);
 }
 
 void CFile::LockRange(ULONGLONG dwPos, ULONGLONG dwCount)
@@ -332,7 +332,7 @@ void CFile::Abort()
 {
     if (m_hFile != hFileNull)
         ::CloseHandle(std::exchange(m_hFile, hFileNull));
-    m_strFileName.Empty();
+    fileName_.Empty();
 }
 
 void CFile::Flush()
@@ -344,9 +344,9 @@ void CFile::Flush()
 void CFile::Close()
 {
     const HANDLE file = std::exchange(m_hFile, hFileNull);
-    const CString name = m_strFileName;
-    m_bCloseOnDelete = FALSE;
-    m_strFileName.Empty();
+    const CString name = fileName_;
+    closesOnDelete_ = FALSE;
+    fileName_.Empty();
     if (file != hFileNull && !::CloseHandle(file))
         ThrowLastError(name);
 }
@@ -355,5 +355,5 @@ void CFile::Close()
 void CFile::Check(BOOL succeeded) const
 {
     if (!succeeded)
-        ThrowLastError(m_strFileName);
+        ThrowLastError(fileName_);
 }

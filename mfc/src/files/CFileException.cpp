@@ -117,9 +117,9 @@ void PASCAL CFileException::ThrowErrno(int nErrno, LPCTSTR lpszFileName)
 
 BOOL CFileException::GetErrorMessage(LPTSTR lpszError, UINT nMaxError, PUINT pnHelpContext)
 {
-    if (lpszError == nullptr || nMaxError == 0)
+    if (lpszError == NULL || nMaxError == 0)
         return FALSE;
-    if (pnHelpContext != nullptr)
+    if (pnHelpContext != NULL)
         *pnHelpContext = 0;
     CString text = m_strFileName;
     if (!text.IsEmpty())
@@ -128,8 +128,8 @@ BOOL CFileException::GetErrorMessage(LPTSTR lpszError, UINT nMaxError, PUINT pnH
     const DWORD length =
         m_lOsError <= 0
             ? 0
-            : ::FormatMessage(FORMAT_MESSAGE_FROM_SYSTEM | FORMAT_MESSAGE_IGNORE_INSERTS, nullptr,
-                              m_lOsError, 0, reason.GetBuffer(512), 512, nullptr);
+            : ::FormatMessage(FORMAT_MESSAGE_FROM_SYSTEM | FORMAT_MESSAGE_IGNORE_INSERTS, NULL,
+                              m_lOsError, 0, reason.GetBuffer(512), 512, NULL);
     reason.ReleaseBufferSetLength(static_cast<int>(length));
     if (reason.TrimRight().IsEmpty())
         reason.Format("file error %d", m_cause);

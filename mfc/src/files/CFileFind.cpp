@@ -8,7 +8,7 @@
 IMPLEMENT_DYNAMIC(CFileFind, CObject)
 
 CFileFind::CFileFind()
-    : m_hContext(INVALID_HANDLE_VALUE), m_bHasFound(FALSE), m_bHasNext(FALSE), m_found(), m_next()
+    : context_(INVALID_HANDLE_VALUE), hasFound_(FALSE), hasNext_(FALSE), found_(), next_()
 {
 }
 
@@ -30,7 +30,7 @@ CString CFileFind::GetFileName() const
 
 CString CFileFind::GetFilePath() const
 {
-    return m_strRoot + Found().cFileName;
+    return root_ + Found().cFileName;
 }
 
 CString CFileFind::GetFileTitle() const
@@ -47,7 +47,7 @@ CString CFileFind::GetFileURL() const
 
 CString CFileFind::GetRoot() const
 {
-    CString root = m_strRoot;
+    CString root = root_;
     root.TrimRight('\\');
     return root;
 }
@@ -135,57 +135,57 @@ BOOL CFileFind::IsArchived() const
 
 void CFileFind::Close()
 {
-    m_bHasFound = FALSE;
-    m_bHasNext = FALSE;
-    m_strRoot.Empty();
+    hasFound_ = FALSE;
+    hasNext_ = FALSE;
+    root_.Empty();
     CloseContext();
 }
 
 BOOL CFileFind::FindFile(LPCTSTR pstrName, DWORD /*dwUnused*/)
 {
     Close();
-    if (pstrName == nullptr)
+    if (pstrName == NULL)
         pstrName = "*.*";
-    m_hContext = ::FindFirstFile(pstrName, &m_next);
-    if (m_hContext == INVALID_HANDLE_VALUE)
+    context_ = ::FindFirstFile(pstrName, &next_);
+    if (context_ == INVALID_HANDLE_VALUE)
         return FALSE;
-    m_bHasNext = TRUE;
+    hasNext_ = TRUE;
     const CString pattern = afxint::FullPathOf(pstrName);
-    m_strRoot = pattern.Left(static_cast<int>(::PathFindFileName(pattern) - pattern.GetString()));
+    root_ = pattern.Left(static_cast<int>(::PathFindFileName(pattern) - pattern.GetString()));
     return TRUE;
 }
 
 BOOL CFileFind::FindNextFile()
 {
-    if (!m_bHasNext) {
-        ::SetLastError(m_hContext == INVALID_HANDLE_VALUE ? ERROR_INVALID_HANDLE
-                                                          : ERROR_NO_MORE_FILES);
+    if (!hasNext_) {
+        ::SetLastError(context_ == INVALID_HANDLE_VALUE ? ERROR_INVALID_HANDLE
+                                                        : ERROR_NO_MORE_FILES);
         return FALSE;
     }
-    m_found = m_next;
-    m_bHasFound = TRUE;
-    m_bHasNext = ::FindNextFile(m_hContext, &m_next);
-    return m_bHasNext;
+    found_ = next_;
+    hasFound_ = TRUE;
+    hasNext_ = ::FindNextFile(context_, &next_);
+    return hasNext_;
 }
 
 void CFileFind::CloseContext()
 {
-    if (m_hContext != INVALID_HANDLE_VALUE)
-        ::FindClose(std::exchange(m_hContext, INVALID_HANDLE_VALUE));
+    if (context_ != INVALID_HANDLE_VALUE)
+        ::FindClose(std::exchange(context_, INVALID_HANDLE_VALUE));
 }
 
 const WIN32_FIND_DATA& CFileFind::Found() const
 {
-    if (!m_bHasFound)
+    if (!hasFound_)
         AfxThrowInvalidArgException();
-    return m_found;
+    return found_;
 }
 
 BOOL CFileFind::GetTime(FILETIME WIN32_FIND_DATA::*which, FILETIME* result) const
 {
-    if (!m_bHasFound || result == nullptr)
+    if (!hasFound_ || result == NULL)
         return FALSE;
-    *result = m_found.*which;
+    *result = found_.*which;
     return TRUE;
 }
 

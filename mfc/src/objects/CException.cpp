@@ -38,25 +38,25 @@ int CException::ReportError(UINT nType, UINT nMessageID)
     return AfxMessageBox(nMessageID != 0 ? nMessageID : AFX_IDP_NO_ERROR_AVAILABLE, nType);
 }
 
-CSimpleException::CSimpleException() : m_nMessageID(0)
+CSimpleException::CSimpleException() : messageId_(0)
 {
 }
 
-CSimpleException::CSimpleException(BOOL bAutoDelete) : CException(bAutoDelete), m_nMessageID(0)
+CSimpleException::CSimpleException(BOOL bAutoDelete) : CException(bAutoDelete), messageId_(0)
 {
 }
 
 CSimpleException::CSimpleException(BOOL bAutoDelete, UINT nMessageID)
-    : CException(bAutoDelete), m_nMessageID(nMessageID)
+    : CException(bAutoDelete), messageId_(nMessageID)
 {
 }
 
 BOOL CSimpleException::GetErrorMessage(LPTSTR lpszError, UINT nMaxError, PUINT pnHelpContext)
 {
     CException::GetErrorMessage(lpszError, nMaxError, pnHelpContext);
-    if (m_nMessageID == 0 || lpszError == NULL || nMaxError == 0)
+    if (messageId_ == 0 || lpszError == NULL || nMaxError == 0)
         return FALSE;
-    return AfxLoadString(m_nMessageID, lpszError, nMaxError) > 0;
+    return AfxLoadString(messageId_, lpszError, nMaxError) > 0;
 }
 
 CMemoryException::CMemoryException() : CMemoryException(TRUE)

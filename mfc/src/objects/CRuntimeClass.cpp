@@ -6,7 +6,7 @@
 
 namespace {
 
-afxint::ClassRegistration* firstRegistration = nullptr; // Guarded by the module's lock.
+afxint::ClassRegistration* firstRegistration = NULL; // Guarded by the module's lock.
 
 } // namespace
 
@@ -28,7 +28,7 @@ CRuntimeClass* CRuntimeClass::FromName(LPCSTR lpszClassName)
     if (lpszClassName == NULL)
         return NULL;
     const afxint::ScopedLock lock(afxint::Module().lock);
-    for (const auto* entry = firstRegistration; entry != nullptr; entry = entry->next_) {
+    for (const auto* entry = firstRegistration; entry != NULL; entry = entry->next_) {
         if (strcmp(entry->class_->m_lpszClassName, lpszClassName) == 0)
             return entry->class_;
     }
@@ -69,7 +69,7 @@ ClassRegistration::~ClassRegistration()
 {
     const ScopedLock lock(Module().lock);
     ClassRegistration** link = &firstRegistration;
-    while (*link != nullptr && *link != this)
+    while (*link != NULL && *link != this)
         link = &(*link)->next_;
     if (*link == this)
         *link = next_;

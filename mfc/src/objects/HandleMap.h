@@ -33,14 +33,14 @@ public:
     Object* FindPermanent(Handle handle) const
     {
         const auto found = permanent_.find(handle);
-        return found == permanent_.end() ? nullptr : found->second;
+        return found == permanent_.end() ? NULL : found->second;
     }
 
     /// The object of the handle, a temporary one when nobody owns it; NULL only for a NULL handle.
     Object* FindOrWrap(Handle handle)
     {
-        if (handle == nullptr)
-            return nullptr;
+        if (handle == NULL)
+            return NULL;
         if (Object* owner = FindPermanent(handle))
             return owner;
         const int depth = HandlerDepth();

@@ -13,8 +13,8 @@ template <class Map>
 BOOL TakeHandle(Map& map, typename Map::Handle handle, typename Map::Object* owner,
                 typename Map::Handle& member)
 {
-    ASSERT(member == nullptr);
-    if (handle == nullptr)
+    ASSERT(member == NULL);
+    if (handle == NULL)
         return FALSE;
     member = handle;
     map.Add(handle, owner);
@@ -27,7 +27,7 @@ typename Map::Handle GiveHandle(Map& map, const typename Map::Object* owner,
                                 typename Map::Handle& member)
 {
     const auto handle = std::exchange(member, nullptr);
-    if (handle != nullptr && map.FindPermanent(handle) == owner)
+    if (handle != NULL && map.FindPermanent(handle) == owner)
         map.Remove(handle);
     return handle;
 }

@@ -20,11 +20,11 @@ using afxint::Release;
 using afxint::SetLengthOf;
 using afxint::Share;
 
-CString::CString() : m_pszData(Nothing())
+CString::CString() : data_(Nothing())
 {
 }
 
-CString::CString(const CString& strSrc) : m_pszData(Share(strSrc.m_pszData))
+CString::CString(const CString& strSrc) : data_(Share(strSrc.data_))
 {
 }
 
@@ -45,17 +45,17 @@ CString::CString(PCXSTR pch, int nLength) : CString()
 
 CString::~CString()
 {
-    Release(m_pszData);
+    Release(data_);
 }
 
 CString& CString::operator=(const CString& strSrc)
 {
-    if (m_pszData == strSrc.m_pszData)
+    if (data_ == strSrc.data_)
         return *this;
-    if (IsLocked(m_pszData))
+    if (IsLocked(data_))
         SetString(strSrc.GetString(), strSrc.GetLength());
     else
-        Release(std::exchange(m_pszData, Share(strSrc.m_pszData)));
+        Release(std::exchange(data_, Share(strSrc.data_)));
     return *this;
 }
 
@@ -79,7 +79,7 @@ CString& CString::operator+=(PCXSTR pszSrc)
 
 int CString::GetLength() const
 {
-    return HeadOf(m_pszData).length;
+    return HeadOf(data_).length;
 }
 
 bool CString::IsEmpty() const
@@ -89,17 +89,17 @@ bool CString::IsEmpty() const
 
 void CString::Empty()
 {
-    if (IsLocked(m_pszData))
-        SetLengthOf(m_pszData, 0);
+    if (IsLocked(data_))
+        SetLengthOf(data_, 0);
     else
-        Release(std::exchange(m_pszData, Nothing()));
+        Release(std::exchange(data_, Nothing()));
 }
 
 CString::XCHAR CString::GetAt(int iChar) const
 {
     if (iChar < 0 || iChar > GetLength())
         AfxThrowInvalidArgException();
-    return m_pszData[iChar];
+    return data_[iChar];
 }
 
 CString::XCHAR CString::operator[](int iChar) const
@@ -111,18 +111,18 @@ void CString::SetAt(int iChar, XCHAR ch)
 {
     if (iChar < 0 || iChar >= GetLength())
         AfxThrowInvalidArgException();
-    MakeWritable(m_pszData, GetLength());
-    m_pszData[iChar] = ch;
+    MakeWritable(data_, GetLength());
+    data_[iChar] = ch;
 }
 
 CString::PCXSTR CString::GetString() const
 {
-    return m_pszData;
+    return data_;
 }
 
 CString::operator PCXSTR() const
 {
-    return m_pszData;
+    return data_;
 }
 
 void CString::SetString(PCXSTR pszSrc)
@@ -132,7 +132,7 @@ void CString::SetString(PCXSTR pszSrc)
 
 void CString::SetString(PCXSTR pszSrc, int nLength)
 {
-    afxint::Assign(m_pszData, pszSrc, nLength);
+    afxint::Assign(data_, pszSrc, nLength);
 }
 
 void CString::Append(PCXSTR pszSrc)
@@ -142,31 +142,31 @@ void CString::Append(PCXSTR pszSrc)
 
 void CString::Append(PCXSTR pszSrc, int nLength)
 {
-    if (nLength < 0 || (pszSrc == nullptr && nLength > 0))
+    if (nLength < 0 || (pszSrc == NULL && nLength > 0))
         AfxThrowInvalidArgException();
     if (nLength > 0)
-        AppendTo(m_pszData, pszSrc, static_cast<int>(strnlen(pszSrc, nLength)));
+        AppendTo(data_, pszSrc, static_cast<int>(strnlen(pszSrc, nLength)));
 }
 
 void CString::Append(const CString& strSrc)
 {
-    if (m_pszData == Nothing())
+    if (data_ == Nothing())
         *this = strSrc;
     else
-        AppendTo(m_pszData, strSrc.m_pszData, strSrc.GetLength());
+        AppendTo(data_, strSrc.data_, strSrc.GetLength());
 }
 
 void CString::AppendChar(XCHAR ch)
 {
-    AppendTo(m_pszData, &ch, 1);
+    AppendTo(data_, &ch, 1);
 }
 
 CString::PXSTR CString::GetBuffer(int nMinBufferLength)
 {
     if (nMinBufferLength < 0)
         AfxThrowInvalidArgException();
-    MakeWritable(m_pszData, nMinBufferLength);
-    return m_pszData;
+    MakeWritable(data_, nMinBufferLength);
+    return data_;
 }
 
 CString::PXSTR CString::GetBuffer()
@@ -177,14 +177,14 @@ CString::PXSTR CString::GetBuffer()
 CString::PXSTR CString::GetBufferSetLength(int nLength)
 {
     GetBuffer(nLength);
-    SetLengthOf(m_pszData, nLength);
-    return m_pszData;
+    SetLengthOf(data_, nLength);
+    return data_;
 }
 
 void CString::ReleaseBuffer(int nNewLength)
 {
     if (nNewLength == -1)
-        nNewLength = static_cast<int>(strnlen(m_pszData, GetAllocLength()));
+        nNewLength = static_cast<int>(strnlen(data_, GetAllocLength()));
     ReleaseBufferSetLength(nNewLength);
 }
 
@@ -192,41 +192,41 @@ void CString::ReleaseBufferSetLength(int nNewLength)
 {
     if (nNewLength < 0 || nNewLength > GetAllocLength())
         AfxThrowInvalidArgException();
-    if (nNewLength == GetLength() && m_pszData[nNewLength] == '\0')
+    if (nNewLength == GetLength() && data_[nNewLength] == '\0')
         return;
-    MakeWritable(m_pszData, nNewLength);
-    SetLengthOf(m_pszData, nNewLength);
+    MakeWritable(data_, nNewLength);
+    SetLengthOf(data_, nNewLength);
 }
 
 CString::PXSTR CString::LockBuffer()
 {
     GetBuffer();
-    HeadOf(m_pszData).references = locked;
-    return m_pszData;
+    HeadOf(data_).references = locked;
+    return data_;
 }
 
 void CString::UnlockBuffer()
 {
-    if (IsLocked(m_pszData))
-        HeadOf(m_pszData).references = 1;
+    if (IsLocked(data_))
+        HeadOf(data_).references = 1;
 }
 
 int CString::GetAllocLength() const
 {
-    return HeadOf(m_pszData).capacity;
+    return HeadOf(data_).capacity;
 }
 
 void CString::Preallocate(int nLength)
 {
-    MakeWritable(m_pszData, nLength);
+    MakeWritable(data_, nLength);
 }
 
 void CString::FreeExtra()
 {
     const int length = GetLength();
-    if (!IsOwned(m_pszData) || IsLocked(m_pszData) || GetAllocLength() == length)
+    if (!IsOwned(data_) || IsLocked(data_) || GetAllocLength() == length)
         return;
-    Release(std::exchange(m_pszData, CopyOf(m_pszData, length, length)));
+    Release(std::exchange(data_, CopyOf(data_, length, length)));
 }
 
 void CString::Truncate(int nNewLength)
@@ -235,8 +235,8 @@ void CString::Truncate(int nNewLength)
         AfxThrowInvalidArgException();
     if (nNewLength >= GetLength())
         return;
-    MakeWritable(m_pszData, nNewLength);
-    SetLengthOf(m_pszData, nNewLength);
+    MakeWritable(data_, nNewLength);
+    SetLengthOf(data_, nNewLength);
 }
 
 void CString::CopyChars(XCHAR* pchDest, const XCHAR* pchSrc, int nChars)
@@ -260,7 +260,7 @@ void CString::CopyCharsOverlapped(XCHAR* pchDest, const XCHAR* pchSrc, int nChar
 
 int CString::StringLength(PCXSTR psz)
 {
-    if (psz == nullptr)
+    if (psz == NULL)
         return 0;
     const size_t length = strlen(psz);
     if (length > longest)

@@ -58,23 +58,23 @@ CString Concatenate(std::string_view left, std::string_view right)
 
 CString& CString::MakeUpper()
 {
-    MakeWritable(m_pszData, GetLength());
-    ChangeCase(m_pszData, GetLength(), _mbctoupper, ::CharUpperBuff);
+    MakeWritable(data_, GetLength());
+    ChangeCase(data_, GetLength(), _mbctoupper, ::CharUpperBuff);
     return *this;
 }
 
 CString& CString::MakeLower()
 {
-    MakeWritable(m_pszData, GetLength());
-    ChangeCase(m_pszData, GetLength(), _mbctolower, ::CharLowerBuff);
+    MakeWritable(data_, GetLength());
+    ChangeCase(data_, GetLength(), _mbctolower, ::CharLowerBuff);
     return *this;
 }
 
 CString& CString::MakeReverse()
 {
     const CString forward(*this);
-    MakeWritable(m_pszData, GetLength());
-    char* to = m_pszData + GetLength();
+    MakeWritable(data_, GetLength());
+    char* to = data_ + GetLength();
     ForEachCharacter(ViewOf(forward), 0, [&](int, std::string_view character) {
         to -= character.size();
         character.copy(to, character.size());
@@ -211,9 +211,9 @@ int CString::Delete(int iIndex, int nCount)
     nCount = min(max(nCount, 0), length - iIndex);
     if (nCount <= 0)
         return length;
-    MakeWritable(m_pszData, length);
-    memmove(m_pszData + iIndex, m_pszData + iIndex + nCount, length - iIndex - nCount);
-    SetLengthOf(m_pszData, length - nCount);
+    MakeWritable(data_, length);
+    memmove(data_ + iIndex, data_ + iIndex + nCount, length - iIndex - nCount);
+    SetLengthOf(data_, length - nCount);
     return length - nCount;
 }
 

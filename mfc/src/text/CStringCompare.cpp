@@ -10,7 +10,7 @@ namespace {
 int CompareOrThrow(int (*compare)(const unsigned char*, const unsigned char*), LPCSTR left,
                    LPCSTR right)
 {
-    if (right == nullptr)
+    if (right == NULL)
         AfxThrowInvalidArgException();
     return compare(reinterpret_cast<const unsigned char*>(left),
                    reinterpret_cast<const unsigned char*>(right));
@@ -19,29 +19,29 @@ int CompareOrThrow(int (*compare)(const unsigned char*, const unsigned char*), L
 /// Order by characters; NULL counts as empty.
 int CompareText(LPCSTR left, LPCSTR right)
 {
-    return CompareOrThrow(_mbscmp, left == nullptr ? "" : left, right == nullptr ? "" : right);
+    return CompareOrThrow(_mbscmp, left == NULL ? "" : left, right == NULL ? "" : right);
 }
 
 } // namespace
 
 int CString::Compare(PCXSTR psz) const
 {
-    return CompareOrThrow(_mbscmp, m_pszData, psz);
+    return CompareOrThrow(_mbscmp, data_, psz);
 }
 
 int CString::CompareNoCase(PCXSTR psz) const
 {
-    return CompareOrThrow(_mbsicmp, m_pszData, psz);
+    return CompareOrThrow(_mbsicmp, data_, psz);
 }
 
 int CString::Collate(PCXSTR psz) const
 {
-    return CompareOrThrow(_mbscoll, m_pszData, psz);
+    return CompareOrThrow(_mbscoll, data_, psz);
 }
 
 int CString::CollateNoCase(PCXSTR psz) const
 {
-    return CompareOrThrow(_mbsicoll, m_pszData, psz);
+    return CompareOrThrow(_mbsicoll, data_, psz);
 }
 
 bool operator==(const CString& str1, const CString& str2)

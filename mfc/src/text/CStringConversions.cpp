@@ -14,16 +14,15 @@ using afxint::Narrowed;
 std::string afxint::Narrowed(std::wstring_view text)
 {
     const int length = static_cast<int>(text.size());
-    const int needed =
-        ::WideCharToMultiByte(CP_ACP, 0, text.data(), length, nullptr, 0, nullptr, nullptr);
+    const int needed = ::WideCharToMultiByte(CP_ACP, 0, text.data(), length, NULL, 0, NULL, NULL);
     std::string narrow(needed, '\0');
-    ::WideCharToMultiByte(CP_ACP, 0, text.data(), length, narrow.data(), needed, nullptr, nullptr);
+    ::WideCharToMultiByte(CP_ACP, 0, text.data(), length, narrow.data(), needed, NULL, NULL);
     return narrow;
 }
 
 CString::CString(PCYSTR pch, int nLength) : CString()
 {
-    if (nLength < 0 || (pch == nullptr && nLength > 0))
+    if (nLength < 0 || (pch == NULL && nLength > 0))
         AfxThrowInvalidArgException();
     const std::string narrow = Narrowed({pch, static_cast<size_t>(nLength)});
     SetString(narrow.data(), static_cast<int>(narrow.size()));
@@ -31,17 +30,17 @@ CString::CString(PCYSTR pch, int nLength) : CString()
 
 BSTR CString::AllocSysString() const
 {
-    const int needed = ::MultiByteToWideChar(CP_ACP, 0, m_pszData, GetLength(), nullptr, 0);
-    BSTR result = ::SysAllocStringLen(nullptr, needed);
-    if (result == nullptr)
+    const int needed = ::MultiByteToWideChar(CP_ACP, 0, data_, GetLength(), NULL, 0);
+    BSTR result = ::SysAllocStringLen(NULL, needed);
+    if (result == NULL)
         AfxThrowMemoryException();
-    ::MultiByteToWideChar(CP_ACP, 0, m_pszData, GetLength(), result, needed);
+    ::MultiByteToWideChar(CP_ACP, 0, data_, GetLength(), result, needed);
     return result;
 }
 
 BSTR CString::SetSysString(BSTR* pbstr) const
 {
-    if (pbstr == nullptr)
+    if (pbstr == NULL)
         AfxThrowInvalidArgException();
     BSTR result = AllocSysString();
     ::SysFreeString(std::exchange(*pbstr, result));
@@ -50,19 +49,19 @@ BSTR CString::SetSysString(BSTR* pbstr) const
 
 void CString::AnsiToOem()
 {
-    MakeWritable(m_pszData, GetLength());
-    ::CharToOemBuff(m_pszData, m_pszData, GetLength());
+    MakeWritable(data_, GetLength());
+    ::CharToOemBuff(data_, data_, GetLength());
 }
 
 void CString::OemToAnsi()
 {
-    MakeWritable(m_pszData, GetLength());
-    ::OemToCharBuff(m_pszData, m_pszData, GetLength());
+    MakeWritable(data_, GetLength());
+    ::OemToCharBuff(data_, data_, GetLength());
 }
 
 CString& CString::Assign(PCYSTR text)
 {
-    if (text == nullptr) {
+    if (text == NULL) {
         Empty();
     } else if (IS_INTRESOURCE(text)) {
         LoadString(LOWORD(reinterpret_cast<UINT_PTR>(text)));

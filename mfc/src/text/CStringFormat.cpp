@@ -21,7 +21,7 @@ CString afxint::LoadFormat(UINT id)
 
 void CString::FormatV(PCXSTR pszFormat, va_list args)
 {
-    if (pszFormat == nullptr)
+    if (pszFormat == NULL)
         AfxThrowInvalidArgException();
     va_list measured;
     va_copy(measured, args);
@@ -37,14 +37,14 @@ void CString::FormatV(PCXSTR pszFormat, va_list args)
 
 void CString::FormatMessageV(PCXSTR pszFormat, va_list* pArgList)
 {
-    if (pszFormat == nullptr)
+    if (pszFormat == NULL)
         AfxThrowInvalidArgException();
-    LPTSTR text = nullptr;
+    LPTSTR text = NULL;
     ::SetLastError(ERROR_SUCCESS);
     ::FormatMessage(FORMAT_MESSAGE_FROM_STRING | FORMAT_MESSAGE_ALLOCATE_BUFFER, pszFormat, 0, 0,
                     reinterpret_cast<LPTSTR>(&text), 0, pArgList);
     const DWORD error = ::GetLastError();
-    if (text == nullptr && error != ERROR_SUCCESS && error != emptyMessage)
+    if (text == NULL && error != ERROR_SUCCESS && error != emptyMessage)
         AfxThrowMemoryException();
     SetString(text);
     ::LocalFree(text);

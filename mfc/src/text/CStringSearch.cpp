@@ -22,7 +22,7 @@ CString CString::Mid(int iFirst, int nCount) const
     const int length = GetLength();
     iFirst = min(max(iFirst, 0), length);
     nCount = min(max(nCount, 0), length - iFirst);
-    return nCount == length ? *this : CString(m_pszData + iFirst, nCount);
+    return nCount == length ? *this : CString(data_ + iFirst, nCount);
 }
 
 CString CString::Left(int nCount) const
@@ -38,7 +38,7 @@ CString CString::Right(int nCount) const
 
 CString CString::SpanIncluding(PCXSTR pszCharSet) const
 {
-    if (pszCharSet == nullptr)
+    if (pszCharSet == NULL)
         AfxThrowInvalidArgException();
     return Left(FindCharacter(ViewOf(*this), 0, [=](std::string_view character) {
         return !Contains(pszCharSet, character);
@@ -47,7 +47,7 @@ CString CString::SpanIncluding(PCXSTR pszCharSet) const
 
 CString CString::SpanExcluding(PCXSTR pszCharSet) const
 {
-    if (pszCharSet == nullptr)
+    if (pszCharSet == NULL)
         AfxThrowInvalidArgException();
     return Left(FindCharacter(ViewOf(*this), 0, [=](std::string_view character) {
         return Contains(pszCharSet, character);
@@ -76,7 +76,7 @@ CString CString::Tokenize(PCXSTR pszTokens, int& iStart) const
 
 int CString::Find(PCXSTR pszSub, int iStart) const
 {
-    return pszSub == nullptr ? -1 : FindText(ViewOf(*this), pszSub, iStart);
+    return pszSub == NULL ? -1 : FindText(ViewOf(*this), pszSub, iStart);
 }
 
 int CString::Find(XCHAR ch, int iStart) const
@@ -97,7 +97,7 @@ int CString::ReverseFind(XCHAR ch) const
 
 int CString::FindOneOf(PCXSTR pszCharSet) const
 {
-    if (pszCharSet == nullptr)
+    if (pszCharSet == NULL)
         AfxThrowInvalidArgException();
     const int found = FindCharacter(ViewOf(*this), 0, [=](std::string_view character) {
         return Contains(pszCharSet, character);

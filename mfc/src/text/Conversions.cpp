@@ -12,7 +12,7 @@ Char* RoomFor(size_t characters, Char* buffer, int bufferLength)
     if (characters <= static_cast<size_t>(bufferLength))
         return buffer;
     void* memory = malloc(characters * sizeof(Char));
-    if (memory == nullptr)
+    if (memory == NULL)
         AfxThrowMemoryException();
     return static_cast<Char*>(memory);
 }
@@ -21,9 +21,9 @@ Char* RoomFor(size_t characters, Char* buffer, int bufferLength)
 
 LPWSTR Widen(LPCSTR text, UINT codePage, LPWSTR buffer, int bufferLength)
 {
-    if (text == nullptr)
-        return nullptr;
-    const int needed = ::MultiByteToWideChar(codePage, 0, text, -1, nullptr, 0);
+    if (text == NULL)
+        return NULL;
+    const int needed = ::MultiByteToWideChar(codePage, 0, text, -1, NULL, 0);
     if (needed <= 0)
         AfxThrowInvalidArgException();
     LPWSTR wide = RoomFor(needed, buffer, bufferLength);
@@ -33,20 +33,20 @@ LPWSTR Widen(LPCSTR text, UINT codePage, LPWSTR buffer, int bufferLength)
 
 LPSTR Narrow(LPCWSTR text, UINT codePage, LPSTR buffer, int bufferLength)
 {
-    if (text == nullptr)
-        return nullptr;
-    const int needed = ::WideCharToMultiByte(codePage, 0, text, -1, nullptr, 0, nullptr, nullptr);
+    if (text == NULL)
+        return NULL;
+    const int needed = ::WideCharToMultiByte(codePage, 0, text, -1, NULL, 0, NULL, NULL);
     if (needed <= 0)
         AfxThrowInvalidArgException();
     LPSTR narrow = RoomFor(needed, buffer, bufferLength);
-    ::WideCharToMultiByte(codePage, 0, text, -1, narrow, needed, nullptr, nullptr);
+    ::WideCharToMultiByte(codePage, 0, text, -1, narrow, needed, NULL, NULL);
     return narrow;
 }
 
 LPSTR Copy(LPCSTR text, LPSTR buffer, int bufferLength)
 {
-    if (text == nullptr)
-        return nullptr;
+    if (text == NULL)
+        return NULL;
     const size_t characters = strlen(text) + 1;
     LPSTR copy = RoomFor(characters, buffer, bufferLength);
     memcpy(copy, text, characters);
@@ -55,8 +55,8 @@ LPSTR Copy(LPCSTR text, LPSTR buffer, int bufferLength)
 
 LPWSTR Copy(LPCWSTR text, LPWSTR buffer, int bufferLength)
 {
-    if (text == nullptr)
-        return nullptr;
+    if (text == NULL)
+        return NULL;
     const size_t characters = wcslen(text) + 1;
     LPWSTR copy = RoomFor(characters, buffer, bufferLength);
     memcpy(copy, text, characters * sizeof(wchar_t));
@@ -77,7 +77,7 @@ struct ConversionScope::Block
 
 ConversionScope::~ConversionScope()
 {
-    while (newest_ != nullptr) {
+    while (newest_ != NULL) {
         Block* older = newest_->older;
         free(newest_);
         newest_ = older;
@@ -86,8 +86,8 @@ ConversionScope::~ConversionScope()
 
 LPWSTR ConversionScope::Widen(LPCSTR text)
 {
-    if (text == nullptr)
-        return nullptr;
+    if (text == NULL)
+        return NULL;
     // No text has more UTF-16 units than bytes.
     const int room = static_cast<int>(strlen(text)) + 1;
     auto* wide = static_cast<LPWSTR>(Allocate(room * sizeof(wchar_t)));
@@ -98,20 +98,20 @@ LPWSTR ConversionScope::Widen(LPCSTR text)
 
 LPSTR ConversionScope::Narrow(LPCWSTR text)
 {
-    if (text == nullptr)
-        return nullptr;
-    const int room = ::WideCharToMultiByte(CP_ACP, 0, text, -1, nullptr, 0, nullptr, nullptr);
+    if (text == NULL)
+        return NULL;
+    const int room = ::WideCharToMultiByte(CP_ACP, 0, text, -1, NULL, 0, NULL, NULL);
     if (room <= 0)
         AfxThrowInvalidArgException();
     auto* narrow = static_cast<LPSTR>(Allocate(room));
-    ::WideCharToMultiByte(CP_ACP, 0, text, -1, narrow, room, nullptr, nullptr);
+    ::WideCharToMultiByte(CP_ACP, 0, text, -1, narrow, room, NULL, NULL);
     return narrow;
 }
 
 void* ConversionScope::Allocate(size_t bytes)
 {
     auto* block = static_cast<Block*>(malloc(sizeof(Block) + bytes));
-    if (block == nullptr)
+    if (block == NULL)
         AfxThrowMemoryException();
     block->older = newest_;
     newest_ = block;
@@ -122,15 +122,15 @@ void* ConversionScope::Allocate(size_t bytes)
 
 BSTR A2BSTR(LPCSTR lp)
 {
-    return lp == nullptr ? nullptr : W2BSTR(CA2W(lp));
+    return lp == NULL ? NULL : W2BSTR(CA2W(lp));
 }
 
 BSTR W2BSTR(LPCWSTR lp)
 {
-    if (lp == nullptr)
-        return nullptr;
+    if (lp == NULL)
+        return NULL;
     BSTR result = ::SysAllocString(lp);
-    if (result == nullptr)
+    if (result == NULL)
         AfxThrowMemoryException();
     return result;
 }

@@ -15,7 +15,7 @@ inline std::string_view ViewOf(const CString& string)
 /// The text up to its terminator; NULL counts as empty.
 inline std::string_view ViewOf(LPCSTR text)
 {
-    return text == nullptr ? std::string_view() : std::string_view(text);
+    return text == NULL ? std::string_view() : std::string_view(text);
 }
 
 /// Whether the C library's code page is one of those whose characters may have two bytes.

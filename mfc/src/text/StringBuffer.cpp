@@ -13,7 +13,7 @@ namespace {
 char* Allocate(int capacity)
 {
     void* memory = malloc(sizeof(Buffer) + static_cast<size_t>(capacity) + 1);
-    if (memory == nullptr)
+    if (memory == NULL)
         AfxThrowMemoryException();
     Buffer* head = ::new (memory) Buffer{1, 0, capacity};
     char* data = reinterpret_cast<char*>(head + 1);
@@ -72,7 +72,7 @@ void MakeWritable(char*& data, int capacity)
 
 void Assign(char*& data, const char* text, int length)
 {
-    if (length < 0 || (text == nullptr && length > 0))
+    if (length < 0 || (text == NULL && length > 0))
         AfxThrowInvalidArgException();
     if (IsOwned(data) && HeadOf(data).capacity >= length) {
         if (length > 0)

@@ -135,9 +135,9 @@ BOOL CCriticalSection::Lock(DWORD /*dwTimeout*/)
 }
 
 CSingleLock::CSingleLock(CSyncObject* pObject, BOOL bInitialLock)
-    : m_pObject(pObject), m_bAcquired(FALSE)
+    : object_(pObject), acquired_(FALSE)
 {
-    if (pObject == nullptr)
+    if (pObject == NULL)
         AfxThrowInvalidArgException();
     if (bInitialLock)
         Lock();
@@ -150,39 +150,39 @@ CSingleLock::~CSingleLock()
 
 BOOL CSingleLock::Lock(DWORD dwTimeOut)
 {
-    m_bAcquired = m_pObject->Lock(dwTimeOut);
-    return m_bAcquired;
+    acquired_ = object_->Lock(dwTimeOut);
+    return acquired_;
 }
 
 BOOL CSingleLock::Unlock()
 {
-    if (m_bAcquired)
-        m_bAcquired = !m_pObject->Unlock();
-    return !m_bAcquired;
+    if (acquired_)
+        acquired_ = !object_->Unlock();
+    return !acquired_;
 }
 
 BOOL CSingleLock::Unlock(LONG lCount, LPLONG lPrevCount)
 {
-    if (m_bAcquired)
-        m_bAcquired = !m_pObject->Unlock(lCount, lPrevCount);
-    return !m_bAcquired;
+    if (acquired_)
+        acquired_ = !object_->Unlock(lCount, lPrevCount);
+    return !acquired_;
 }
 
 BOOL CSingleLock::IsLocked()
 {
-    return m_bAcquired;
+    return acquired_;
 }
 
 CMultiLock::CMultiLock(CSyncObject* ppObjects[], DWORD dwCount, BOOL bInitialLock)
 {
-    if (ppObjects == nullptr || dwCount == 0 || dwCount > MAXIMUM_WAIT_OBJECTS)
+    if (ppObjects == NULL || dwCount == 0 || dwCount > MAXIMUM_WAIT_OBJECTS)
         AfxThrowInvalidArgException();
     for (DWORD i = 0; i < dwCount; ++i) {
-        if (ppObjects[i] == nullptr || ppObjects[i]->IsKindOf(RUNTIME_CLASS(CCriticalSection)))
+        if (ppObjects[i] == NULL || ppObjects[i]->IsKindOf(RUNTIME_CLASS(CCriticalSection)))
             AfxThrowInvalidArgException();
-        m_objects.push_back(ppObjects[i]);
-        m_handles.push_back(*ppObjects[i]);
-        m_locked.push_back(FALSE);
+        objects_.push_back(ppObjects[i]);
+        handles_.push_back(*ppObjects[i]);
+        locked_.push_back(FALSE);
     }
     if (bInitialLock)
         Lock();
@@ -195,28 +195,28 @@ CMultiLock::~CMultiLock()
 
 DWORD CMultiLock::Lock(DWORD dwTimeOut, BOOL bWaitForAll, DWORD dwWakeMask)
 {
-    const DWORD count = static_cast<DWORD>(m_handles.size());
+    const DWORD count = static_cast<DWORD>(handles_.size());
     const DWORD result =
-        dwWakeMask == 0 ? ::WaitForMultipleObjects(count, m_handles.data(), bWaitForAll, dwTimeOut)
-                        : ::MsgWaitForMultipleObjects(count, m_handles.data(), bWaitForAll,
+        dwWakeMask == 0 ? ::WaitForMultipleObjects(count, handles_.data(), bWaitForAll, dwTimeOut)
+                        : ::MsgWaitForMultipleObjects(count, handles_.data(), bWaitForAll,
                                                       dwTimeOut, dwWakeMask);
     const DWORD base = result >= WAIT_ABANDONED_0 ? WAIT_ABANDONED_0 : WAIT_OBJECT_0;
     if (result - base >= count) // A message, the time-out or a failure.
         return result;
     if (bWaitForAll)
-        std::fill(m_locked.begin(), m_locked.end(), TRUE);
+        std::fill(locked_.begin(), locked_.end(), TRUE);
     else
-        m_locked[result - base] = TRUE;
+        locked_[result - base] = TRUE;
     return result;
 }
 
 BOOL CMultiLock::Unlock()
 {
     BOOL allReleased = TRUE;
-    for (size_t i = 0; i < m_objects.size(); ++i) {
-        if (m_locked[i])
-            m_locked[i] = !m_objects[i]->Unlock();
-        allReleased = allReleased && !m_locked[i];
+    for (size_t i = 0; i < objects_.size(); ++i) {
+        if (locked_[i])
+            locked_[i] = !objects_[i]->Unlock();
+        allReleased = allReleased && !locked_[i];
     }
     return allReleased;
 }
@@ -224,17 +224,17 @@ BOOL CMultiLock::Unlock()
 BOOL CMultiLock::Unlock(LONG lCount, LPLONG lPrevCount)
 {
     BOOL allReleased = TRUE;
-    for (size_t i = 0; i < m_objects.size(); ++i) {
+    for (size_t i = 0; i < objects_.size(); ++i) {
         // Only a semaphore counts more than one.
-        if (!m_locked[i] || !m_objects[i]->IsKindOf(RUNTIME_CLASS(CSemaphore)))
+        if (!locked_[i] || !objects_[i]->IsKindOf(RUNTIME_CLASS(CSemaphore)))
             continue;
-        m_locked[i] = !m_objects[i]->Unlock(lCount, lPrevCount);
-        allReleased = allReleased && !m_locked[i];
+        locked_[i] = !objects_[i]->Unlock(lCount, lPrevCount);
+        allReleased = allReleased && !locked_[i];
     }
     return allReleased;
 }
 
 BOOL CMultiLock::IsLocked(DWORD dwItem)
 {
-    return dwItem < m_locked.size() && m_locked[dwItem];
+    return dwItem < locked_.size() && locked_[dwItem];
 }

@@ -53,7 +53,7 @@ __time64_t TimeOfFileTime(const FILETIME& ft)
 
 CString FormatParts(const struct tm* parts, LPCTSTR format)
 {
-    if (format == nullptr || parts == nullptr)
+    if (format == NULL || parts == NULL)
         AfxThrowInvalidArgException();
     CString result;
     if (*format == '\0')
@@ -73,14 +73,14 @@ CString FormatParts(const struct tm* parts, LPCTSTR format)
 
 CTime WINAPI CTime::GetCurrentTime()
 {
-    return CTime(_time64(nullptr));
+    return CTime(_time64(NULL));
 }
 
-CTime::CTime() : m_time(0)
+CTime::CTime() : time_(0)
 {
 }
 
-CTime::CTime(__time64_t time) : m_time(time)
+CTime::CTime(__time64_t time) : time_(time)
 {
 }
 
@@ -95,91 +95,91 @@ CTime::CTime(WORD wDosDate, WORD wDosTime, int nDST)
 {
 }
 
-CTime::CTime(const SYSTEMTIME& st, int nDST) : m_time(TimeOfParts(st, nDST))
+CTime::CTime(const SYSTEMTIME& st, int nDST) : time_(TimeOfParts(st, nDST))
 {
 }
 
-CTime::CTime(const FILETIME& ft, int /*nDST*/) : m_time(TimeOfFileTime(ft))
+CTime::CTime(const FILETIME& ft, int /*nDST*/) : time_(TimeOfFileTime(ft))
 {
 }
 
 CTime& CTime::operator=(__time64_t time)
 {
-    m_time = time;
+    time_ = time;
     return *this;
 }
 
 CTime& CTime::operator+=(CTimeSpan span)
 {
-    m_time += span.GetTimeSpan();
+    time_ += span.GetTimeSpan();
     return *this;
 }
 
 CTime& CTime::operator-=(CTimeSpan span)
 {
-    m_time -= span.GetTimeSpan();
+    time_ -= span.GetTimeSpan();
     return *this;
 }
 
 CTimeSpan CTime::operator-(CTime time) const
 {
-    return CTimeSpan(m_time - time.m_time);
+    return CTimeSpan(time_ - time.time_);
 }
 
 CTime CTime::operator-(CTimeSpan span) const
 {
-    return CTime(m_time - span.GetTimeSpan());
+    return CTime(time_ - span.GetTimeSpan());
 }
 
 CTime CTime::operator+(CTimeSpan span) const
 {
-    return CTime(m_time + span.GetTimeSpan());
+    return CTime(time_ + span.GetTimeSpan());
 }
 
 bool CTime::operator==(CTime time) const
 {
-    return m_time == time.m_time;
+    return time_ == time.time_;
 }
 
 bool CTime::operator!=(CTime time) const
 {
-    return m_time != time.m_time;
+    return time_ != time.time_;
 }
 
 bool CTime::operator<(CTime time) const
 {
-    return m_time < time.m_time;
+    return time_ < time.time_;
 }
 
 bool CTime::operator>(CTime time) const
 {
-    return m_time > time.m_time;
+    return time_ > time.time_;
 }
 
 bool CTime::operator<=(CTime time) const
 {
-    return m_time <= time.m_time;
+    return time_ <= time.time_;
 }
 
 bool CTime::operator>=(CTime time) const
 {
-    return m_time >= time.m_time;
+    return time_ >= time.time_;
 }
 
 struct tm* CTime::GetGmtTm(struct tm* ptm) const
 {
-    const struct tm* parts = ptm == nullptr ? nullptr : _gmtime64(&m_time);
-    if (parts == nullptr)
-        return nullptr;
+    const struct tm* parts = ptm == NULL ? NULL : _gmtime64(&time_);
+    if (parts == NULL)
+        return NULL;
     *ptm = *parts;
     return ptm;
 }
 
 struct tm* CTime::GetLocalTm(struct tm* ptm) const
 {
-    const struct tm* parts = ptm == nullptr ? nullptr : _localtime64(&m_time);
-    if (parts == nullptr)
-        return nullptr;
+    const struct tm* parts = ptm == NULL ? NULL : _localtime64(&time_);
+    if (parts == NULL)
+        return NULL;
     *ptm = *parts;
     return ptm;
 }
@@ -187,7 +187,7 @@ struct tm* CTime::GetLocalTm(struct tm* ptm) const
 bool CTime::GetAsSystemTime(SYSTEMTIME& st) const
 {
     struct tm parts;
-    if (GetLocalTm(&parts) == nullptr)
+    if (GetLocalTm(&parts) == NULL)
         return false;
     st = PartsOf(parts.tm_year + 1900, parts.tm_mon + 1, parts.tm_mday, parts.tm_hour, parts.tm_min,
                  parts.tm_sec);
@@ -197,49 +197,49 @@ bool CTime::GetAsSystemTime(SYSTEMTIME& st) const
 
 __time64_t CTime::GetTime() const
 {
-    return m_time;
+    return time_;
 }
 
 int CTime::GetYear() const
 {
     struct tm parts;
-    return GetLocalTm(&parts) == nullptr ? 0 : parts.tm_year + 1900;
+    return GetLocalTm(&parts) == NULL ? 0 : parts.tm_year + 1900;
 }
 
 int CTime::GetMonth() const
 {
     struct tm parts;
-    return GetLocalTm(&parts) == nullptr ? 0 : parts.tm_mon + 1;
+    return GetLocalTm(&parts) == NULL ? 0 : parts.tm_mon + 1;
 }
 
 int CTime::GetDay() const
 {
     struct tm parts;
-    return GetLocalTm(&parts) == nullptr ? 0 : parts.tm_mday;
+    return GetLocalTm(&parts) == NULL ? 0 : parts.tm_mday;
 }
 
 int CTime::GetHour() const
 {
     struct tm parts;
-    return GetLocalTm(&parts) == nullptr ? -1 : parts.tm_hour;
+    return GetLocalTm(&parts) == NULL ? -1 : parts.tm_hour;
 }
 
 int CTime::GetMinute() const
 {
     struct tm parts;
-    return GetLocalTm(&parts) == nullptr ? -1 : parts.tm_min;
+    return GetLocalTm(&parts) == NULL ? -1 : parts.tm_min;
 }
 
 int CTime::GetSecond() const
 {
     struct tm parts;
-    return GetLocalTm(&parts) == nullptr ? -1 : parts.tm_sec;
+    return GetLocalTm(&parts) == NULL ? -1 : parts.tm_sec;
 }
 
 int CTime::GetDayOfWeek() const
 {
     struct tm parts;
-    return GetLocalTm(&parts) == nullptr ? 0 : parts.tm_wday + 1;
+    return GetLocalTm(&parts) == NULL ? 0 : parts.tm_wday + 1;
 }
 
 CString CTime::Format(LPCTSTR pszFormat) const

@@ -11,27 +11,27 @@ constexpr LONGLONG secondsOfDay = 24 * secondsOfHour;
 
 } // namespace
 
-CTimeSpan::CTimeSpan() : m_timeSpan(0)
+CTimeSpan::CTimeSpan() : span_(0)
 {
 }
 
-CTimeSpan::CTimeSpan(__time64_t time) : m_timeSpan(time)
+CTimeSpan::CTimeSpan(__time64_t time) : span_(time)
 {
 }
 
 CTimeSpan::CTimeSpan(LONG lDays, int nHours, int nMins, int nSecs)
-    : m_timeSpan(lDays * secondsOfDay + nHours * secondsOfHour + nMins * secondsOfMinute + nSecs)
+    : span_(lDays * secondsOfDay + nHours * secondsOfHour + nMins * secondsOfMinute + nSecs)
 {
 }
 
 LONGLONG CTimeSpan::GetDays() const
 {
-    return m_timeSpan / secondsOfDay;
+    return span_ / secondsOfDay;
 }
 
 LONGLONG CTimeSpan::GetTotalHours() const
 {
-    return m_timeSpan / secondsOfHour;
+    return span_ / secondsOfHour;
 }
 
 LONG CTimeSpan::GetHours() const
@@ -41,7 +41,7 @@ LONG CTimeSpan::GetHours() const
 
 LONGLONG CTimeSpan::GetTotalMinutes() const
 {
-    return m_timeSpan / secondsOfMinute;
+    return span_ / secondsOfMinute;
 }
 
 LONG CTimeSpan::GetMinutes() const
@@ -51,74 +51,74 @@ LONG CTimeSpan::GetMinutes() const
 
 LONGLONG CTimeSpan::GetTotalSeconds() const
 {
-    return m_timeSpan;
+    return span_;
 }
 
 LONG CTimeSpan::GetSeconds() const
 {
-    return static_cast<LONG>(m_timeSpan % 60);
+    return static_cast<LONG>(span_ % 60);
 }
 
 __time64_t CTimeSpan::GetTimeSpan() const
 {
-    return m_timeSpan;
+    return span_;
 }
 
 CTimeSpan CTimeSpan::operator+(CTimeSpan span) const
 {
-    return CTimeSpan(m_timeSpan + span.m_timeSpan);
+    return CTimeSpan(span_ + span.span_);
 }
 
 CTimeSpan CTimeSpan::operator-(CTimeSpan span) const
 {
-    return CTimeSpan(m_timeSpan - span.m_timeSpan);
+    return CTimeSpan(span_ - span.span_);
 }
 
 CTimeSpan& CTimeSpan::operator+=(CTimeSpan span)
 {
-    m_timeSpan += span.m_timeSpan;
+    span_ += span.span_;
     return *this;
 }
 
 CTimeSpan& CTimeSpan::operator-=(CTimeSpan span)
 {
-    m_timeSpan -= span.m_timeSpan;
+    span_ -= span.span_;
     return *this;
 }
 
 bool CTimeSpan::operator==(CTimeSpan span) const
 {
-    return m_timeSpan == span.m_timeSpan;
+    return span_ == span.span_;
 }
 
 bool CTimeSpan::operator!=(CTimeSpan span) const
 {
-    return m_timeSpan != span.m_timeSpan;
+    return span_ != span.span_;
 }
 
 bool CTimeSpan::operator<(CTimeSpan span) const
 {
-    return m_timeSpan < span.m_timeSpan;
+    return span_ < span.span_;
 }
 
 bool CTimeSpan::operator>(CTimeSpan span) const
 {
-    return m_timeSpan > span.m_timeSpan;
+    return span_ > span.span_;
 }
 
 bool CTimeSpan::operator<=(CTimeSpan span) const
 {
-    return m_timeSpan <= span.m_timeSpan;
+    return span_ <= span.span_;
 }
 
 bool CTimeSpan::operator>=(CTimeSpan span) const
 {
-    return m_timeSpan >= span.m_timeSpan;
+    return span_ >= span.span_;
 }
 
 CString CTimeSpan::Format(LPCTSTR pFormat) const
 {
-    if (pFormat == nullptr)
+    if (pFormat == NULL)
         AfxThrowInvalidArgException();
     CString text;
     for (LPCTSTR p = pFormat; *p != '\0'; ++p) {

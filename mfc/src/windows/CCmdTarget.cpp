@@ -43,8 +43,8 @@ BOOL CCmdTarget::OnCmdMsg(UINT nID, int nCode, void* pExtra, AFX_CMDHANDLERINFO*
         return TRUE;
     }
 
-    const bool reflectedUpdate = message == WM_REFLECT_BASE + WM_COMMAND
-                                 && code == LOWORD(CN_UPDATE_COMMAND_UI);
+    const bool reflectedUpdate =
+        message == WM_REFLECT_BASE + WM_COMMAND && code == LOWORD(CN_UPDATE_COMMAND_UI);
     CCmdUI* ui = update || reflectedUpdate ? static_cast<CCmdUI*>(pExtra) : NULL;
     if (ui != NULL)
         ui->continueRouting_ = false;

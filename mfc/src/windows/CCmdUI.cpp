@@ -18,7 +18,9 @@ bool IsButton(CWnd& control)
 
 } // namespace
 
-CCmdUI::CCmdUI() : m_nID(0), m_nIndex(0), m_pMenu(NULL), m_pSubMenu(NULL), m_pOther(NULL) {}
+CCmdUI::CCmdUI() : m_nID(0), m_nIndex(0), m_pMenu(NULL), m_pSubMenu(NULL), m_pOther(NULL)
+{
+}
 
 CCmdUI::~CCmdUI() = default;
 

@@ -56,8 +56,8 @@ BOOL ApplyInit(HWND dialog, const BYTE* at, DWORD size)
         const bool text = message == LB_ADDSTRING || message == CB_ADDSTRING;
         if (text && (entry.size == 0 || at[entry.size - 1] != '\0'))
             return FALSE;
-        const LRESULT answer = SendDlgItemMessageA(dialog, entry.control, message, 0,
-                                                   reinterpret_cast<LPARAM>(at));
+        const LRESULT answer =
+            SendDlgItemMessageA(dialog, entry.control, message, 0, reinterpret_cast<LPARAM>(at));
         if (text && answer < 0)
             return FALSE;
         at += entry.size;
@@ -187,8 +187,8 @@ BOOL CWnd::ExecuteDlgInit(LPCTSTR lpszResourceName)
 BOOL CWnd::ExecuteDlgInit(LPVOID lpResource)
 {
     constexpr DWORD unknownSize = 0x7FFFFFFF;
-    return lpResource == NULL
-           || ApplyInit(m_hWnd, static_cast<const BYTE*>(lpResource), unknownSize);
+    return lpResource == NULL ||
+           ApplyInit(m_hWnd, static_cast<const BYTE*>(lpResource), unknownSize);
 }
 
 BOOL CWnd::UpdateData(BOOL bSaveAndValidate)
@@ -217,7 +217,9 @@ BOOL CWnd::UpdateData(BOOL bSaveAndValidate)
     return FALSE;
 }
 
-void CWnd::DoDataExchange(CDataExchange*) {}
+void CWnd::DoDataExchange(CDataExchange*)
+{
+}
 
 void CWnd::UpdateDialogControls(CCmdTarget* pTarget, BOOL bDisableIfNoHndler)
 {

@@ -156,8 +156,8 @@ CFrameWnd* CWnd::GetTopLevelFrame() const
 {
     if (GetSafeHwnd() == NULL)
         return NULL;
-    CFrameWnd* top = IsFrame(this) ? static_cast<CFrameWnd*>(const_cast<CWnd*>(this))
-                                   : GetParentFrame();
+    CFrameWnd* top =
+        IsFrame(this) ? static_cast<CFrameWnd*>(const_cast<CWnd*>(this)) : GetParentFrame();
     while (top != NULL) {
         CFrameWnd* outer = top->GetParentFrame();
         if (outer == NULL)

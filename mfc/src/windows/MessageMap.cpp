@@ -50,8 +50,8 @@ const AFX_MSGMAP_ENTRY* FindMessageEntry(const AFX_MSGMAP* map, UINT message)
 const AFX_MSGMAP_ENTRY* FindCommandEntry(const AFX_MSGMAP* map, UINT message, UINT code, UINT id)
 {
     return FindEntry(map, [=](const AFX_MSGMAP_ENTRY& entry) {
-        return entry.nMessage == message && entry.nCode == code && entry.nID <= id
-               && id <= entry.nLastID;
+        return entry.nMessage == message && entry.nCode == code && entry.nID <= id &&
+               id <= entry.nLastID;
     });
 }
 

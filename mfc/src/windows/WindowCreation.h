@@ -33,8 +33,8 @@ private:
     WindowCreation* outer_;
 };
 
-/// Width or height of a window. It wraps round, so that a side that starts at CW_USEDEFAULT and ends
-/// at 0 has the extent CW_USEDEFAULT.
+/// Width or height of a window. It wraps round, so that a side that starts at CW_USEDEFAULT and
+/// ends at 0 has the extent CW_USEDEFAULT.
 inline int Extent(LONG from, LONG to)
 {
     return static_cast<int>(static_cast<ULONG>(to) - static_cast<ULONG>(from));
