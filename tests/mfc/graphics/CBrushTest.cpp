@@ -2,7 +2,7 @@
 
 #include <doctest/doctest.h>
 
-#include "tests/mfc/ResourceFailure.h"
+#include "tests/mfc/Throws.h"
 
 #include "testing/Canvas.h"
 #include "testing/GdiObjects.h"
@@ -95,6 +95,6 @@ TEST_CASE("a brush that cannot be made throws a resource exception")
     CBitmap empty;
     CBrush brush;
     CHECK_FALSE(brush.CreatePatternBrush(&empty));
-    CHECK(ThrowsResourceException([&] { CBrush pattern(&empty); }));
+    CHECK(Throws<CResourceException>([&] { CBrush pattern(&empty); }));
     CHECK_FALSE(brush.CreateDIBPatternBrush(static_cast<HGLOBAL>(nullptr), DIB_RGB_COLORS));
 }

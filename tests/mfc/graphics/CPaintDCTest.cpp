@@ -2,7 +2,7 @@
 
 #include <doctest/doctest.h>
 
-#include "tests/mfc/ResourceFailure.h"
+#include "tests/mfc/Throws.h"
 
 #include "testing/GdiObjects.h"
 
@@ -50,5 +50,5 @@ TEST_CASE("a paint context of a window that is gone throws a resource exception"
     const HWND handle = CreatePlainWindow();
     ::DestroyWindow(handle);
     CWnd* gone = CWnd::FromHandle(handle);
-    CHECK(ThrowsResourceException([gone] { CPaintDC dc(gone); }));
+    CHECK(Throws<CResourceException>([gone] { CPaintDC dc(gone); }));
 }
