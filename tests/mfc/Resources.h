@@ -4,7 +4,9 @@
 #define IDD_PLAIN 7001
 #define IDD_FILLED 7002
 #define IDD_FRAME_TEXT 7003
+#define IDD_PAGE 7004
 #define IDR_FRAME 7010
+#define IDS_PAGE 7020
 
 #define IDC_NAME 7101
 #define IDC_LIST 7102

@@ -156,37 +156,6 @@ TEST_CASE("switches for automation are taken out of the command line")
     CHECK_FALSE(app.RunAutomated());
 }
 
-TEST_CASE("the parameters of a command line say what to do")
-{
-    const auto parse = [](CCommandLineInfo& info, std::vector<const char*> words) {
-        for (size_t i = 0; i < words.size(); ++i) {
-            const bool flag = words[i][0] == '/';
-            info.ParseParam(words[i] + (flag ? 1 : 0), flag, i + 1 == words.size());
-        }
-    };
-    CCommandLineInfo fresh;
-    CHECK(fresh.m_nShellCommand == CCommandLineInfo::FileNew);
-    CHECK(fresh.m_bShowSplash);
-
-    CCommandLineInfo open;
-    parse(open, {"letter.txt", "second.txt"});
-    CHECK(open.m_nShellCommand == CCommandLineInfo::FileOpen);
-    CHECK(open.m_strFileName == "letter.txt");
-
-    CCommandLineInfo print;
-    parse(print, {"/pt", "letter.txt", "printer", "driver", "port"});
-    CHECK(print.m_nShellCommand == CCommandLineInfo::FilePrintTo);
-    CHECK(print.m_strFileName == "letter.txt");
-    CHECK(print.m_strPrinterName == "printer");
-    CHECK(print.m_strDriverName == "driver");
-    CHECK(print.m_strPortName == "port");
-
-    CCommandLineInfo embedded;
-    parse(embedded, {"/Embedding"});
-    CHECK(embedded.m_bRunEmbedded);
-    CHECK_FALSE(embedded.m_bShowSplash);
-}
-
 TEST_CASE("standard cursors and icons are loaded")
 {
     const CWinApp* app = AfxGetApp();

@@ -257,30 +257,3 @@ TEST_CASE("files are renamed and removed")
     CFileStatus status;
     CHECK_FALSE(CFile::GetStatus(folder / "c.txt", status));
 }
-
-TEST_CASE("a file exception explains itself")
-{
-    CHECK(CFileException::OsErrorToException(ERROR_SUCCESS) == CFileException::none);
-    CHECK(CFileException::OsErrorToException(ERROR_DISK_FULL) == CFileException::diskFull);
-    CHECK(CFileException::OsErrorToException(123456) == CFileException::generic);
-    CHECK(CFileException::ErrnoToException(ENOENT) == CFileException::fileNotFound);
-    CHECK(CFileException::ErrnoToException(EACCES) == CFileException::accessDenied);
-    CHECK(CauseOf([] { CFileException::ThrowErrno(ENOSPC); }) == CFileException::diskFull);
-    CHECK(CauseOf([] { CFileException::ThrowOsError(ERROR_SUCCESS); }) == CFileException::none);
-
-    CFileException error(CFileException::fileNotFound, ERROR_FILE_NOT_FOUND, "the file");
-    CHECK(error.IsKindOf(RUNTIME_CLASS(CException)));
-    char text[512] = "";
-    CHECK(error.GetErrorMessage(text, 512));
-    CHECK(CString(text).Find("the file") == 0);
-    CHECK(CString(text).GetLength() > 12);
-    char small[5] = "";
-    CHECK(error.GetErrorMessage(small, 5));
-    CHECK(CString(small) == "the ");
-    CHECK_FALSE(error.GetErrorMessage(NULL, 0));
-
-    CFileException bare;
-    CHECK(bare.m_cause == CFileException::none);
-    CHECK(bare.m_lOsError == -1);
-    CHECK(bare.m_strFileName.IsEmpty());
-}

@@ -54,34 +54,6 @@ TEST_CASE("a class derived from one in the library knows the library's classes")
     CHECK_FALSE(button.IsKindOf(RUNTIME_CLASS(CDialog)));
 }
 
-TEST_CASE("an object is made from its run-time class")
-{
-    CObject* made = RUNTIME_CLASS(CCircle)->CreateObject();
-    REQUIRE(made != nullptr);
-    CCircle* circle = DYNAMIC_DOWNCAST(CCircle, made);
-    REQUIRE(circle != nullptr);
-    CHECK(circle->m_nRadius == 7);
-    delete made;
-}
-
-TEST_CASE("a class without dynamic creation makes no object")
-{
-    CHECK(RUNTIME_CLASS(CShape)->CreateObject() == nullptr);
-}
-
-TEST_CASE("a class is found by its name, wide or narrow, in any module")
-{
-    CHECK(CRuntimeClass::FromName("CCircle") == RUNTIME_CLASS(CCircle));
-    CHECK(CRuntimeClass::FromName(L"CShape") == RUNTIME_CLASS(CShape));
-    CHECK(CRuntimeClass::FromName("CDialog") == RUNTIME_CLASS(CDialog));
-    CHECK(CRuntimeClass::FromName("CUnheardOf") == nullptr);
-    CHECK(CRuntimeClass::CreateObject("CUnheardOf") == nullptr);
-    CObject* made = CRuntimeClass::CreateObject("CCircle");
-    REQUIRE(made != nullptr);
-    CHECK(made->IsKindOf(RUNTIME_CLASS(CCircle)));
-    delete made;
-}
-
 TEST_CASE("a cast down gives NULL for an object of another class")
 {
     CCircle circle;
