@@ -57,7 +57,7 @@ BOOL CAnimateCtrl::Seek(UINT nTo)
 
 BOOL CAnimateCtrl::Close()
 {
-    return Open((LPCTSTR)NULL);
+    return Open(static_cast<LPCTSTR>(NULL));
 }
 
 BOOL CAnimateCtrl::IsPlaying() const
