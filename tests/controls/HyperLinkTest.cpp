@@ -1,33 +1,17 @@
 #include "controls/HyperLink.h"
 
-#include "tests/programs/HelpProgram.h"
-#include "tests/controls/LabelHost.h"
-#include "tests/controls/ShellSpy.h"
+#include "tests/controls/LabelChecks.h"
+#include "tests/controls/RelayLog.h"
 
 #include "shell/HandCursor.h"
 
-#include "testing/CallFault.h"
-#include "testing/GdiObjects.h"
-#include "testing/Input.h"
-#include "testing/Picture.h"
 #include "testing/Pump.h"
-
-#include <doctest/doctest.h>
 
 #include <vector>
 
 using namespace umbra::testing;
 
 namespace {
-
-const COLORREF green = RGB(20, 160, 60); // What the host is filled with.
-const COLORREF red = RGB(200, 30, 40);
-const COLORREF black = RGB(0, 0, 0);
-
-const CRect labelPlace(50, 60, 250, 100);
-
-// There from the beginning: the toolkit looks for the hand once a process.
-const HelpProgram help;
 
 class TestLink : public CHyperLink
 {
@@ -45,33 +29,7 @@ public:
     using CHyperLink::m_ToolTip;
 };
 
-struct Link
-{
-    explicit Link(const char* text, DWORD style = SS_NOTIFY)
-    {
-        control.SubclassWindow(host.AddStatic(labelPlace, text, style));
-    }
-
-    void Press() { control.SendMessage(WM_LBUTTONDOWN, MK_LBUTTON, MAKELPARAM(3, 3)); }
-
-    LRESULT AskCursor()
-    {
-        ::SetCursor(::LoadCursor(NULL, IDC_CROSS));
-        return control.SendMessage(WM_SETCURSOR, reinterpret_cast<WPARAM>(control.m_hWnd),
-                                   MAKELPARAM(HTCLIENT, WM_MOUSEMOVE));
-    }
-
-    LabelHost host;
-    TestLink control;
-};
-
-LOGFONT DescribeFont(CWnd& window)
-{
-    LOGFONT description = {};
-    ::GetObject(reinterpret_cast<HGDIOBJ>(window.SendMessage(WM_GETFONT)), sizeof(description),
-                &description);
-    return description;
-}
+using Link = LabelOver<TestLink>;
 
 std::string TipText(TestLink& link)
 {
@@ -85,18 +43,49 @@ std::string TipText(TestLink& link)
     return text;
 }
 
-/// Notes the messages that a tool tip gets.
-std::vector<MSG> relayed;
-std::vector<std::pair<UINT, std::pair<WPARAM, LPARAM>>> tipMessages;
-
-LRESULT CALLBACK WatchTip(HWND window, UINT message, WPARAM wParam, LPARAM lParam, UINT_PTR,
-                          DWORD_PTR)
+/// The messages that are sent to tool tips of this thread while it lives, those of their creation
+/// included.
+class ToolTipMessages
 {
-    tipMessages.push_back({message, {wParam, lParam}});
-    if (message == TTM_RELAYEVENT)
-        relayed.push_back(*reinterpret_cast<MSG*>(lParam));
-    return ::DefSubclassProc(window, message, wParam, lParam);
-}
+public:
+    ToolTipMessages()
+    {
+        All().clear();
+        m_hook = ::SetWindowsHookEx(WH_CALLWNDPROC, Note, NULL, ::GetCurrentThreadId());
+    }
+    ~ToolTipMessages() { ::UnhookWindowsHookEx(m_hook); }
+    ToolTipMessages(const ToolTipMessages&) = delete;
+    ToolTipMessages& operator=(const ToolTipMessages&) = delete;
+
+    /// Those with this number, in the order in which they were sent.
+    std::vector<CWPSTRUCT> Find(UINT message) const
+    {
+        std::vector<CWPSTRUCT> found;
+        for (const CWPSTRUCT& sent : All()) {
+            if (sent.message == message)
+                found.push_back(sent);
+        }
+        return found;
+    }
+
+private:
+    static std::vector<CWPSTRUCT>& All()
+    {
+        static std::vector<CWPSTRUCT> all;
+        return all;
+    }
+    static LRESULT CALLBACK Note(int code, WPARAM wParam, LPARAM lParam)
+    {
+        const CWPSTRUCT& sent = *reinterpret_cast<const CWPSTRUCT*>(lParam);
+        char name[32] = "";
+        ::GetClassNameA(sent.hwnd, name, sizeof(name));
+        if (code == HC_ACTION && strcmp(name, TOOLTIPS_CLASSA) == 0)
+            All().push_back(sent);
+        return ::CallNextHookEx(NULL, code, wParam, lParam);
+    }
+
+    HHOOK m_hook;
+};
 
 } // namespace
 
@@ -126,6 +115,16 @@ TEST_CASE("text is centred and wrapped in its colour over what is beneath")
     CHECK(shown.Crop(labelPlace).CountOf(green) > labelPlace.Width() * labelPlace.Height() / 3);
 }
 
+TEST_CASE("the text keeps to the window's rectangle, which a border makes larger than the client's")
+{
+    for (const DWORD style : {SS_NOTIFY, SS_NOTIFY | WS_BORDER, SS_NOTIFY | WS_DLGFRAME}) {
+        CAPTURE(style);
+        Link link("Some text", style);
+        link.control.SetTextColor(red);
+        CheckTextIsDrawnAs(link, FontOf(link.control), red, CSize(0, 0), DT_CENTER | DT_WORDBREAK);
+    }
+}
+
 TEST_CASE("setting the text colour repaints nothing by itself")
 {
     Link link("Text");
@@ -138,14 +137,11 @@ TEST_CASE("setting the text colour repaints nothing by itself")
 TEST_CASE("a target makes the label an underlined link and changes nothing else of its font")
 {
     Link link("Text");
-    LOGFONT before = DescribeFont(link.control);
+    const LOGFONT before = DescribeFont(link.control);
     link.control.SetURL("http://example.invalid/");
     CHECK(link.control.m_bIsLink);
     CHECK(link.control.m_strURL == "http://example.invalid/");
-    LOGFONT after = DescribeFont(link.control);
-    CHECK(after.lfUnderline != 0);
-    before.lfUnderline = after.lfUnderline = 0;
-    CHECK(memcmp(&before, &after, sizeof(LOGFONT)) == 0);
+    CheckOnlyUnderlineDiffers(before, DescribeFont(link.control));
 }
 
 TEST_CASE("the link font of a label that is no link is semibold")
@@ -172,6 +168,7 @@ TEST_CASE("a control without a font takes the default GUI font for its link font
     CHECK(own.lfWeight == 600);
 }
 
+// Kept: the font stays the control's for good; nobody deletes it.
 TEST_CASE("each link font leaves one font behind")
 {
     Link link("Text");
@@ -208,6 +205,7 @@ TEST_CASE("a link without a target opens its text")
     CHECK(shell.Asked()[0].target == "file.txt");
 }
 
+// Kept: the test comes before the trimming, so a target of blanks opens an empty string.
 TEST_CASE("a target of blanks passes as an empty string; no target and no text open nothing")
 {
     const ShellSpy shell;
@@ -263,6 +261,7 @@ TEST_CASE("the real pointer becomes a hand over a link and an arrow beside it")
     CHECK(::GetCursor() == ::LoadCursor(NULL, IDC_ARROW));
 }
 
+// Kept: the window text decides, not the target.
 TEST_CASE("no link, or a link without text, has the default cursor; the latter still opens")
 {
     const ShellSpy shell;
@@ -287,12 +286,18 @@ TEST_CASE("a keyed picture shows at the corner, under the text")
     CHECK(link.control.m_nBitmapWidth == 19);
     CHECK(link.control.m_nBitmapHeight == 19);
     CHECK(link.control.m_bmpMask.GetSafeHandle() != NULL);
-    const Picture shown = link.host.Show().Crop(labelPlace);
-    CHECK_FALSE(shown.Contains(black));
-    const CRect picture = shown.BoundsOfOthers(green);
-    CHECK(picture.right <= 19);
-    CHECK(picture.bottom <= 19);
-    CHECK(picture.Width() > 10);
+    CheckShowsKeyedNext(link);
+}
+
+TEST_CASE("a picture is found under a path beyond ASCII")
+{
+    const ForeignFolder folder;
+    REQUIRE(folder.IsThere());
+    Link link("");
+    link.control.SetTransparentColor(black);
+    link.control.SetBitmapFile(folder.ImagePath("Next.gif").c_str());
+    CHECK(link.control.m_bBitmapLoaded);
+    CheckShowsKeyedNext(link);
 }
 
 TEST_CASE("without a key colour no picture is drawn, even if one was loaded")
@@ -333,6 +338,7 @@ TEST_CASE("a picture that does not load changes nothing and still answers TRUE")
     CHECK(link.control.m_bmpPicture.GetSafeHandle() == before);
 }
 
+// Kept: the former picture is not deleted.
 TEST_CASE("a replaced picture and those of a label that is gone are left, a replaced mask is not")
 {
     HGDIOBJ first, second, mask, firstMask;
@@ -347,10 +353,8 @@ TEST_CASE("a replaced picture and those of a label that is gone are left, a repl
         mask = link.control.m_bmpMask.GetSafeHandle();
     }
     CHECK(firstMask != NULL);
-    for (const HGDIOBJ bitmap : {first, second, mask}) {
-        CHECK(::GetObjectType(bitmap) == OBJ_BITMAP);
-        ::DeleteObject(bitmap);
-    }
+    // Kept: the bitmaps outlive the label.
+    CheckBitmapsLive({first, second, mask});
 }
 
 TEST_CASE("a tool tip is one tool, whose text is renewed")
@@ -368,23 +372,40 @@ TEST_CASE("a tool tip is one tool, whose text is renewed")
     CHECK(link.control.m_ToolTip.GetMaxTipWidth() == 100);
 }
 
-TEST_CASE("mouse moves are relayed to the tool tip with unsigned coordinates, once it has a text")
+TEST_CASE("a new tool tip is off until it has its tool, and 100 pixels wide")
+{
+    Link link("Text");
+    const ToolTipMessages sent;
+    link.control.SetToolTipText("first");
+    const std::vector<CWPSTRUCT> activations = sent.Find(TTM_ACTIVATE);
+    REQUIRE(activations.size() == 2);
+    CHECK(activations[0].wParam == FALSE);
+    CHECK(activations[1].wParam == TRUE);
+    const std::vector<CWPSTRUCT> widths = sent.Find(TTM_SETMAXTIPWIDTH);
+    REQUIRE(widths.size() == 1);
+    // Kept: the message takes its width from the second number; the first one means nothing.
+    CHECK(widths[0].wParam == 400);
+    CHECK(widths[0].lParam == 100);
+
+    link.control.SetToolTipText("second");
+    REQUIRE(sent.Find(TTM_ACTIVATE).size() == 3);
+    CHECK(sent.Find(TTM_ACTIVATE)[2].wParam == TRUE);
+    CHECK(sent.Find(TTM_SETMAXTIPWIDTH).size() == 1);
+}
+
+TEST_CASE("mouse moves are relayed to the tool tip once it has a text")
 {
     Link link("Text");
     link.control.SendMessage(WM_MOUSEMOVE, 0, MAKELPARAM(7, 8)); // No tool tip, no harm.
     link.control.SetToolTipText("tip");
-    ::SetWindowSubclass(link.control.m_ToolTip.m_hWnd, WatchTip, 1, 0);
-    relayed.clear();
+    const RelayLog relays(link.control.m_ToolTip.m_hWnd);
     link.control.SendMessage(WM_MOUSEMOVE, MK_SHIFT, MAKELPARAM(7, -8));
-    REQUIRE(relayed.size() == 1);
-    CHECK(relayed[0].hwnd == link.control.m_hWnd);
-    CHECK(relayed[0].message == WM_MOUSEMOVE);
-    CHECK(relayed[0].wParam == MK_SHIFT);
-    CHECK(relayed[0].lParam == MAKELPARAM(7, -8));
-    CHECK(relayed[0].time == 0);
-    CHECK(relayed[0].pt.x == 7);
-    CHECK(relayed[0].pt.y == 65528);
-    ::RemoveWindowSubclass(link.control.m_ToolTip.m_hWnd, WatchTip, 1);
+    REQUIRE(relays.Relayed().size() == 1);
+    CHECK(relays.Relayed()[0].hwnd == link.control.m_hWnd);
+    CHECK(relays.Relayed()[0].message == WM_MOUSEMOVE);
+    CHECK(relays.Relayed()[0].wParam == MK_SHIFT);
+    CHECK(relays.Relayed()[0].lParam == MAKELPARAM(7, -8));
+    CHECK(relays.Relayed()[0].pt.y == 65528);
 }
 
 TEST_CASE("the tool tip comes up under the real pointer")
@@ -406,23 +427,7 @@ TEST_CASE("10,000 pointer moves over a link leave nothing behind")
     Link link("Text");
     link.control.SetURL("x");
     link.control.SetToolTipText("tip");
-    link.host.Show();
-    const auto move = [&] {
-        link.AskCursor();
-        link.control.SendMessage(WM_MOUSEMOVE, 0, MAKELPARAM(5, 5));
-    };
-    for (int i = 0; i < 10; ++i)
-        move();
-    const BalancedGdi objects;
-    const CountCalls cursors(FindModule("umbra.dll"), "user32", "CopyIcon");
-    const CountCalls libraries(FindModule("umbra.dll"), "kernel32", "LoadLibraryA");
-    const SIZE_T memory = WorkingSet();
-    for (int i = 0; i < 10000; ++i)
-        move();
-    CHECK(WorkingSet() < memory + 512 * 1024);
-    CHECK(cursors.Calls() == 0);
-    CHECK(libraries.Calls() == 0);
-    CHECK_MESSAGE(objects.IsBalanced(), objects.Describe());
+    CheckMovesLeaveNothing(link);
 }
 
 TEST_CASE("painting leaves the control's font in place and nothing behind")
@@ -430,15 +435,7 @@ TEST_CASE("painting leaves the control's font in place and nothing behind")
     Link link("Text");
     link.control.SetTransparentColor(black);
     link.control.SetBitmapFile(ImagePath("Next.gif").c_str());
-    link.host.Show();
-    const LRESULT font = link.control.SendMessage(WM_GETFONT);
-    const BalancedGdi objects;
-    for (int i = 0; i < 20; ++i) {
-        link.control.Invalidate();
-        link.control.UpdateWindow();
-    }
-    CHECK_MESSAGE(objects.IsBalanced(), objects.Describe());
-    CHECK(link.control.SendMessage(WM_GETFONT) == font);
+    CheckPaintsLeaveNothing(link);
 }
 
 TEST_CASE("long texts and odd targets do no harm")

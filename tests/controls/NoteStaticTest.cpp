@@ -79,6 +79,7 @@ TEST_CASE("where no font can be made the note falls back to the system's")
     CHECK(note.host.Show().Contains(RGB(0, 0, 0)));
 }
 
+// Kept: the copy lives until the process ends.
 TEST_CASE("each copy leaves its fonts behind")
 {
     Note note;

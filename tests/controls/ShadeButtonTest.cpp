@@ -1,7 +1,10 @@
 #include "controls/ShadeButton.h"
 #include "faces/ShadeGenerator.h"
+#include "shell/PictureLoader.h"
 
+#include "tests/ForeignFolder.h"
 #include "tests/controls/LabelHost.h"
+#include "tests/controls/RelayLog.h"
 
 #include "testing/CallFault.h"
 #include "testing/Canvas.h"
@@ -61,6 +64,30 @@ public:
     using CxShadeButton::m_textColor;
     using CxShadeButton::m_textFormat;
     using CxShadeButton::m_toolTip;
+
+    /// A message that went on to the system's own handling.
+    struct PassedOn
+    {
+        UINT message;
+        bool wasPressing; ///< m_pressing at that moment.
+    };
+    std::vector<PassedOn> m_passedOn;
+
+    const PassedOn* Find(UINT message) const
+    {
+        for (const PassedOn& passed : m_passedOn) {
+            if (passed.message == message)
+                return &passed;
+        }
+        return nullptr;
+    }
+
+protected:
+    LRESULT DefWindowProc(UINT message, WPARAM wParam, LPARAM lParam) override
+    {
+        m_passedOn.push_back({message, m_pressing != FALSE});
+        return CxShadeButton::DefWindowProc(message, wParam, lParam);
+    }
 };
 
 /// A host that counts the notifications and paint requests of its buttons.
@@ -75,8 +102,8 @@ public:
     HWND AddButton(DWORD style = BS_PUSHBUTTON, const CRect& place = buttonPlace, int id = 100,
                    const char* text = "Text")
     {
-        return ::CreateWindow("Button", text, WS_CHILD | WS_VISIBLE | WS_TABSTOP | style, place.left,
-                              place.top, place.Width(), place.Height(), m_hWnd,
+        return ::CreateWindow("Button", text, WS_CHILD | WS_VISIBLE | WS_TABSTOP | style,
+                              place.left, place.top, place.Width(), place.Height(), m_hWnd,
                               reinterpret_cast<HMENU>(static_cast<INT_PTR>(id)), NULL, NULL);
     }
 
@@ -251,6 +278,36 @@ BOOL WINAPI RefuseTracking(LPTRACKMOUSEEVENT)
     return FALSE;
 }
 
+/// The areas in which the button has texts drawn.
+std::vector<CRect> textAreas;
+
+int WINAPI NoteTextArea(HDC dc, LPCSTR text, int length, LPRECT area, UINT format)
+{
+    textAreas.push_back(*area);
+    return ::DrawTextA(dc, text, length, area, format);
+}
+
+/// The bitmap as the toolkit loads it from one of its images.
+Picture LoadImagePicture(const char* name)
+{
+    const HBITMAP file = LoadPictureBitmap(ImagePath(name).c_str());
+    const Picture image = Picture::OfBitmap(file);
+    ::DeleteObject(file);
+    return image;
+}
+
+/// The face with the image over it, black pixels transparent.
+Picture Overlay(Picture face, const Picture& image, CPoint at)
+{
+    for (int y = 0; y < image.Height(); ++y) {
+        for (int x = 0; x < image.Width(); ++x) {
+            if (image.At(x, y) != 0)
+                face.Set(at.x + x, at.y + y, image.At(x, y));
+        }
+    }
+    return face;
+}
+
 } // namespace
 
 TEST_CASE("a new button has its defaults")
@@ -276,6 +333,7 @@ TEST_CASE("a new button has its defaults")
     CHECK(WM_SHADE_UNCHECK == 0x500);
 }
 
+// Kept: the style is taken bit by bit, not as a type of button.
 TEST_CASE("kind, look and text format follow from the style, bit by bit")
 {
     struct Case
@@ -331,10 +389,8 @@ TEST_CASE("with faces, each state is drawn step by step as planned")
     const COLORREF text = Sys(COLOR_BTNTEXT);
     CHECK(button.Draw().Compare(Expected(tint).Edge(EDGE_RAISED).Caption(text).ToPicture()) ==
           "the same");
-    CHECK(button.Draw(ODS_FOCUS)
-              .Compare(
-                  Expected(tint).Edge(EDGE_RAISED).Focus(4).Caption(text).ToPicture()) ==
-          "the same");
+    CHECK(button.Draw(ODS_FOCUS).Compare(
+              Expected(tint).Edge(EDGE_RAISED).Focus(4).Caption(text).ToPicture()) == "the same");
     // The default edge moves the focus lines in by one; they keep their length.
     CHECK(button.Draw(ODS_DEFAULT | ODS_FOCUS)
               .Compare(Expected(tint)
@@ -399,9 +455,9 @@ TEST_CASE("a checked check box is drawn pressed, without edges or shift")
     Button button(BS_AUTOCHECKBOX);
     button.control.SetShade(SHADE_NOISE, 0, 100, 100, tint);
     button.control.SendMessage(BM_SETCHECK, BST_CHECKED);
-    CHECK(button.Draw().Compare(Expected(Sys(COLOR_BTNHIGHLIGHT))
-                                    .Caption(Sys(COLOR_BTNTEXT))
-                                    .ToPicture()) == "the same");
+    CHECK(button.Draw().Compare(
+              Expected(Sys(COLOR_BTNHIGHLIGHT)).Caption(Sys(COLOR_BTNTEXT)).ToPicture()) ==
+          "the same");
 }
 
 TEST_CASE("setters of colour, font, border and edges show")
@@ -436,11 +492,10 @@ TEST_CASE("the caption keeps clear of a picture")
         UINT align;
         CRect place;
     };
-    for (const Case& expected :
-         {Case{0x100, CRect(CPoint(4, 20 - 9), CSize(19, 19))},
-          Case{0x200, CRect(CPoint(width - 4 - 19, 20 - 9), CSize(19, 19))},
-          Case{0x300, CRect(CPoint(60 - 9, 1), CSize(19, 19))},
-          Case{7, CRect(CPoint(60 - 9, 1), CSize(19, 19))}}) {
+    for (const Case& expected : {Case{0x100, CRect(CPoint(4, 20 - 9), CSize(19, 19))},
+                                 Case{0x200, CRect(CPoint(width - 4 - 19, 20 - 9), CSize(19, 19))},
+                                 Case{0x300, CRect(CPoint(60 - 9, 1), CSize(19, 19))},
+                                 Case{7, CRect(CPoint(60 - 9, 1), CSize(19, 19))}}) {
         CHECK(button.control.SetPicture(path, expected.align, 19, 19, 0) == TRUE);
         CHECK(button.control.m_rcIcon == expected.place);
         CHECK(button.control.m_iconAlign == (expected.align == 7 ? 0x300 : expected.align));
@@ -465,22 +520,61 @@ TEST_CASE("a keyed picture shows the face through its key colour, shifted when p
     const Picture bare = button.Draw();
     const Picture barePressed = button.Draw(ODS_SELECTED);
     button.control.SetPicture(ImagePath("Next.gif").c_str(), 0x100, 19, 19, 0);
-    const HBITMAP file = button.control.LoadPictureBitmap(ImagePath("Next.gif").c_str());
-    const Picture image = Picture::OfBitmap(file);
-    ::DeleteObject(file);
+    const Picture image = LoadImagePicture("Next.gif");
 
-    const auto overlay = [&image](Picture face, CPoint at) {
-        for (int y = 0; y < 19; ++y) {
-            for (int x = 0; x < 19; ++x) {
-                if (image.At(x, y) != 0)
-                    face.Set(at.x + x, at.y + y, image.At(x, y));
-            }
-        }
-        return face;
+    CHECK(button.Draw().Compare(Overlay(bare, image, CPoint(4, 11))) == "the same");
+    CHECK(button.Draw(ODS_SELECTED).Compare(Overlay(barePressed, image, CPoint(5, 12))) ==
+          "the same");
+    CHECK(button.Draw(ODS_DISABLED)
+              .Compare(Overlay(button.Draw(ODS_DISABLED), image, CPoint(4, 11))) == "the same");
+}
+
+TEST_CASE("a keyed picture of a checked button keeps its place until the button is pressed")
+{
+    Button button(BS_AUTOCHECKBOX | BS_PUSHLIKE);
+    button.control.SetWindowText("");
+    button.Shade();
+    button.control.SendMessage(BM_SETCHECK, BST_CHECKED);
+    const Picture bare = button.Draw();
+    button.control.SetPicture(ImagePath("Next.gif").c_str(), 0x100, 19, 19, 0);
+    const Picture image = LoadImagePicture("Next.gif");
+    CHECK(button.Draw().Compare(Overlay(bare, image, CPoint(4, 11))) == "the same");
+    CHECK(button.Draw(ODS_SELECTED).Compare(Overlay(bare, image, CPoint(5, 12))) == "the same");
+}
+
+TEST_CASE("the caption's area gives way to a picture, to the pixel")
+{
+    Button button;
+    button.Shade();
+    const ImportHook texts(FindModule("umbra-mfc.dll"), "user32", "DrawTextA", NoteTextArea);
+    REQUIRE(texts.IsInstalled());
+    const auto areaOf = [&button](UINT state) {
+        textAreas.clear();
+        button.Draw(state);
+        REQUIRE(textAreas.size() == 1);
+        return textAreas[0];
     };
-    CHECK(button.Draw().Compare(overlay(bare, CPoint(4, 11))) == "the same");
-    CHECK(button.Draw(ODS_SELECTED).Compare(overlay(barePressed, CPoint(5, 12))) == "the same");
-    CHECK(button.Draw(ODS_DISABLED).Compare(overlay(button.Draw(ODS_DISABLED), CPoint(4, 11))) ==
+    CHECK(areaOf(0) == CRect(6, 0, width - 6, height));
+    const CString path = ImagePath("Next.gif").c_str();
+    button.control.SetPicture(path, 0x100, 19, 19, 0);
+    CHECK(areaOf(0) == CRect(6 + 19, 0, width - 6, height));
+    button.control.SetPicture(path, 0x200, 19, 19, 0);
+    CHECK(areaOf(0) == CRect(6, 0, width - 6 - 19, height));
+    button.control.SetPicture(path, 0x300, 19, 19, 0);
+    CHECK(areaOf(0) == CRect(6, 1 + 19, width - 6, height - 5));
+    CHECK(areaOf(ODS_SELECTED) == CRect(7, 2 + 19, width - 5, height - 4));
+}
+
+TEST_CASE("a picture is found under a path beyond ASCII")
+{
+    const ForeignFolder folder;
+    REQUIRE(folder.IsThere());
+    Button button;
+    button.control.SetWindowText("");
+    button.Shade();
+    const Picture bare = button.Draw();
+    button.control.SetPicture(folder.ImagePath("Next.gif").c_str(), 0x100, 19, 19, 0);
+    CHECK(button.Draw().Compare(Overlay(bare, LoadImagePicture("Next.gif"), CPoint(4, 11))) ==
           "the same");
 }
 
@@ -565,6 +659,28 @@ TEST_CASE("a button ends its icons, its picture and its font, and each shared ha
     CHECK(::GetObjectType(mask) != OBJ_BITMAP);
 }
 
+TEST_CASE("an icon that serves two or three looks is destroyed once")
+{
+    struct Case
+    {
+        HICON down;
+        HICON over;
+        int destroyed;
+    };
+    const HICON second = MakeIcon(red), third = MakeIcon(red), fourth = MakeIcon(red);
+    // Beside the normal icon: one for both other looks, two, the pressed or the hot look alone.
+    for (const Case& icons : {Case{second, second, 2}, Case{NULL, NULL, 1}, Case{third, NULL, 2},
+                              Case{NULL, fourth, 2}}) {
+        auto button = std::make_unique<Button>();
+        button->control.SetIcons(MakeIcon(red), 0x100, 16, 16, icons.down, icons.over);
+        const CountCalls ends(FindModule("umbra.dll"), "user32", "DestroyIcon");
+        REQUIRE(ends.IsInstalled());
+        button.reset();
+        CHECK(ends.Calls() == icons.destroyed);
+    }
+}
+
+// Kept: the former picture is not deleted.
 TEST_CASE("a replaced picture is left, not deleted")
 {
     Button button;
@@ -646,6 +762,66 @@ TEST_CASE("dragging out of a pressed button raises it, dragging back pushes it, 
     CHECK_FALSE(button.control.m_pressing);
 }
 
+TEST_CASE("a paint that finds the pointer elsewhere than the pushed state says corrects it first")
+{
+    Button button;
+    button.host.Show();
+    REQUIRE(MovePointer(button.control.m_hWnd));
+    PressLeft();
+    REQUIRE(IsPushed(button.control));
+    CPoint inside;
+    ::GetCursorPos(&inside);
+    const CRect host = [&] {
+        CRect place;
+        button.host.GetWindowRect(&place);
+        return place;
+    }();
+
+    // The pointer is off the button; the message that says so has not been taken yet.
+    ::SetCursorPos(host.right - 10, host.bottom - 10);
+    const Picture background(width, height, RGB(255, 255, 255));
+    CHECK(button.Draw(ODS_SELECTED).Compare(background) == "the same"); // This paint is void.
+    CHECK_FALSE(IsPushed(button.control));
+    CHECK_FALSE(button.Draw() == background);
+    ::SetCursorPos(inside.x, inside.y);
+    CHECK(button.Draw().Compare(background) == "the same");
+    CHECK(IsPushed(button.control));
+    ReleaseLeft();
+}
+
+TEST_CASE("without a press of its own a held or a captured button corrects nothing")
+{
+    Button button;
+    button.host.Show();
+    MovePointerAway();
+    button.control.SendMessage(BM_SETSTATE, TRUE);
+    button.Draw();
+    CHECK(IsPushed(button.control)); // Not pressed by the mouse.
+    button.control.m_pressing = TRUE;
+    button.Draw();
+    CHECK(IsPushed(button.control)); // Without the capture.
+    ::SetCapture(button.control.m_hWnd);
+    button.control.m_pressing = FALSE;
+    button.Draw();
+    CHECK(IsPushed(button.control));
+    ::ReleaseCapture();
+}
+
+TEST_CASE("a press counts from the end of the system's own handling on")
+{
+    Button button;
+    button.host.Show();
+    MovePointer(button.control.m_hWnd);
+    button.control.m_passedOn.clear();
+    PressLeft();
+    REQUIRE(button.control.Find(WM_LBUTTONDOWN) != nullptr);
+    CHECK_FALSE(button.control.Find(WM_LBUTTONDOWN)->wasPressing);
+    CHECK(button.control.m_pressing);
+    ReleaseLeft();
+    REQUIRE(button.control.Find(WM_LBUTTONUP) != nullptr);
+    CHECK_FALSE(button.control.Find(WM_LBUTTONUP)->wasPressing);
+}
+
 TEST_CASE("losing the focus while pressed releases the capture and ends the press")
 {
     Button button;
@@ -669,6 +845,20 @@ TEST_CASE("a double click gives two presses, never a double-click notification")
     CHECK(button.host.m_doubleClicks == 0);
 }
 
+TEST_CASE("the second press of a double click has happened when its message is done")
+{
+    Button button;
+    button.host.Show();
+    MovePointer(button.control.m_hWnd);
+    button.control.SendMessage(WM_LBUTTONDBLCLK, MK_LBUTTON, MAKELPARAM(10, 10));
+    CHECK(button.control.m_pressing);
+    CHECK(IsPushed(button.control));
+    CHECK(::GetCapture() == button.control.m_hWnd);
+    CHECK(button.control.Find(WM_LBUTTONDBLCLK) == nullptr);
+    button.control.SendMessage(WM_LBUTTONUP, 0, MAKELPARAM(10, 10));
+    CHECK(button.host.m_clicks == 1);
+}
+
 TEST_CASE("a click toggles a check box, a click released elsewhere does not")
 {
     Button button(BS_AUTOCHECKBOX);
@@ -683,6 +873,21 @@ TEST_CASE("a click toggles a check box, a click released elsewhere does not")
     ReleaseLeft();
     CHECK(button.control.SendMessage(BM_GETCHECK) == 0);
     CHECK(button.host.m_clicks == 2);
+}
+
+TEST_CASE("a release over a check box or radio button that was not pressed there checks nothing")
+{
+    for (const DWORD style : {BS_AUTOCHECKBOX, BS_AUTORADIOBUTTON}) {
+        Button button(style);
+        button.host.Show();
+        MovePointer(button.control.m_hWnd);
+        button.control.SendMessage(WM_LBUTTONUP, 0, MAKELPARAM(10, 10));
+        CHECK(button.control.SendMessage(BM_GETCHECK) == 0);
+        // With a press before, the same release checks.
+        button.control.SendMessage(WM_LBUTTONDOWN, MK_LBUTTON, MAKELPARAM(10, 10));
+        button.control.SendMessage(WM_LBUTTONUP, 0, MAKELPARAM(10, 10));
+        CHECK(button.control.SendMessage(BM_GETCHECK) == 1);
+    }
 }
 
 TEST_CASE("the space bar toggles a check box and checks a radio button")
@@ -786,7 +991,8 @@ TEST_CASE("nothing is erased: a repaint is one copy to the screen")
     Button button;
     button.Shade();
     CClientDC dc(&button.host);
-    CHECK(button.control.SendMessage(WM_ERASEBKGND, reinterpret_cast<WPARAM>(dc.GetSafeHdc())) != 0);
+    CHECK(button.control.SendMessage(WM_ERASEBKGND, reinterpret_cast<WPARAM>(dc.GetSafeHdc())) !=
+          0);
     const CountCalls copies(FindModule("umbra-mfc.dll"), "gdi32", "BitBlt");
     REQUIRE(copies.IsInstalled());
     button.control.Invalidate(FALSE);
@@ -859,6 +1065,42 @@ TEST_CASE("the tool tip comes up under the real pointer")
         MovePointer(button.control.m_hWnd, {10, 10});
         return button.control.m_toolTip.IsWindowVisible() != FALSE;
     }));
+}
+
+TEST_CASE("presses, releases and moves are relayed to the tool tip, others are not")
+{
+    Button button;
+    button.control.SendMessage(WM_MOUSEMOVE, 0, MAKELPARAM(7, 8)); // No tool tip, no harm.
+    button.control.SetToolTipText("tip");
+    const RelayLog relays(button.control.m_toolTip.m_hWnd);
+    const UINT messages[] = {WM_LBUTTONDOWN, WM_MOUSEMOVE, WM_LBUTTONUP};
+    for (const UINT message : messages)
+        button.control.SendMessage(message, MK_SHIFT, MAKELPARAM(7, 8));
+    button.control.SendMessage(WM_RBUTTONDOWN, 0, MAKELPARAM(7, 8));
+    REQUIRE(relays.Relayed().size() == 3);
+    for (size_t i = 0; i < 3; ++i) {
+        CHECK(relays.Relayed()[i].message == messages[i]);
+        CHECK(relays.Relayed()[i].hwnd == button.control.m_hWnd);
+        CHECK(relays.Relayed()[i].wParam == MK_SHIFT);
+        CHECK(relays.Relayed()[i].lParam == MAKELPARAM(7, 8));
+    }
+}
+
+TEST_CASE("a host may end the button in a relay, and the message goes no further then")
+{
+    for (const UINT message : {WM_LBUTTONDOWN, WM_MOUSEMOVE, WM_LBUTTONUP}) {
+        CAPTURE(message);
+        Button button;
+        button.control.SetToolTipText("tip");
+        const RelayLog relays(button.control.m_toolTip.m_hWnd,
+                              [&button] { button.control.DestroyWindow(); });
+        button.control.m_passedOn.clear();
+        button.control.SendMessage(message, 0, MAKELPARAM(7, 8));
+        CHECK(button.control.m_hWnd == NULL);
+        CHECK(button.control.Find(message) == nullptr);
+        CHECK_FALSE(button.control.m_hover);
+        CHECK_FALSE(button.control.m_pressing);
+    }
 }
 
 TEST_CASE("a host may end the button in its click")

@@ -1,70 +1,19 @@
 #include "controls/StaticTS.h"
 
-#include "tests/programs/HelpProgram.h"
-#include "tests/controls/LabelHost.h"
-#include "tests/controls/ShellSpy.h"
-
 #include "tests/BitmapFile.h"
+#include "tests/controls/LabelChecks.h"
 
 #include "units/DialogUnits.h"
 #include "shell/HandCursor.h"
-#include "shell/PictureLoader.h"
 
-#include "testing/CallFault.h"
-#include "testing/GdiObjects.h"
-#include "testing/Input.h"
 #include "testing/MessageLog.h"
-#include "testing/Picture.h"
 #include "testing/Pump.h"
-
-#include <doctest/doctest.h>
-
-#include <stdlib.h>
 
 using namespace umbra::testing;
 
 namespace {
 
-const COLORREF green = RGB(20, 160, 60); // What the host is filled with.
-const COLORREF red = RGB(200, 30, 40);
-const COLORREF blue = RGB(0, 0, 255);
-const COLORREF black = RGB(0, 0, 0);
-
-const CRect labelPlace(50, 60, 250, 100);
-
-// There from the beginning: the toolkit looks for the hand once a process.
-const HelpProgram help;
-
-/// A label over a control that exists already, as in a dialog template.
-struct Label
-{
-    explicit Label(const char* text, DWORD style = SS_NOTIFY, const CRect& place = labelPlace)
-    {
-        control.SubclassWindow(host.AddStatic(place, text, style));
-    }
-
-    LabelHost host;
-    CStaticTS control;
-};
-
-LONG Underline(HFONT font)
-{
-    LOGFONT description = {};
-    ::GetObject(font, sizeof(description), &description);
-    return description.lfUnderline;
-}
-
-HFONT FontOf(CWnd& window)
-{
-    return reinterpret_cast<HFONT>(window.SendMessage(WM_GETFONT));
-}
-
-LOGFONT DescribeFont(CWnd& window)
-{
-    LOGFONT description = {};
-    ::GetObject(FontOf(window), sizeof(description), &description);
-    return description;
-}
+using Label = LabelOver<CStaticTS>;
 
 /// A bitmap file of `width` by `height` pixels; the left half black, the right half red.
 std::string WriteHalfBlackBmp(const char* name, int width, int height)
@@ -75,7 +24,7 @@ std::string WriteHalfBlackBmp(const char* name, int width, int height)
     return path;
 }
 
-/// The host as it looks without any label text in the given colour: how many pixels have it.
+/// How many pixels of the area have the colour.
 int CountIn(const Picture& picture, COLORREF color, const CRect& area)
 {
     return picture.Crop(area).CountOf(color);
@@ -120,26 +69,18 @@ TEST_CASE("an empty label paints nothing")
     CHECK(shown.CountOf(green) == shown.Width() * shown.Height());
 }
 
-TEST_CASE("text starts one pixel right of and below the label's corner")
+TEST_CASE(
+    "text starts one pixel right of and below the corner of the label's window, border or not")
 {
-    // A letter without side bearing trouble: the same text drawn by hand where it is expected.
-    Label label("Left text", SS_NOTIFY | SS_LEFT);
-    label.control.SetLabelTextColor(red);
-    const Picture shown = label.host.Show();
-
-    CClientDC dc(&label.host);
-    label.control.ShowWindow(SW_HIDE);
-    label.host.Show();
-    CFont* former = dc.SelectObject(&label.host.m_font);
-    dc.SetBkMode(TRANSPARENT);
-    dc.SetTextColor(red);
-    CRect area = labelPlace;
-    area.OffsetRect(1, 1);
-    dc.DrawText("Left text", -1, &area, DT_LEFT | DT_WORDBREAK);
-    dc.SelectObject(former);
-    CHECK(Picture::OfWindow(label.host.m_hWnd).Compare(shown) == "the same");
+    for (const DWORD style : {DWORD{0}, DWORD{WS_BORDER}, DWORD{WS_DLGFRAME}}) {
+        CAPTURE(style);
+        Label label("Left text", SS_NOTIFY | SS_LEFT | style);
+        label.control.SetLabelTextColor(red);
+        CheckTextIsDrawnAs(label, FontOf(label.control), red, CSize(1, 1), DT_LEFT | DT_WORDBREAK);
+    }
 }
 
+// Kept: the style is taken bit by bit, not as a type of static control.
 TEST_CASE("the alignment follows the style, bit by bit")
 {
     struct Case
@@ -147,9 +88,9 @@ TEST_CASE("the alignment follows the style, bit by bit")
         DWORD style;
         UINT format;
     };
-    for (const Case& expected : {Case{SS_LEFT, DT_LEFT}, Case{SS_CENTER, DT_CENTER},
-                                 Case{SS_RIGHT, DT_RIGHT}, Case{SS_ICON, DT_CENTER},
-                                 Case{0xE, DT_RIGHT}, Case{SS_LEFTNOWORDWRAP, DT_LEFT}}) {
+    for (const Case& expected :
+         {Case{SS_LEFT, DT_LEFT}, Case{SS_CENTER, DT_CENTER}, Case{SS_RIGHT, DT_RIGHT},
+          Case{SS_ICON, DT_CENTER}, Case{0xE, DT_RIGHT}, Case{SS_LEFTNOWORDWRAP, DT_LEFT}}) {
         CAPTURE(expected.style);
         Label label("Text", SS_NOTIFY);
         label.control.ModifyStyle(SS_TYPEMASK, expected.style);
@@ -221,24 +162,35 @@ TEST_CASE("a link is underlined and blue; made plain again it stays blue")
     label.control.SetLink(TRUE);
     CHECK(label.control.m_bLink);
     CHECK(FontOf(label.control) != before);
-    CHECK(Underline(FontOf(label.control)) != 0);
+    CHECK(DescribeFont(label.control).lfUnderline != 0);
     CHECK(label.control.m_crText == blue);
     CHECK(label.host.Show().Contains(blue));
 
     label.control.SetLink(FALSE);
     CHECK_FALSE(label.control.m_bLink);
-    CHECK(Underline(FontOf(label.control)) == 0);
+    CHECK(DescribeFont(label.control).lfUnderline == 0);
     CHECK(label.control.m_crText == blue);
 }
 
 TEST_CASE("making a link changes nothing but the underline of the font")
 {
     Label label("Link");
-    LOGFONT before = DescribeFont(label.control);
+    const LOGFONT before = DescribeFont(label.control);
     label.control.SetLink(TRUE);
-    LOGFONT after = DescribeFont(label.control);
-    before.lfUnderline = after.lfUnderline = 0;
-    CHECK(memcmp(&before, &after, sizeof(LOGFONT)) == 0);
+    CheckOnlyUnderlineDiffers(before, DescribeFont(label.control));
+}
+
+// Kept: the font stays the control's for good; nobody deletes it.
+TEST_CASE("each change between link and plain label leaves one font behind")
+{
+    Label label("Text");
+    label.control.SetLink(TRUE);
+    const HFONT first = FontOf(label.control);
+    const BalancedGdi objects;
+    for (int i = 0; i < 4; ++i)
+        label.control.SetLink(i % 2);
+    CHECK(objects.Describe() == "fonts +4");
+    CHECK(::GetObjectType(first) == OBJ_FONT);
 }
 
 TEST_CASE("a font given to a label is copied with the label's underline, and paints derive theirs")
@@ -256,25 +208,38 @@ TEST_CASE("a font given to a label is copied with the label's underline, and pai
     CHECK(FontOf(label.control) != static_cast<HFONT>(font));
 }
 
+TEST_CASE(
+    "with a font of its own each paint decides the underline, whatever the control's font has")
+{
+    CFont plain, underlined;
+    plain.CreateFont(-20, 0, 0, 0, FW_NORMAL, FALSE, FALSE, FALSE, ANSI_CHARSET, 0, 0, 0, 0,
+                     "Arial");
+    underlined.CreateFont(-20, 0, 0, 0, FW_NORMAL, FALSE, TRUE, FALSE, ANSI_CHARSET, 0, 0, 0, 0,
+                          "Arial");
+    Label label("Text", SS_NOTIFY | SS_LEFT);
+    label.control.SetLink(TRUE);
+    label.control.SetLabelFont(plain);
+    label.control.SetFont(&plain); // The host's own word, past the label.
+    CheckTextIsDrawnAs(label, underlined, blue, CSize(1, 1), DT_LEFT | DT_WORDBREAK);
+
+    Label other("Text", SS_NOTIFY | SS_LEFT);
+    other.control.SetLabelFont(underlined);
+    other.control.SetFont(&underlined);
+    other.control.SetLabelTextColor(red);
+    CheckTextIsDrawnAs(other, plain, red, CSize(1, 1), DT_LEFT | DT_WORDBREAK);
+}
+
+// Kept: made anew at every paint and never deleted.
 TEST_CASE("each paint of a label with a given font leaves one font behind, others leave nothing")
 {
     Label label("Text");
     label.host.Show();
-    {
-        const BalancedGdi objects;
-        for (int i = 0; i < 10; ++i) {
-            label.control.Invalidate();
-            label.control.UpdateWindow();
-        }
-        CHECK_MESSAGE(objects.IsBalanced(), objects.Describe());
-    }
+    CheckPaintsLeaveNothing(label);
     label.control.SetLabelFont(label.host.m_font);
     label.host.Show();
     const BalancedGdi objects;
-    for (int i = 0; i < 10; ++i) {
-        label.control.Invalidate();
-        label.control.UpdateWindow();
-    }
+    for (int i = 0; i < 10; ++i)
+        label.Repaint();
     CHECK(objects.Growth() == 10);
     CHECK(objects.Describe() == "fonts +10");
 }
@@ -282,12 +247,17 @@ TEST_CASE("each paint of a label with a given font leaves one font behind, other
 TEST_CASE("setting the text colour repaints the parent under the label, without erasing")
 {
     Label label("Text");
+    label.host.ModifyStyle(WS_CLIPCHILDREN, 0); // An erase would not reach what lies under it.
     label.host.Show();
     REQUIRE_FALSE(label.host.GetUpdateRect(NULL));
     label.control.SetLabelTextColor(red);
     CRect update;
     CHECK(label.host.GetUpdateRect(&update));
     CHECK(labelPlace.PtInRect(update.TopLeft()));
+    const MessageLog log(label.host.m_hWnd);
+    label.host.UpdateWindow();
+    CHECK(log.Contains(WM_PAINT));
+    CHECK_FALSE(log.Contains(WM_ERASEBKGND));
 }
 
 TEST_CASE("an opaque picture is copied unscaled into the label, with the text over it")
@@ -318,6 +288,18 @@ TEST_CASE("a keyed picture lets the parent show through its key colour")
     ::DeleteFileA(path.c_str());
 }
 
+TEST_CASE("a picture is found under a path beyond ASCII")
+{
+    const ForeignFolder folder;
+    REQUIRE(folder.IsThere());
+    Label label("");
+    label.control.SetTransparentColor(black);
+    label.control.LoadPicture(folder.ImagePath("Next.gif").c_str());
+    CHECK(label.control.m_bHasPicture);
+    CheckShowsKeyedNext(label);
+}
+
+// Kept: a keyed picture is drawn through a block of this size, whatever its own.
 TEST_CASE("a keyed picture larger than 200 pixels is cut there")
 {
     const std::string path = WriteHalfBlackBmp("umbra-label.bmp", 260, 240);
@@ -358,6 +340,7 @@ TEST_CASE("a picture that does not load changes nothing and still answers TRUE")
     CHECK(label.host.Show().Contains(red));
 }
 
+// Kept: the former picture is not deleted.
 TEST_CASE("bitmaps outlive their label, replaced ones too")
 {
     const std::string path = WriteHalfBlackBmp("umbra-label.bmp", 48, 30);
@@ -372,10 +355,8 @@ TEST_CASE("bitmaps outlive their label, replaced ones too")
         mask = label.control.m_bmpMask.GetSafeHandle();
         CHECK(first != second);
     }
-    for (const HGDIOBJ bitmap : {first, second, mask}) {
-        CHECK(::GetObjectType(bitmap) == OBJ_BITMAP);
-        ::DeleteObject(bitmap);
-    }
+    // Kept: the bitmaps outlive the label.
+    CheckBitmapsLive({first, second, mask});
     ::DeleteFileA(path.c_str());
 }
 
@@ -436,30 +417,32 @@ TEST_CASE("a stored target is opened instead of the text once it is to be used")
     Label label("The text");
     label.control.SetLink(TRUE);
     label.control.m_strLinkTarget = "stored";
-    label.control.SendMessage(WM_LBUTTONDOWN, MK_LBUTTON, MAKELPARAM(3, 3));
+    label.Press();
     label.control.SetLinkTarget(" the target ");
-    label.control.SendMessage(WM_LBUTTONDOWN, MK_LBUTTON, MAKELPARAM(3, 3));
+    label.Press();
     REQUIRE(shell.Asked().size() == 2);
     CHECK(shell.Asked()[0].target == "The text");
     CHECK(shell.Asked()[1].target == "the target");
 }
 
-TEST_CASE("a plain label and a link without text open nothing; the parent is repainted all the same")
+TEST_CASE(
+    "a plain label and a link without text open nothing; the parent is repainted all the same")
 {
     const ShellSpy shell;
     Label plain("Text");
     plain.host.Show();
-    plain.control.SendMessage(WM_LBUTTONDOWN, MK_LBUTTON, MAKELPARAM(3, 3));
+    plain.Press();
     CHECK(plain.host.GetUpdateRect(NULL));
 
     Label empty("");
     empty.control.SetLink(TRUE);
     empty.host.Show();
-    empty.control.SendMessage(WM_LBUTTONDOWN, MK_LBUTTON, MAKELPARAM(3, 3));
+    empty.Press();
     CHECK(empty.host.GetUpdateRect(NULL));
     CHECK(shell.Asked().empty());
 }
 
+// Kept: links of this class fall back to this type's program, web addresses included.
 TEST_CASE("what the shell cannot open goes to the toolkit's own document type, web addresses too")
 {
     const RegisteredClass extension(".QVXLog", "umbra.log");
@@ -467,7 +450,7 @@ TEST_CASE("what the shell cannot open goes to the toolkit's own document type, w
     const ShellSpy shell(32);
     Label label("http://example.invalid/");
     label.control.SetLink(TRUE);
-    label.control.SendMessage(WM_LBUTTONDOWN, MK_LBUTTON, MAKELPARAM(3, 3));
+    label.Press();
     REQUIRE(shell.Run().size() == 1);
     CHECK(shell.Run()[0].target == "viewer.exe  http://example.invalid/");
     CHECK(shell.Run()[0].show == SW_SHOWNORMAL);
@@ -486,26 +469,20 @@ TEST_CASE("a control without SS_NOTIFY is transparent to the real pointer")
 TEST_CASE("the hand shows over a link with text; elsewhere the handler leaves the cursor alone")
 {
     REQUIRE(help.IsInstalled());
-    const HCURSOR arrow = ::LoadCursor(NULL, IDC_ARROW);
-    const auto ask = [&](Label& label) {
-        ::SetCursor(arrow);
-        return label.control.SendMessage(WM_SETCURSOR,
-                                         reinterpret_cast<WPARAM>(label.control.m_hWnd),
-                                         MAKELPARAM(HTCLIENT, WM_MOUSEMOVE));
-    };
+    const HCURSOR cross = ::LoadCursor(NULL, IDC_CROSS);
     Label plain("Text");
-    CHECK(ask(plain) == FALSE);
-    CHECK(::GetCursor() == arrow);
+    CHECK(plain.AskCursor() == FALSE);
+    CHECK(::GetCursor() == cross);
 
     Label empty("");
     empty.control.SetLink(TRUE);
     empty.control.SetLinkTarget("somewhere");
-    CHECK(ask(empty) == FALSE);
-    CHECK(::GetCursor() == arrow);
+    CHECK(empty.AskCursor() == FALSE);
+    CHECK(::GetCursor() == cross);
 
     Label link("Text");
     link.control.SetLink(TRUE);
-    CHECK(ask(link) == TRUE);
+    CHECK(link.AskCursor() == TRUE);
     REQUIRE(LoadHandCursor() != NULL);
     CHECK(::GetCursor() == LoadHandCursor());
 }
@@ -514,23 +491,7 @@ TEST_CASE("10,000 pointer moves over a link leave nothing behind")
 {
     Label link("Text");
     link.control.SetLink(TRUE);
-    link.host.Show();
-    const auto move = [&] {
-        link.control.SendMessage(WM_SETCURSOR, reinterpret_cast<WPARAM>(link.control.m_hWnd),
-                                 MAKELPARAM(HTCLIENT, WM_MOUSEMOVE));
-        link.control.SendMessage(WM_MOUSEMOVE, 0, MAKELPARAM(5, 5));
-    };
-    move();
-    const BalancedGdi objects;
-    const CountCalls cursors(FindModule("umbra.dll"), "user32", "CopyIcon");
-    const CountCalls libraries(FindModule("umbra.dll"), "kernel32", "LoadLibraryA");
-    const SIZE_T memory = WorkingSet();
-    for (int i = 0; i < 10000; ++i)
-        move();
-    CHECK(WorkingSet() < memory + 512 * 1024);
-    CHECK(cursors.Calls() == 0);
-    CHECK(libraries.Calls() == 0);
-    CHECK_MESSAGE(objects.IsBalanced(), objects.Describe());
+    CheckMovesLeaveNothing(link);
 }
 
 TEST_CASE("a label made through its class lies on the dialog-unit grid")
@@ -567,7 +528,7 @@ TEST_CASE("long texts and odd targets do no harm")
           std::string(300, '%'), std::string("   ")}) {
         label.control.SetWindowText(text.c_str());
         label.host.Show();
-        label.control.SendMessage(WM_LBUTTONDOWN, MK_LBUTTON, MAKELPARAM(3, 3));
+        label.Press();
     }
     CHECK(shell.Asked().size() == 5);
     CHECK(shell.Asked()[0].target.size() == 65536);
