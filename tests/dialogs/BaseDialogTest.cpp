@@ -1,6 +1,8 @@
 #include "dialogs/BaseDialog.h"
 #include "shell/PictureLoader.h"
 
+#include "tests/ForeignFolder.h"
+#include "tests/dialogs/DialogChecks.h"
 #include "tests/dialogs/PageTemplate.h"
 
 #include "testing/CallFault.h"
@@ -15,6 +17,7 @@
 
 #include <doctest/doctest.h>
 
+#include <olectl.h>
 #include <string>
 
 using namespace umbra::testing;
@@ -26,7 +29,10 @@ const COLORREF tint = RGB(180, 200, 230);
 /// Looks at what a button keeps to itself.
 struct ButtonProbe : CxShadeButton
 {
-    static HBITMAP Picture(const CxShadeButton& button) { return button.*(&ButtonProbe::m_hBitmap); }
+    static HBITMAP Picture(const CxShadeButton& button)
+    {
+        return button.*(&ButtonProbe::m_hBitmap);
+    }
     static CRect PicturePlace(const CxShadeButton& button)
     {
         return button.*(&ButtonProbe::m_rcIcon);
@@ -181,6 +187,21 @@ struct HostSettings
     }
 };
 
+/// The working directory at the last attempt to load a picture, and the attempts since the start.
+struct PictureAttempts
+{
+    CString folder;
+    int count = 0;
+} attempts;
+
+HRESULT WINAPI NoteAttempt(LPOLESTR path, LPUNKNOWN caller, DWORD reserved, OLE_COLOR color,
+                           REFIID id, LPVOID* picture)
+{
+    attempts.folder = WorkingDirectory();
+    ++attempts.count;
+    return ::OleLoadPicturePath(path, caller, reserved, color, id, picture);
+}
+
 /// The strip as the resource has it.
 Picture LoadStrip()
 {
@@ -207,6 +228,17 @@ TEST_CASE("the flags are stored in their members, one by one")
     }
 }
 
+// Kept: this order differs from the order of the constructor's arguments.
+TEST_CASE("the flags lie in memory in the order of the members, side by side")
+{
+    const TestPage page{Flags()};
+    const bool* const members[] = {
+        &page.m_bBack,    &page.m_bNext,         &page.m_bCancel,         &page.m_bOk,
+        &page.m_bConfirm, &page.m_bCloseCaption, &page.m_bProceedCaption, &page.m_bCancelIcon};
+    for (size_t i = 0; i < std::size(members); ++i)
+        CHECK(members[i] == members[0] + i);
+}
+
 TEST_CASE("all 256 combinations of flags bind, caption, shade and decorate as the rules say")
 {
     const HostSettings settings;
@@ -217,6 +249,7 @@ TEST_CASE("all 256 combinations of flags bind, caption, shade and decorate as th
         // The template has just the controls that these flags need.
         const Page page(dialog, MakePageTemplate(flags.confirm || flags.next, flags.back));
         REQUIRE(page.IsOpen());
+        // Kept: "OK" is a caption of the IDCANCEL button.
         CheckButton(dialog.m_btnCancel, ExpectCancel(flags), "template cancel");
         CheckButton(dialog.m_btnOk, ExpectOk(flags), "template ok");
         CheckButton(dialog.m_btnBack, ExpectBack(flags), "template back");
@@ -234,6 +267,44 @@ TEST_CASE("a template that lacks a bound control fails in the exchange")
     NextDialog noMessage([](HWND box) { ::EndDialog(box, IDOK); });
     dialog.CreateIndirect(source.Get());
     CHECK(dialog.m_btnBack.m_hWnd == NULL);
+    if (dialog.m_hWnd != NULL)
+        dialog.DestroyWindow();
+}
+
+TEST_CASE("a page whose exchange fails is set up all the same, and answers TRUE")
+{
+    class FailingPage : public TestPage
+    {
+    public:
+        explicit FailingPage(const Flags& flags) : TestPage(flags) {}
+        BOOL m_answer = -1;
+        CString m_caption;
+        bool m_isTinted = false;
+
+    protected:
+        void DoDataExchange(CDataExchange* pDX) override
+        {
+            TestPage::DoDataExchange(pDX);
+            pDX->Fail();
+        }
+        BOOL OnInitDialog() override
+        {
+            m_answer = TestPage::OnInitDialog();
+            m_btnCancel.GetWindowText(m_caption);
+            m_isTinted = IsTinted(m_btnCancel);
+            return m_answer;
+        }
+    };
+    const HostSettings settings;
+    Flags flags;
+    flags.cancel = true;
+    FailingPage dialog(flags);
+    const DialogTemplate source = MakePageTemplate();
+    dialog.CreateIndirect(source.Get());
+    CHECK(dialog.m_answer == TRUE);
+    CHECK(std::string(dialog.m_strImageDir) == ProgramFolder() + "\\");
+    CHECK(dialog.m_caption == "Cancel");
+    CHECK(dialog.m_isTinted);
     if (dialog.m_hWnd != NULL)
         dialog.DestroyWindow();
 }
@@ -309,6 +380,60 @@ TEST_CASE("a shown picture is a visible child near its place, keyed black, with 
     CHECK(abs(place.Height() - 100) < 4);
 }
 
+TEST_CASE("a picture is loaded with the image folder as the working directory")
+{
+    const HostSettings settings;
+    TestPage dialog{Flags()};
+    const Page page(dialog, MakePageTemplate());
+    REQUIRE(page.IsOpen());
+    REQUIRE(std::string(WorkingDirectory()) != ProgramFolder());
+    const ImportHook loads(FindModule("umbra.dll"), "oleaut32", "OleLoadPicturePath", NoteAttempt);
+    REQUIRE(loads.IsInstalled());
+    attempts = {};
+    dialog.ShowPicture(IDS_IMAGE_INFO);
+    CHECK(attempts.count == 1);
+    CHECK(std::string(attempts.folder) == ProgramFolder());
+    CHECK(std::string(WorkingDirectory()) != ProgramFolder());
+}
+
+TEST_CASE("the page shows through the black of a picture, the first and each further one")
+{
+    const HostSettings settings;
+    TestPage dialog{Flags()};
+    Page page(dialog, MakePageTemplate());
+    REQUIRE(page.IsOpen());
+    for (const UINT id : {IDS_IMAGE_INFO, IDS_IMAGE_ERROR}) {
+        CAPTURE(id);
+        dialog.ShowPicture(id);
+        CHECK(dialog.m_picture.m_bmpMask.GetSafeHandle() != NULL);
+        CRect place;
+        dialog.m_picture.GetWindowRect(&place);
+        dialog.ScreenToClient(&place);
+        dialog.RedrawWindow(NULL, NULL, RDW_INVALIDATE | RDW_ERASE | RDW_ALLCHILDREN);
+        const Picture shown = page.Show().Crop(place);
+        CHECK_FALSE(shown.Contains(RGB(0, 0, 0)));
+        CHECK(shown.Contains(::GetSysColor(COLOR_BTNFACE)));
+        CHECK(shown.CountOf(::GetSysColor(COLOR_BTNFACE)) < shown.Width() * shown.Height());
+    }
+}
+
+TEST_CASE("pictures of buttons and page are found in an image folder beyond ASCII")
+{
+    const ForeignFolder folder;
+    REQUIRE(folder.IsThere());
+    const HostSettings settings(folder.Path().c_str());
+    Flags flags;
+    flags.confirm = flags.cancel = flags.back = flags.cancelIcon = true;
+    TestPage dialog(flags);
+    const Page page(dialog, MakePageTemplate());
+    REQUIRE(page.IsOpen());
+    CHECK(ShowsIcon(dialog.m_btnOk, "Confirm"));
+    CHECK(ShowsIcon(dialog.m_btnCancel, "Close"));
+    CHECK(ShowsIcon(dialog.m_btnBack, "Back"));
+    dialog.ShowPicture(IDS_IMAGE_INFO);
+    CHECK(dialog.m_picture.m_bHasPicture);
+}
+
 TEST_CASE("a second picture of one dialog window goes into the same label")
 {
     const HostSettings settings;
@@ -372,12 +497,15 @@ TEST_CASE("the strip is loaded anew at every paint and leaves nothing behind")
     Page page(dialog, MakePageTemplate());
     REQUIRE(page.IsOpen());
     page.Show();
-    const BalancedGdi objects;
-    for (int i = 0; i < 20; ++i) {
-        dialog.Invalidate();
-        dialog.UpdateWindow();
-    }
-    CHECK_MESSAGE(objects.IsBalanced(), objects.Describe());
+    const CountCalls loads(FindModule("umbra-mfc.dll"), "user32", "LoadBitmapA");
+    REQUIRE(loads.IsInstalled());
+    CheckNothingStays(
+        [&dialog] {
+            dialog.Invalidate();
+            dialog.UpdateWindow();
+        },
+        20);
+    CHECK(loads.Calls() == 1 + 20);
 }
 
 TEST_CASE("a page shades buttons of its own like the standard ones")
@@ -410,16 +538,11 @@ TEST_CASE("the standard buttons end a page as their ids say")
 TEST_CASE("a page leaves no graphics object behind")
 {
     const HostSettings settings;
-    const auto cycle = [] {
+    CheckNothingStays([] {
         Flags flags;
         flags.confirm = flags.cancel = flags.back = flags.cancelIcon = true;
         TestPage dialog(flags);
         Page page(dialog, MakePageTemplate());
         page.Show();
-    };
-    cycle();
-    const BalancedGdi objects;
-    for (int i = 0; i < 10; ++i)
-        cycle();
-    CHECK_MESSAGE(objects.IsBalanced(), objects.Describe());
+    });
 }

@@ -1,5 +1,6 @@
 #include "dialogs/ModellessDlg.h"
 
+#include "tests/ForeignFolder.h"
 #include "tests/dialogs/PageTemplate.h"
 
 #include "testing/GdiObjects.h"
@@ -31,10 +32,7 @@ public:
 struct LabelProbe : CHyperLink
 {
     static COLORREF TextColor(const CHyperLink& label) { return label.*(&LabelProbe::m_crText); }
-    static COLORREF Key(const CHyperLink& label)
-    {
-        return label.*(&LabelProbe::m_crTransparent);
-    }
+    static COLORREF Key(const CHyperLink& label) { return label.*(&LabelProbe::m_crTransparent); }
     static BOOL HasPicture(const CHyperLink& label)
     {
         return label.*(&LabelProbe::m_bBitmapLoaded);
@@ -76,6 +74,23 @@ public:
     }
 
     TestModeless* operator->() const { return static_cast<TestModeless*>(g_pModelessDlg); }
+};
+
+/// Two edits on the dialog; the first one has the focus.
+struct TwoEdits
+{
+    explicit TwoEdits(const Shown& dialog)
+    {
+        const DWORD style = WS_CHILD | WS_VISIBLE | WS_TABSTOP;
+        REQUIRE(first.Create(style, CRect(100, 150, 160, 170), g_pModelessDlg, 501));
+        REQUIRE(second.Create(style, CRect(170, 150, 230, 170), g_pModelessDlg, 502));
+        dialog->SetForegroundWindow();
+        first.SetFocus();
+        dialog->PumpMessages();
+        REQUIRE(::GetFocus() == first.m_hWnd);
+    }
+
+    CEdit first, second;
 };
 
 /// A window that notes what reaches it.
@@ -213,37 +228,21 @@ TEST_CASE("with nothing else to take the focus, Tab is handled and goes no furth
 TEST_CASE("Tab moves the focus between the controls while the host pumps, and is not translated")
 {
     const Shown dialog;
-    CEdit first, second;
-    REQUIRE(first.Create(WS_CHILD | WS_VISIBLE | WS_TABSTOP, CRect(100, 150, 160, 170),
-                         g_pModelessDlg, 501));
-    REQUIRE(second.Create(WS_CHILD | WS_VISIBLE | WS_TABSTOP, CRect(170, 150, 230, 170),
-                          g_pModelessDlg, 502));
-    dialog->SetForegroundWindow();
-    first.SetFocus();
+    TwoEdits edits(dialog);
+    edits.first.PostMessage(WM_KEYDOWN, VK_TAB, 0x000F0001);
     dialog->PumpMessages();
-    REQUIRE(::GetFocus() == first.m_hWnd);
-
-    first.PostMessage(WM_KEYDOWN, VK_TAB, 0x000F0001);
-    dialog->PumpMessages();
-    CHECK(::GetFocus() == second.m_hWnd);
+    CHECK(::GetFocus() == edits.second.m_hWnd);
     CString text;
-    first.GetWindowText(text);
+    edits.first.GetWindowText(text);
     CHECK(text.IsEmpty());
-    second.GetWindowText(text);
+    edits.second.GetWindowText(text);
     CHECK(text.IsEmpty());
 }
 
 TEST_CASE("the real Tab key moves the focus while the host pumps")
 {
     const Shown dialog;
-    CEdit first, second;
-    REQUIRE(first.Create(WS_CHILD | WS_VISIBLE | WS_TABSTOP, CRect(100, 150, 160, 170),
-                         g_pModelessDlg, 501));
-    REQUIRE(second.Create(WS_CHILD | WS_VISIBLE | WS_TABSTOP, CRect(170, 150, 230, 170),
-                          g_pModelessDlg, 502));
-    dialog->SetForegroundWindow();
-    first.SetFocus();
-    dialog->PumpMessages();
+    TwoEdits edits(dialog);
     INPUT keys[2] = {};
     keys[0].type = keys[1].type = INPUT_KEYBOARD;
     keys[0].ki.wVk = keys[1].ki.wVk = VK_TAB;
@@ -251,7 +250,7 @@ TEST_CASE("the real Tab key moves the focus while the host pumps")
     ::SendInput(2, keys, sizeof(INPUT));
     CHECK(WaitUntil([&] {
         dialog->PumpMessages();
-        return ::GetFocus() == second.m_hWnd;
+        return ::GetFocus() == edits.second.m_hWnd;
     }));
 }
 
@@ -279,6 +278,44 @@ TEST_CASE("a pump takes WM_QUIT like any other message and does not end the prog
     CHECK(Contains(listener.m_seen, WM_APP + 2));
     MSG message;
     CHECK_FALSE(::PeekMessage(&message, NULL, WM_QUIT, WM_QUIT, PM_REMOVE));
+}
+
+TEST_CASE("a pump works on behind WM_QUIT, which waiting paints come after")
+{
+    const Shown dialog;
+    dialog->InvalidateRect(NULL, TRUE);
+    REQUIRE(dialog->GetUpdateRect(NULL));
+    ::PostQuitMessage(5);
+    dialog->PumpMessages();
+    CHECK_FALSE(dialog->GetUpdateRect(NULL));
+    MSG message;
+    CHECK_FALSE(::PeekMessage(&message, NULL, WM_QUIT, WM_QUIT, PM_REMOVE));
+}
+
+TEST_CASE("a pump works off the thread's own messages, one posted as WM_QUIT among them")
+{
+    const Shown dialog;
+    Listener listener;
+    ::PostThreadMessage(::GetCurrentThreadId(), WM_APP + 5, 0, 0);
+    ::PostThreadMessage(::GetCurrentThreadId(), WM_QUIT, 0, 0);
+    listener.PostMessage(WM_APP + 2);
+    dialog->PumpMessages();
+    CHECK(Contains(listener.m_seen, WM_APP + 2));
+    MSG message;
+    CHECK_FALSE(::PeekMessage(&message, NULL, WM_APP + 5, WM_APP + 5, PM_NOREMOVE));
+}
+
+TEST_CASE("the pictures are found in an image folder beyond ASCII")
+{
+    const ForeignFolder folder;
+    REQUIRE(folder.IsThere());
+    g_strImageDir = folder.Path().c_str();
+    TestModeless dialog;
+    REQUIRE(dialog.Create(CModellessDlg::IDD, NULL));
+    CHECK(LabelProbe::HasPicture(dialog.m_icon));
+    CHECK(dialog.m_picture.m_bHasPicture);
+    dialog.DestroyWindow();
+    AfxGetApp()->EndWaitCursor();
 }
 
 TEST_CASE("a handler that runs inside a pump may end the window")
