@@ -93,6 +93,9 @@ TEST_CASE("the plain palette runs from the shadow through the face to the highli
             CHECK(ColorOf(*dib, i) == PlainColor(plainColors, i));
         }
         CHECK(ColorOf(*dib, 0) == ChannelsOf(plainColors.shadow));
+        // Kept: the second half begins one step on the way to the highlight colour, so that entry
+        // 128 is a touch lighter than the face colour, which no entry is, and entry 255 is the
+        // highlight itself.
         CHECK(ColorOf(*dib, 127) == Channels{211, 207, 198});
         CHECK(ColorOf(*dib, 128) == Channels{212, 208, 200});
         CHECK(ColorOf(*dib, 255) == ChannelsOf(plainColors.highlight));

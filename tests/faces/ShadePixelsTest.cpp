@@ -1,6 +1,5 @@
 #include "faces/ShadePixels.h"
 
-#include "faces/ShadeGrain.h"
 #include "tests/faces/FacesModule.h"
 #include "tests/faces/PlainShade.h"
 
@@ -117,12 +116,6 @@ std::vector<std::uint8_t> FillPixels(int width, int height, unsigned style, int 
     return pixels;
 }
 
-// The divisor of a granularity.
-int DivisorOf(int granularity)
-{
-    return 32767 / std::max(2 * granularity, 1);
-}
-
 // A state whose next number is the largest one.
 std::uint32_t StateBeforeMaximum()
 {
@@ -133,33 +126,6 @@ std::uint32_t StateBeforeMaximum()
 }
 
 } // namespace
-
-TEST_CASE("the division of the grain is exact for every number and every granularity")
-{
-    for (int granularity = 0; granularity <= 255; ++granularity) {
-        const int divisor = DivisorOf(granularity);
-        const GrainDivider divider = DividerOf(divisor);
-        int wrong = 0;
-        for (int number = 0; number <= 32767; ++number) {
-            wrong += divider.Divide(number) != number / divisor;
-        }
-        CAPTURE(granularity);
-        CHECK(wrong == 0);
-    }
-}
-
-TEST_CASE("the division is exact for divisors that no granularity has, too")
-{
-    for (int divisor = 1; divisor <= 32767; divisor += divisor < 300 ? 1 : 97) {
-        const GrainDivider divider = DividerOf(divisor);
-        int wrong = 0;
-        for (int number = 0; number <= 32767; ++number) {
-            wrong += divider.Divide(number) != number / divisor;
-        }
-        CAPTURE(divisor);
-        CHECK(wrong == 0);
-    }
-}
 
 TEST_CASE("every style matches its plain version at every size up to 40 x 12")
 {
@@ -254,6 +220,50 @@ TEST_CASE("grain reaches from minus the granularity to a little more than it")
             CHECK(*high == 255);
         }
     }
+}
+
+// Kept: the grain of a scratched face is not centred; it goes from 0 to about twice g.
+TEST_CASE("the grain of a scratched face only adds, up to twice the granularity")
+{
+    // Too wide for scratches, and with this granularity the ramps are flat.
+    const int granularity = 107;
+    const auto pixels = FillPixels(40000, 3, SHADE_SCRATCHED, granularity, 1);
+    const auto [low, high] = std::minmax_element(pixels.begin(), pixels.end());
+    CHECK(*low == 0);
+    CHECK(*high == 2 * granularity);
+}
+
+// Kept: the half starts at the mirrored column, while its bounds are tested without mirroring (x +
+// i < width, y - i > 0), which scatters it to the other side. What is outside the face all the same
+// is dropped: i < x, and at the start what is left of it or below it.
+TEST_CASE("the second half of a scratch starts at the mirrored column")
+{
+    const int width = 100, height = 80, rise = (255 - 40) / 2;
+    int seen = 0;
+    for (std::uint32_t state = 1; state <= 50; ++state) {
+        // The last scratch: none is drawn over it.
+        ShadeRandom random(state);
+        random.Skip(4 * 199);
+        const int x = random.Next() / (ShadeRandom::kMax / width);
+        const int y = random.Next() / (ShadeRandom::kMax / height);
+        const int half = random.Next() / (ShadeRandom::kMax / height) / 2;
+        const int index = random.Next() / 819;
+        const auto pixels = FillPixels(width, height, SHADE_SCRATCHED, 0, state);
+        for (int i = 0; i < half && x + i < width && y - i > 0; ++i) {
+            const int column = width - x + i;
+            if (column < 0 || column >= width || y - i >= height)
+                continue;
+            const int row = height - 1 - (y - i); // Stored from the bottom up.
+            const int ramps = rise * (width - column) / width + rise * row / height;
+            CAPTURE(state);
+            CAPTURE(i);
+            // The largest random number adds one, even without granularity.
+            const int rest = pixels[static_cast<std::size_t>(row) * width + column] - ramps - index;
+            CHECK((rest == 0 || rest == 1));
+            ++seen;
+        }
+    }
+    CHECK(seen > 200);
 }
 
 TEST_CASE("a granularity above 127 turns ramps round")

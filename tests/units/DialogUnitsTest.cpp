@@ -131,6 +131,7 @@ TEST_CASE("with bases of 7 and 13, pixels and dialog units come out as worked by
     CHECK(ToPixels(0) == 0);
 }
 
+// Kept: a negative value in dialog units becomes a very large positive one in pixels.
 TEST_CASE("a negative value in dialog units becomes a very large one in pixels")
 {
     CHECK(ToUnits(-2) == -1);
@@ -212,9 +213,8 @@ TEST_CASE("the base units are those of the reference font where it is installed,
 
     // Measured here by other means: the text metrics' own average and the font's cell.
     const HDC screen = ::GetDC(nullptr);
-    const HFONT font =
-        ::CreateFontA(-::MulDiv(8, ::GetDeviceCaps(screen, LOGPIXELSY), 72), 0, 0, 0, 400, 0, 0, 0,
-                      DEFAULT_CHARSET, 0, 0, 0, 0, "MS Mincho");
+    const HFONT font = ::CreateFontA(-::MulDiv(8, ::GetDeviceCaps(screen, LOGPIXELSY), 72), 0, 0, 0,
+                                     400, 0, 0, 0, DEFAULT_CHARSET, 0, 0, 0, 0, "MS Mincho");
     const HGDIOBJ former = ::SelectObject(screen, font);
     TEXTMETRICA metrics;
     ::GetTextMetricsA(screen, &metrics);
