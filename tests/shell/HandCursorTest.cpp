@@ -1,6 +1,7 @@
 #include "shell/HandCursor.h"
 
 #include "tests/programs/HelpProgram.h"
+#include "tests/shell/ProcessOfItsOwn.h"
 
 #include "testing/CallFault.h"
 #include "testing/ImportHook.h"
@@ -12,7 +13,7 @@ using namespace umbra::testing;
 // The toolkit loads the hand once for the whole process, so one case tells the story of one
 // process; that of a system without the help program is HandCursorMissingTest.cpp.
 
-TEST_CASE("the hand is borrowed from the help program once, and every link shares it")
+TEST_CASE("part: a process that borrows the hand from the help program" * doctest::skip())
 {
     const HelpProgram help;
     REQUIRE(help.IsInstalled());
@@ -45,4 +46,9 @@ TEST_CASE("the hand is borrowed from the help program once, and every link share
     ::DeleteObject(info.hbmMask);
     if (info.hbmColor != NULL)
         ::DeleteObject(info.hbmColor);
+}
+
+TEST_CASE("the hand is borrowed from the help program once, and every link shares it")
+{
+    CheckInProcessOfItsOwn("part: a process that borrows the hand from the help program");
 }

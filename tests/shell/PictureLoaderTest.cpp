@@ -1,8 +1,8 @@
 #include "shell/PictureLoader.h"
-#include "shell/PicturePath.h"
 
 #include "tests/BitmapFile.h"
 #include "tests/Folders.h"
+#include "tests/ForeignFolder.h"
 
 #include "testing/CallFault.h"
 #include "testing/GdiObjects.h"
@@ -11,12 +11,13 @@
 
 #include <doctest/doctest.h>
 
+#include <ocidl.h>
+#include <olectl.h>
 #include <stdio.h>
 #include <string.h>
 #include <string>
 #include <vector>
 
-using namespace umbra;
 using namespace umbra::testing;
 
 namespace {
@@ -99,20 +100,6 @@ TEST_CASE("a relative path is tried as it is and then below the working director
     CHECK(loads.Calls() == 2);
 }
 
-TEST_CASE("directory and path are joined by two slashes, within the room there is")
-{
-    char out[16 + 4];
-    memset(out, '#', sizeof(out));
-    CHECK(JoinPicturePath("C:\\dir", "a.gif", out, 16));
-    CHECK(std::string(out) == "C:\\dir//a.gif");
-    CHECK(JoinPicturePath("C:\\dir", "abc.gif", out, 16)); // Fifteen characters.
-    CHECK(std::string(out) == "C:\\dir//abc.gif");
-    CHECK_FALSE(JoinPicturePath("C:\\dir", "abcd.gif", out, 16));
-    CHECK(std::string(out).empty());
-    for (size_t i = 16; i < sizeof(out); ++i)
-        CHECK(out[i] == '#');
-}
-
 TEST_CASE("a joined path longer than 255 characters gives no picture, and no second attempt")
 {
     const InFolder folder(ProgramFolder());
@@ -185,7 +172,8 @@ TEST_CASE("a picture of 10,000 by 10,000 pixels gives no picture or a good one")
 TEST_CASE("an icon gives no picture")
 {
     // One image of 16 x 16 pixels in two colours.
-    const BYTE directory[] = {0, 0, 1, 0, 1, 0, 16, 16, 2, 0, 1, 0, 1, 0, 176, 0, 0, 0, 22, 0, 0, 0};
+    const BYTE directory[] = {0, 0, 1, 0,   1, 0, 16, 16, 2, 0, 1,
+                              0, 1, 0, 176, 0, 0, 0,  22, 0, 0, 0};
     BITMAPINFOHEADER info = {};
     info.biSize = sizeof(info);
     info.biWidth = 16;
@@ -277,4 +265,173 @@ TEST_CASE("where the copy would be the picture's own bitmap, a real copy is made
     CHECK(SizeOf(bitmap) == CSize(19, 19)); // It lives, although the picture's own is deleted.
     CHECK(::DeleteObject(bitmap));
     CHECK_MESSAGE(objects.IsBalanced(), objects.Describe());
+}
+
+namespace {
+
+/// A picture that counts who holds it. It is on the stack, so nobody's Release ends it.
+class CountingPicture : public IPicture
+{
+public:
+    explicit CountingPicture(HBITMAP bitmap) : m_bitmap(bitmap) {}
+    virtual ~CountingPicture() = default;
+
+    long Holders() const { return m_holders; }
+    long HighestCount() const { return m_highest; }
+
+    HRESULT STDMETHODCALLTYPE QueryInterface(REFIID id, void** out) override
+    {
+        const bool known = IsEqualIID(id, IID_IUnknown) || IsEqualIID(id, IID_IPicture);
+        *out = known ? this : nullptr;
+        if (known)
+            AddRef();
+        return known ? S_OK : E_NOINTERFACE;
+    }
+    ULONG STDMETHODCALLTYPE AddRef() override
+    {
+        ++m_holders;
+        m_highest = max(m_highest, m_holders);
+        return static_cast<ULONG>(m_holders);
+    }
+    ULONG STDMETHODCALLTYPE Release() override { return static_cast<ULONG>(--m_holders); }
+
+    HRESULT STDMETHODCALLTYPE get_Handle(OLE_HANDLE* handle) override
+    {
+        *handle = static_cast<OLE_HANDLE>(HandleToLong(m_bitmap));
+        return S_OK;
+    }
+    HRESULT STDMETHODCALLTYPE get_Type(SHORT* type) override
+    {
+        *type = PICTYPE_BITMAP;
+        return S_OK;
+    }
+
+    HRESULT STDMETHODCALLTYPE get_hPal(OLE_HANDLE*) override { return E_NOTIMPL; }
+    HRESULT STDMETHODCALLTYPE get_Width(OLE_XSIZE_HIMETRIC*) override { return E_NOTIMPL; }
+    HRESULT STDMETHODCALLTYPE get_Height(OLE_YSIZE_HIMETRIC*) override { return E_NOTIMPL; }
+    HRESULT STDMETHODCALLTYPE Render(HDC, LONG, LONG, LONG, LONG, OLE_XPOS_HIMETRIC,
+                                     OLE_YPOS_HIMETRIC, OLE_XSIZE_HIMETRIC, OLE_YSIZE_HIMETRIC,
+                                     LPCRECT) override
+    {
+        return E_NOTIMPL;
+    }
+    HRESULT STDMETHODCALLTYPE set_hPal(OLE_HANDLE) override { return E_NOTIMPL; }
+    HRESULT STDMETHODCALLTYPE get_CurDC(HDC*) override { return E_NOTIMPL; }
+    HRESULT STDMETHODCALLTYPE SelectPicture(HDC, HDC*, OLE_HANDLE*) override { return E_NOTIMPL; }
+    HRESULT STDMETHODCALLTYPE get_KeepOriginalFormat(BOOL*) override { return E_NOTIMPL; }
+    HRESULT STDMETHODCALLTYPE put_KeepOriginalFormat(BOOL) override { return E_NOTIMPL; }
+    HRESULT STDMETHODCALLTYPE PictureChanged() override { return S_OK; }
+    HRESULT STDMETHODCALLTYPE SaveAsFile(LPSTREAM, BOOL, LONG*) override { return E_NOTIMPL; }
+    HRESULT STDMETHODCALLTYPE get_Attributes(DWORD*) override { return E_NOTIMPL; }
+
+private:
+    HBITMAP m_bitmap;
+    long m_holders = 1; // Whoever it is handed to.
+    long m_highest = 1;
+};
+
+CountingPicture* offered = nullptr; // What the loader hands out.
+HRESULT offeredCode = S_OK;
+
+HRESULT WINAPI OfferPicture(LPOLESTR, LPUNKNOWN, DWORD, OLE_COLOR, REFIID, LPVOID* picture)
+{
+    *picture = offered;
+    return offeredCode;
+}
+
+HBITMAP MakeBitmap()
+{
+    return ::CreateBitmap(7, 5, 1, 32, nullptr);
+}
+
+} // namespace
+
+TEST_CASE("the loaded picture is released, and its own bitmap with it")
+{
+    const ImportHook loads(FindModule("umbra.dll"), "oleaut32", "OleLoadPicturePath", OfferPicture);
+    REQUIRE(loads.IsInstalled());
+    // What came back counts, not the code.
+    for (const HRESULT code : {S_OK, S_FALSE, E_FAIL}) {
+        const HBITMAP own = MakeBitmap();
+        CountingPicture picture(own);
+        offered = &picture;
+        offeredCode = code;
+        const HBITMAP bitmap = LoadPictureBitmap("any name");
+        CHECK(SizeOf(bitmap) == CSize(7, 5));
+        CHECK(bitmap != own);
+        CHECK(picture.Holders() == 0);
+        CHECK(picture.HighestCount() >= 1);
+        CHECK(::GetObjectType(own) != OBJ_BITMAP);
+        ::DeleteObject(bitmap);
+    }
+}
+
+TEST_CASE("a picture without a bitmap, or whose bitmap cannot be copied, is released as well")
+{
+    const ImportHook loads(FindModule("umbra.dll"), "oleaut32", "OleLoadPicturePath", OfferPicture);
+    REQUIRE(loads.IsInstalled());
+    offeredCode = S_OK;
+    CountingPicture empty(NULL);
+    offered = &empty;
+    CHECK(LoadPictureBitmap("any name") == NULL);
+    CHECK(empty.Holders() == 0);
+
+    const HBITMAP own = MakeBitmap();
+    CountingPicture picture(own);
+    offered = &picture;
+    const FailAlways copy(FindModule("umbra.dll"), "user32", "CopyImage");
+    REQUIRE(copy.IsInstalled());
+    CHECK(LoadPictureBitmap("any name") == NULL);
+    CHECK(picture.Holders() == 0);
+    CHECK(::GetObjectType(own) != OBJ_BITMAP);
+}
+
+TEST_CASE("no road leaves a handle of the system behind")
+{
+    // A new handle takes the first number that is free.
+    const auto firstFree = [] {
+        const HANDLE event = ::CreateEventA(nullptr, TRUE, FALSE, nullptr);
+        ::CloseHandle(event);
+        return HandleToULong(event);
+    };
+    const auto load = [] {
+        Loads(ImagePath("Next.gif"));
+        Loads(ImagePath("Missing.gif"));
+    };
+    for (int i = 0; i < 5; ++i)
+        load();
+    const ULONG before = firstFree();
+    const int times = 50;
+    for (int i = 0; i < times; ++i)
+        load();
+    const ULONG step = 4; // Between the numbers of two handles.
+    CHECK(firstFree() < before + times * step);
+}
+
+TEST_CASE("pictures are found under paths beyond ASCII, relative ones too")
+{
+    const ForeignFolder foreign;
+    REQUIRE(foreign.IsThere());
+    CHECK(Loads(foreign.ImagePath("Next.gif")));
+    const InFolder folder(foreign.Path());
+    CHECK(Loads("images\\Next.gif"));
+    CHECK(Loads("\\images\\Next.gif"));
+    CHECK_FALSE(Loads("images\\Missing.gif"));
+}
+
+TEST_CASE("a path is read in the code page of the thread, not in that of the system")
+{
+    // A Japanese character, and its two bytes in code page 932.
+    const std::string folder = TemporaryPath("");
+    const std::string path = folder + "umbra-\x8A\x47.gif";
+    const std::wstring wide = std::wstring(folder.begin(), folder.end()) + L"umbra-\x7D75.gif";
+    const std::string source = ImagePath("Next.gif");
+    REQUIRE(::CopyFileW(std::wstring(source.begin(), source.end()).c_str(), wide.c_str(), FALSE));
+    const LCID former = ::GetThreadLocale();
+    REQUIRE(::SetThreadLocale(MAKELCID(MAKELANGID(LANG_JAPANESE, SUBLANG_DEFAULT), SORT_DEFAULT)));
+    const HBITMAP bitmap = LoadPictureBitmap(path.c_str());
+    ::SetThreadLocale(former);
+    CHECK(SizeOf(bitmap) == CSize(19, 19));
+    ::DeleteObject(bitmap);
+    ::DeleteFileW(wide.c_str());
 }
