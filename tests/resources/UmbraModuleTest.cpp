@@ -1,0 +1,61 @@
+// This program is not linked with umbra.dll: it loads the DLL as a host's plug-in would.
+#include "resources/resource.h"
+
+#include "tests/Folders.h"
+
+#include "testing/ImportHook.h"
+
+#include <doctest/doctest.h>
+
+#include <algorithm>
+#include <string>
+#include <vector>
+
+using namespace umbra::testing;
+
+namespace {
+
+/// The modules in which the class library looks for a resource.
+std::vector<HMODULE> asked;
+
+HRSRC WINAPI NoteModule(HMODULE module, LPCSTR name, LPCSTR type)
+{
+    asked.push_back(module);
+    return ::FindResourceA(module, name, type);
+}
+
+/// Which module the class library finds the toolkit's bitmap in.
+HINSTANCE FindStrip()
+{
+    asked.clear();
+    return AfxFindResourceHandle(MAKEINTRESOURCE(IDB_STRIP), RT_BITMAP);
+}
+
+/// How often a search for something that is nowhere comes by the module.
+long long CountSearches(HMODULE module)
+{
+    asked.clear();
+    AfxFindResourceHandle(MAKEINTRESOURCE(60000), RT_BITMAP);
+    return std::count(asked.begin(), asked.end(), module);
+}
+
+} // namespace
+
+TEST_CASE("the toolkit's resources are searched once while it is loaded, and not when it is gone")
+{
+    const ImportHook searches(FindModule("umbra-mfc.dll"), "kernel32", "FindResourceA", NoteModule);
+    REQUIRE(searches.IsInstalled());
+    REQUIRE(FindModule("umbra.dll") == NULL);
+    CHECK(FindStrip() == AfxGetResourceHandle());
+    for (int round = 0; round < 3; ++round) {
+        CAPTURE(round);
+        const HMODULE toolkit = ::LoadLibraryA(ProgramPath("umbra.dll").c_str());
+        REQUIRE(toolkit != NULL);
+        CHECK(FindStrip() == toolkit);
+        CHECK(CountSearches(toolkit) == 1);
+        ::FreeLibrary(toolkit);
+        const bool isGone = FindModule("umbra.dll") == NULL;
+        CHECK(CountSearches(toolkit) == (isGone ? 0 : 1));
+        CHECK(FindStrip() == (isGone ? AfxGetResourceHandle() : toolkit));
+    }
+}
