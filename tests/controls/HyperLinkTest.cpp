@@ -13,6 +13,7 @@ using namespace umbra::testing;
 
 namespace {
 
+/// A link that shows its members.
 class TestLink : public CHyperLink
 {
 public:
@@ -31,6 +32,7 @@ public:
 
 using Link = LabelOver<TestLink>;
 
+/// The text of the link's tool tip.
 std::string TipText(TestLink& link)
 {
     char text[256] = "";
@@ -291,13 +293,7 @@ TEST_CASE("a keyed picture shows at the corner, under the text")
 
 TEST_CASE("a picture is found under a path beyond ASCII")
 {
-    const ForeignFolder folder;
-    REQUIRE(folder.IsThere());
-    Link link("");
-    link.control.SetTransparentColor(black);
-    link.control.SetBitmapFile(folder.ImagePath("Next.gif").c_str());
-    CHECK(link.control.m_bBitmapLoaded);
-    CheckShowsKeyedNext(link);
+    CheckPictureBeyondAscii<TestLink>(&TestLink::SetBitmapFile);
 }
 
 TEST_CASE("without a key colour no picture is drawn, even if one was loaded")
@@ -317,44 +313,19 @@ TEST_CASE("a key colour without a picture draws the text only")
     CHECK(shown.CountOf(green) == shown.Width() * shown.Height());
 }
 
-TEST_CASE("a key colour set after the picture builds no mask")
+TEST_CASE("a key colour set after the picture builds no mask, it waits for the next one")
 {
-    Link link("");
-    link.control.SetBitmapFile(ImagePath("Next.gif").c_str());
-    link.control.SetTransparentColor(black);
-    CHECK(link.control.m_bmpMask.GetSafeHandle() == NULL);
-    link.host.Show(); // Not keyed, and no harm done.
+    CheckLaterKeyWaits<TestLink>(&TestLink::SetBitmapFile);
 }
 
 TEST_CASE("a picture that does not load changes nothing and still answers TRUE")
 {
-    Link link("");
-    link.control.SetTransparentColor(black);
-    CHECK(link.control.SetBitmapFile("no such file.gif") == TRUE);
-    CHECK_FALSE(link.control.m_bBitmapLoaded);
-    link.control.SetBitmapFile(ImagePath("Next.gif").c_str());
-    const HGDIOBJ before = link.control.m_bmpPicture.GetSafeHandle();
-    link.control.SetBitmapFile("no such file.gif");
-    CHECK(link.control.m_bmpPicture.GetSafeHandle() == before);
+    CheckMissingPictureChangesNothing<TestLink>(&TestLink::SetBitmapFile);
 }
 
-// Kept: the former picture is not deleted.
-TEST_CASE("a replaced picture and those of a label that is gone are left, a replaced mask is not")
+TEST_CASE("a replaced picture and the bitmaps of a label that is gone are left")
 {
-    HGDIOBJ first, second, mask, firstMask;
-    {
-        Link link("");
-        link.control.SetTransparentColor(black);
-        link.control.SetBitmapFile(ImagePath("Next.gif").c_str());
-        first = link.control.m_bmpPicture.GetSafeHandle();
-        firstMask = link.control.m_bmpMask.GetSafeHandle();
-        link.control.SetBitmapFile(ImagePath("Back.gif").c_str());
-        second = link.control.m_bmpPicture.GetSafeHandle();
-        mask = link.control.m_bmpMask.GetSafeHandle();
-    }
-    CHECK(firstMask != NULL);
-    // Kept: the bitmaps outlive the label.
-    CheckBitmapsLive({first, second, mask});
+    CheckBitmapsOutlive<TestLink>(&TestLink::SetBitmapFile);
 }
 
 TEST_CASE("a tool tip is one tool, whose text is renewed")

@@ -50,15 +50,26 @@ struct LabelOver
         control.UpdateWindow();
     }
 
+    /// What the host shows, with nothing under the label of what it or the system drew before.
+    umbra::testing::Picture ShowAfresh()
+    {
+        control.ShowWindow(SW_HIDE);
+        host.Show();
+        control.ShowWindow(SW_SHOWNA);
+        return host.Show();
+    }
+
     LabelHost host;
     Control control;
 };
 
+/// The font that the window says it has.
 inline HFONT FontOf(CWnd& window)
 {
     return reinterpret_cast<HFONT>(window.SendMessage(WM_GETFONT));
 }
 
+/// That font's description.
 inline LOGFONT DescribeFont(CWnd& window)
 {
     LOGFONT description = {};
@@ -86,11 +97,7 @@ void CheckTextIsDrawnAs(Label& label, HFONT font, COLORREF color, CSize shift, U
     label.host.ScreenToClient(&window);
     label.control.GetClientRect(&client);
     label.control.MapWindowPoints(&label.host, &client);
-    // Hidden in between, so that nothing of what the system drew at once stays under the text.
-    label.control.ShowWindow(SW_HIDE);
-    label.host.Show();
-    label.control.ShowWindow(SW_SHOWNA);
-    const umbra::testing::Picture shown = label.host.Show().Crop(client);
+    const umbra::testing::Picture shown = label.ShowAfresh().Crop(client);
 
     label.control.ShowWindow(SW_HIDE);
     label.host.Show();
@@ -143,23 +150,86 @@ void CheckMovesLeaveNothing(Label& link)
     CHECK_MESSAGE(objects.IsBalanced(), objects.Describe());
 }
 
-/// Bitmaps that outlive their label; they are deleted here.
-inline void CheckBitmapsLive(std::initializer_list<HGDIOBJ> bitmaps)
-{
-    for (const HGDIOBJ bitmap : bitmaps) {
-        CHECK(::GetObjectType(bitmap) == OBJ_BITMAP);
-        ::DeleteObject(bitmap);
-    }
-}
-
 /// The keyed picture Next.gif is at the corner of a label without text.
 template <class Label>
 void CheckShowsKeyedNext(Label& label)
 {
-    const umbra::testing::Picture shown = label.host.Show().Crop(labelPlace);
+    const umbra::testing::Picture shown = label.ShowAfresh().Crop(labelPlace);
     CHECK_FALSE(shown.Contains(black));
     const CRect picture = shown.BoundsOfOthers(green);
     CHECK(picture.right <= 19);
     CHECK(picture.bottom <= 19);
     CHECK(picture.Width() > 10);
+}
+
+/// A label of the class loads Next.gif from a folder beyond ASCII. `load` is the class's operation
+/// that shows a picture file, here and below.
+template <class Control, class Load>
+void CheckPictureBeyondAscii(Load load)
+{
+    const ForeignFolder folder;
+    REQUIRE(folder.IsThere());
+    LabelOver<Control> label("");
+    label.control.SetTransparentColor(black);
+    CHECK((label.control.*load)(folder.ImagePath("Next.gif").c_str()) == TRUE);
+    CheckShowsKeyedNext(label);
+}
+
+/// A picture that does not load leaves a label as it was, without a picture or with its former one.
+template <class Control, class Load>
+void CheckMissingPictureChangesNothing(Load load)
+{
+    LabelOver<Control> label("");
+    label.control.SetTransparentColor(black);
+    CHECK((label.control.*load)("no such file.gif") == TRUE);
+    CHECK(label.control.m_bmpPicture.GetSafeHandle() == NULL);
+    const umbra::testing::Picture empty = label.host.Show();
+    CHECK(empty.CountOf(green) == empty.Width() * empty.Height());
+
+    (label.control.*load)(ImagePath("Next.gif").c_str());
+    const HGDIOBJ before = label.control.m_bmpPicture.GetSafeHandle();
+    CHECK(before != NULL);
+    CHECK((label.control.*load)("no such file.gif") == TRUE);
+    CHECK(label.control.m_bmpPicture.GetSafeHandle() == before);
+    CheckShowsKeyedNext(label);
+}
+
+/// A key colour that comes after the picture builds no mask until the next picture.
+template <class Control, class Load>
+void CheckLaterKeyWaits(Load load)
+{
+    LabelOver<Control> label("");
+    (label.control.*load)(ImagePath("Next.gif").c_str());
+    label.control.SetTransparentColor(black);
+    CHECK(label.control.m_bmpMask.GetSafeHandle() == NULL);
+    label.host.Show(); // Not keyed, and no harm done.
+    (label.control.*load)(ImagePath("Next.gif").c_str());
+    CHECK(label.control.m_bmpMask.GetSafeHandle() != NULL);
+    CheckShowsKeyedNext(label);
+}
+
+/// The picture that was replaced, and the picture and mask of a label that is gone, are bitmaps
+/// still. They are deleted here.
+template <class Control, class Load>
+void CheckBitmapsOutlive(Load load)
+{
+    HGDIOBJ replaced, last, mask;
+    {
+        LabelOver<Control> label("");
+        label.control.SetTransparentColor(black);
+        (label.control.*load)(ImagePath("Next.gif").c_str());
+        replaced = label.control.m_bmpPicture.GetSafeHandle();
+        CHECK(label.control.m_bmpMask.GetSafeHandle() != NULL);
+        (label.control.*load)(ImagePath("Back.gif").c_str());
+        last = label.control.m_bmpPicture.GetSafeHandle();
+        mask = label.control.m_bmpMask.GetSafeHandle();
+        CHECK(last != replaced);
+    }
+    // Kept: the former picture is not deleted.
+    CHECK(::GetObjectType(replaced) == OBJ_BITMAP);
+    // Kept: the bitmaps outlive the label.
+    CHECK(::GetObjectType(last) == OBJ_BITMAP);
+    CHECK(::GetObjectType(mask) == OBJ_BITMAP);
+    for (const HGDIOBJ bitmap : {replaced, last, mask})
+        ::DeleteObject(bitmap);
 }

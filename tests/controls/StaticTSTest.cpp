@@ -290,13 +290,7 @@ TEST_CASE("a keyed picture lets the parent show through its key colour")
 
 TEST_CASE("a picture is found under a path beyond ASCII")
 {
-    const ForeignFolder folder;
-    REQUIRE(folder.IsThere());
-    Label label("");
-    label.control.SetTransparentColor(black);
-    label.control.LoadPicture(folder.ImagePath("Next.gif").c_str());
-    CHECK(label.control.m_bHasPicture);
-    CheckShowsKeyedNext(label);
+    CheckPictureBeyondAscii<CStaticTS>(&CStaticTS::LoadPicture);
 }
 
 // Kept: a keyed picture is drawn through a block of this size, whatever its own.
@@ -314,50 +308,29 @@ TEST_CASE("a keyed picture larger than 200 pixels is cut there")
     ::DeleteFileA(path.c_str());
 }
 
-TEST_CASE("a key colour set after the picture waits for the next picture")
+TEST_CASE("a key colour set after the picture builds no mask, it waits for the next one")
 {
-    const std::string path = WriteHalfBlackBmp("umbra-label.bmp", 48, 30);
-    Label label("");
-    label.control.LoadPicture(path.c_str());
-    label.control.SetTransparentColor(black);
-    CHECK(label.control.m_bmpMask.GetSafeHandle() == NULL);
-    label.control.LoadPicture(path.c_str());
-    CHECK(label.control.m_bmpMask.GetSafeHandle() != NULL);
-    ::DeleteFileA(path.c_str());
+    CheckLaterKeyWaits<CStaticTS>(&CStaticTS::LoadPicture);
 }
 
 TEST_CASE("a picture that does not load changes nothing and still answers TRUE")
 {
+    CheckMissingPictureChangesNothing<CStaticTS>(&CStaticTS::LoadPicture);
+}
+
+TEST_CASE("a picture needs its file no more once it is loaded")
+{
     const std::string path = WriteHalfBlackBmp("umbra-label.bmp", 48, 30);
     Label label("");
     label.control.LoadPicture(path.c_str());
-    const HGDIOBJ before = label.control.m_bmpPicture.GetSafeHandle();
-    CHECK(label.control.LoadPicture("no such picture.gif") == TRUE);
-    CHECK(label.control.m_bmpPicture.GetSafeHandle() == before);
+    REQUIRE(::DeleteFileA(path.c_str()));
     CHECK(label.control.m_bHasPicture);
-    ::DeleteFileA(path.c_str());
-    // The file is gone; what was loaded still shows.
     CHECK(label.host.Show().Contains(red));
 }
 
-// Kept: the former picture is not deleted.
-TEST_CASE("bitmaps outlive their label, replaced ones too")
+TEST_CASE("a replaced picture and the bitmaps of a label that is gone are left")
 {
-    const std::string path = WriteHalfBlackBmp("umbra-label.bmp", 48, 30);
-    HGDIOBJ first, second, mask;
-    {
-        Label label("");
-        label.control.SetTransparentColor(black);
-        label.control.LoadPicture(path.c_str());
-        first = label.control.m_bmpPicture.GetSafeHandle();
-        label.control.LoadPicture(path.c_str());
-        second = label.control.m_bmpPicture.GetSafeHandle();
-        mask = label.control.m_bmpMask.GetSafeHandle();
-        CHECK(first != second);
-    }
-    // Kept: the bitmaps outlive the label.
-    CheckBitmapsLive({first, second, mask});
-    ::DeleteFileA(path.c_str());
+    CheckBitmapsOutlive<CStaticTS>(&CStaticTS::LoadPicture);
 }
 
 TEST_CASE("colour requests are answered with the null brush, a solid one, or nothing")

@@ -24,6 +24,7 @@ const COLORREF blue = RGB(10, 20, 220);
 const COLORREF white = RGB(255, 255, 255);
 const COLORREF black = RGB(0, 0, 0);
 
+/// A dialog that watches what reaches the system's own handling, and can answer in its place.
 class TestDialog : public CDialogTS
 {
 public:
@@ -69,6 +70,7 @@ protected:
     }
 };
 
+/// A template without controls or frame, in dialog units.
 DialogTemplate PlainTemplate(int width = 150, int height = 100)
 {
     return DialogTemplate(20, 20, width, height, WS_POPUP | WS_VISIBLE, "A caption");
@@ -95,15 +97,40 @@ HBITMAP MakeBitmap(int width, int height, COLORREF left, COLORREF right)
     return bitmap;
 }
 
+/// Has the dialog erase its background onto the canvas.
 LRESULT Erase(CWnd& dialog, const Canvas& canvas)
 {
     return dialog.SendMessage(WM_ERASEBKGND, reinterpret_cast<WPARAM>(canvas.Dc()));
 }
 
+/// Whether the handle is that of a bitmap which is still there.
 bool IsBitmap(HGDIOBJ handle)
 {
     return ::GetObjectType(handle) == OBJ_BITMAP;
 }
+
+/// What a supplier hands to a dialog; deleted here, unless the dialog has done so.
+struct Supplied
+{
+    const HBITMAP image = MakeBitmap(10, 10, red, red);
+    const HBITMAP mask = MakeBitmap(10, 10, black, black);
+
+    Supplied() = default;
+    ~Supplied()
+    {
+        ::DeleteObject(image);
+        ::DeleteObject(mask);
+    }
+    Supplied(const Supplied&) = delete;
+    Supplied& operator=(const Supplied&) = delete;
+
+    void HandTo(TestDialog& dialog) const
+    {
+        dialog.m_bmpBack.Attach(image);
+        dialog.m_bmpMask.Attach(mask);
+        dialog.m_bMaskBuilt = TRUE;
+    }
+};
 
 } // namespace
 
@@ -412,47 +439,40 @@ TEST_CASE("the solid fill goes before the bitmap")
 // Kept: a bitmap that was handed in for display stays valid for its supplier.
 TEST_CASE("displayed bitmaps stay valid for their supplier when the dialog lets go of them")
 {
-    const HBITMAP image = MakeBitmap(10, 10, red, red);
-    const HBITMAP mask = MakeBitmap(10, 10, black, black);
+    const Supplied bitmaps;
     {
         TestDialog dialog;
-        dialog.m_bmpBack.Attach(image);
-        dialog.m_bmpMask.Attach(mask);
+        bitmaps.HandTo(dialog);
         dialog.m_bHasBitmap = TRUE;
-        dialog.m_bMaskBuilt = TRUE;
         dialog.FreeBitmaps();
         CHECK(dialog.m_bmpBack.GetSafeHandle() == nullptr);
         CHECK(dialog.m_bmpMask.GetSafeHandle() == nullptr);
         CHECK_FALSE(dialog.m_bHasBitmap);
         CHECK_FALSE(dialog.m_bMaskBuilt);
     }
-    CHECK(IsBitmap(image));
-    CHECK(IsBitmap(mask));
+    CHECK(IsBitmap(bitmaps.image));
+    CHECK(IsBitmap(bitmaps.mask));
     {
         TestDialog dialog;
-        dialog.m_bmpBack.Attach(image);
+        bitmaps.HandTo(dialog);
         dialog.m_bHasBitmap = TRUE;
     }
-    CHECK(IsBitmap(image));
-    ::DeleteObject(image);
-    ::DeleteObject(mask);
+    CHECK(IsBitmap(bitmaps.image));
+    CHECK(IsBitmap(bitmaps.mask));
 }
 
 TEST_CASE("bitmaps that are not displayed belong to the dialog and go with it")
 {
-    const HBITMAP image = MakeBitmap(10, 10, red, red);
-    const HBITMAP mask = MakeBitmap(10, 10, black, black);
+    const Supplied bitmaps;
     {
         TestDialog dialog;
-        dialog.m_bmpBack.Attach(image);
-        dialog.m_bmpMask.Attach(mask);
-        dialog.m_bMaskBuilt = TRUE;
+        bitmaps.HandTo(dialog);
         dialog.FreeBitmaps();
-        CHECK(dialog.m_bmpBack.GetSafeHandle() == image);
+        CHECK(dialog.m_bmpBack.GetSafeHandle() == bitmaps.image);
         CHECK(dialog.m_bMaskBuilt);
     }
-    CHECK_FALSE(IsBitmap(image));
-    CHECK_FALSE(IsBitmap(mask));
+    CHECK_FALSE(IsBitmap(bitmaps.image));
+    CHECK_FALSE(IsBitmap(bitmaps.mask));
 }
 
 TEST_CASE("a press reaches the default procedure and nothing else while dragging is off")

@@ -18,6 +18,7 @@ using namespace umbra::testing;
 
 namespace {
 
+/// A dialog that shows its members.
 class TestModeless : public CModellessDlg
 {
 public:
@@ -76,6 +77,29 @@ public:
     TestModeless* operator->() const { return static_cast<TestModeless*>(g_pModelessDlg); }
 };
 
+/// A dialog of its own, made with the image folder given and not shown.
+class Unshown
+{
+public:
+    explicit Unshown(const char* folder)
+    {
+        g_strImageDir = folder;
+        REQUIRE(m_dialog.Create(CModellessDlg::IDD, NULL));
+    }
+    ~Unshown()
+    {
+        m_dialog.DestroyWindow();
+        AfxGetApp()->EndWaitCursor();
+    }
+    Unshown(const Unshown&) = delete;
+    Unshown& operator=(const Unshown&) = delete;
+
+    const TestModeless* operator->() const { return &m_dialog; }
+
+private:
+    TestModeless m_dialog;
+};
+
 /// Two edits on the dialog; the first one has the focus.
 struct TwoEdits
 {
@@ -110,6 +134,7 @@ protected:
     }
 };
 
+/// Whether the message is among those.
 bool Contains(const std::vector<UINT>& messages, UINT message)
 {
     for (const UINT seen : messages) {
@@ -167,13 +192,9 @@ TEST_CASE("the first pump has painted the window before the host goes on")
 
 TEST_CASE("missing images leave the labels without pictures")
 {
-    g_strImageDir = "C:\\no such folder";
-    TestModeless dialog;
-    REQUIRE(dialog.Create(CModellessDlg::IDD, NULL));
-    CHECK_FALSE(LabelProbe::HasPicture(dialog.m_icon));
-    CHECK_FALSE(dialog.m_picture.m_bHasPicture);
-    dialog.DestroyWindow();
-    AfxGetApp()->EndWaitCursor();
+    const Unshown dialog("C:\\no such folder");
+    CHECK_FALSE(LabelProbe::HasPicture(dialog->m_icon));
+    CHECK_FALSE(dialog->m_picture.m_bHasPicture);
 }
 
 TEST_CASE("pumping an empty queue returns at once and only restores the wait cursor")
@@ -309,13 +330,9 @@ TEST_CASE("the pictures are found in an image folder beyond ASCII")
 {
     const ForeignFolder folder;
     REQUIRE(folder.IsThere());
-    g_strImageDir = folder.Path().c_str();
-    TestModeless dialog;
-    REQUIRE(dialog.Create(CModellessDlg::IDD, NULL));
-    CHECK(LabelProbe::HasPicture(dialog.m_icon));
-    CHECK(dialog.m_picture.m_bHasPicture);
-    dialog.DestroyWindow();
-    AfxGetApp()->EndWaitCursor();
+    const Unshown dialog(folder.Path().c_str());
+    CHECK(LabelProbe::HasPicture(dialog->m_icon));
+    CHECK(dialog->m_picture.m_bHasPicture);
 }
 
 TEST_CASE("a handler that runs inside a pump may end the window")
