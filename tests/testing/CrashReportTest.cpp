@@ -12,6 +12,7 @@ using namespace umbra::testing;
 
 namespace {
 
+/// How a child process came to its end.
 struct Ending
 {
     DWORD exitCode = 0;
@@ -52,6 +53,7 @@ Ending RunCase(const char* testCase)
     return ending;
 }
 
+/// Whether the part stands in the text.
 bool Contains(const std::string& text, const char* part)
 {
     return text.find(part) != std::string::npos;
@@ -114,7 +116,7 @@ TEST_CASE("an exception that may not be thrown is reported")
 
 TEST_CASE("a program that hangs is ended with the place where it does")
 {
-    ::SetEnvironmentVariableA("UMBRA_RUN_TIME_MILLISECONDS", "300");
+    ::SetEnvironmentVariableA("UMBRA_RUN_TIME_MILLISECONDS", "2000");
     const Ending ending = RunCase("on purpose: hang");
     ::SetEnvironmentVariableA("UMBRA_RUN_TIME_MILLISECONDS", nullptr);
     INFO(ending.output);
