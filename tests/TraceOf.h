@@ -13,12 +13,14 @@ const bool isTraced = true;
 const bool isTraced = false; // A release build tells nothing.
 #endif
 
+/// What the debugger was told since the text was cleared.
 inline std::string& TracedText()
 {
     static std::string text;
     return text;
 }
 
+/// Stands in for the debugger.
 inline void WINAPI NoteTrace(LPCSTR text)
 {
     TracedText() += text;

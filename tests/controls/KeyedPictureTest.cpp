@@ -48,6 +48,7 @@ HBITMAP MakePicture(int bitsPerPixel, COLORREF key, BYTE fourth = 0)
     return bitmap;
 }
 
+/// What a part of the keyed picture gives over a background.
 Picture Draw(CBitmap& picture, CBitmap& mask)
 {
     const Canvas canvas(20, 10, green);

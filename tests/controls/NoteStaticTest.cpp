@@ -14,6 +14,7 @@ namespace {
 
 const CRect place(50, 60, 250, 100);
 
+/// A note over a control that exists already.
 struct Note
 {
     Note() { control.SubclassWindow(host.AddStatic(place, "A note")); }
@@ -21,6 +22,7 @@ struct Note
     CNoteStatic control;
 };
 
+/// The font that the window says it has.
 HFONT FontOf(CWnd& window)
 {
     return reinterpret_cast<HFONT>(window.SendMessage(WM_GETFONT));

@@ -8,6 +8,7 @@ using namespace umbra::testing;
 
 namespace {
 
+/// The font that is selected.
 HGDIOBJ FontIn(CDC& dc)
 {
     return ::GetCurrentObject(dc.GetSafeHdc(), OBJ_FONT);

@@ -31,6 +31,7 @@ const CRect buttonPlace(50, 60, 170, 100);
 const int width = 120;
 const int height = 40;
 
+/// A button that shows its members, and what it hands on to the system.
 class TestButton : public CxShadeButton
 {
 public:
@@ -124,6 +125,7 @@ protected:
     }
 };
 
+/// A button on its host, with the pointer somewhere else.
 struct Button
 {
     explicit Button(DWORD style = BS_PUSHBUTTON)
@@ -202,11 +204,13 @@ private:
     Canvas m_canvas;
 };
 
+/// A colour of the system.
 COLORREF Sys(int index)
 {
     return ::GetSysColor(index);
 }
 
+/// Whether the system sees the button as held down.
 bool IsPushed(CWnd& button)
 {
     return (button.SendMessage(BM_GETSTATE) & BST_PUSHED) != 0;
@@ -239,6 +243,7 @@ struct RadioRow
     std::vector<std::unique_ptr<TestButton>> buttons;
 };
 
+/// An icon of 16 by 16 pixels in one colour, opaque.
 HICON MakeIcon(COLORREF color)
 {
     HDC screen = ::GetDC(NULL);
@@ -263,6 +268,7 @@ HICON MakeIcon(COLORREF color)
     return icon;
 }
 
+/// Whether the handle is that of an icon which is still there.
 bool IsIcon(HICON icon)
 {
     ICONINFO info = {};
@@ -273,6 +279,7 @@ bool IsIcon(HICON icon)
     return true;
 }
 
+/// Stands in for the watch on the pointer's leaving: there is none.
 BOOL WINAPI RefuseTracking(LPTRACKMOUSEEVENT)
 {
     return FALSE;
@@ -281,6 +288,7 @@ BOOL WINAPI RefuseTracking(LPTRACKMOUSEEVENT)
 /// The areas in which the button has texts drawn.
 std::vector<CRect> textAreas;
 
+/// Draws the text as it was asked for, and notes where.
 int WINAPI NoteTextArea(HDC dc, LPCSTR text, int length, LPRECT area, UINT format)
 {
     textAreas.push_back(*area);

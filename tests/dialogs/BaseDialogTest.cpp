@@ -47,6 +47,7 @@ struct ButtonProbe : CxShadeButton
     }
 };
 
+/// The arguments of the page's constructor, by name.
 struct Flags
 {
     bool confirm = false;
@@ -65,6 +66,7 @@ struct Flags
     }
 };
 
+/// A page that shows its members.
 class TestPage : public CBaseDialog
 {
 public:
@@ -99,6 +101,7 @@ struct ExpectedButton
     bool shaded = false;
 };
 
+/// The rules of the three buttons.
 ExpectedButton ExpectCancel(const Flags& flags)
 {
     ExpectedButton expected;
@@ -151,6 +154,7 @@ bool ShowsIcon(const CxShadeButton& button, const std::string& name)
            ButtonProbe::PicturePlace(button).Size() == CSize(19, 19);
 }
 
+/// Whether the button's face is all of the host's tint.
 bool IsTinted(const CxShadeButton& button)
 {
     const PaletteDib& face = ButtonProbe::Face(button);
@@ -164,6 +168,7 @@ bool IsTinted(const CxShadeButton& button)
     return true;
 }
 
+/// The button is as the rules ask; `templateCaption` is what it has without them.
 void CheckButton(const CxShadeButton& button, const ExpectedButton& expected,
                  const char* templateCaption)
 {
@@ -194,6 +199,7 @@ struct PictureAttempts
     int count = 0;
 } attempts;
 
+/// Loads the picture as it was asked for, and notes where the process is.
 HRESULT WINAPI NoteAttempt(LPOLESTR path, LPUNKNOWN caller, DWORD reserved, OLE_COLOR color,
                            REFIID id, LPVOID* picture)
 {

@@ -12,6 +12,7 @@
 
 namespace {
 
+/// The processor's answer to one question.
 struct Registers
 {
     unsigned eax, ebx, ecx, edx;

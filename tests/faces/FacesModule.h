@@ -4,6 +4,7 @@
 
 #include <afxwin.h>
 
+/// The module whose calls are those of the faces.
 inline HMODULE FacesModule()
 {
     return ::GetModuleHandle(nullptr);

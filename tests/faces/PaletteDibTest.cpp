@@ -20,6 +20,7 @@ const BITMAPINFOHEADER& HeaderOf(const BYTE* block)
     return *reinterpret_cast<const BITMAPINFOHEADER*>(block);
 }
 
+/// The entry of a colour table has these three channels.
 void CheckColor(const RGBQUAD& entry, int red, int green, int blue)
 {
     CHECK(int{entry.rgbRed} == red);

@@ -6,6 +6,7 @@
 #include <cstdint>
 #include <vector>
 
+/// The recurrence of the random numbers, step by step.
 class PlainRandom
 {
 public:
@@ -21,6 +22,7 @@ private:
     std::uint32_t m_state;
 };
 
+/// A face whose pixels are filled by their formulas.
 class PlainShade
 {
 public:

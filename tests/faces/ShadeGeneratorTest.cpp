@@ -17,6 +17,7 @@ namespace {
 const ShadeColors plainColors = {RGB(128, 100, 7), RGB(212, 208, 200), RGB(255, 250, 255)};
 const COLORREF tint = RGB(180, 20, 230);
 
+/// The six bitmaps of a button.
 struct Faces
 {
     PaletteDib normal, down, disabled, over, focusH, focusV;
@@ -33,17 +34,20 @@ struct Faces
     }
 };
 
+/// A colour by its channels, which may be added and divided.
 struct Channels
 {
     int red, green, blue;
     bool operator==(const Channels&) const = default;
 };
 
+/// A plain colour taken apart.
 Channels ChannelsOf(COLORREF color)
 {
     return {GetRValue(color), GetGValue(color), GetBValue(color)};
 }
 
+/// An entry of a bitmap's colour table.
 Channels ColorOf(const PaletteDib& dib, int index)
 {
     const RGBQUAD& entry = dib.GetPalette()[index];
@@ -51,6 +55,7 @@ Channels ColorOf(const PaletteDib& dib, int index)
     return {entry.rgbRed, entry.rgbGreen, entry.rgbBlue};
 }
 
+/// The colour that many parts of the whole way between two.
 Channels Mix(Channels from, Channels to, int part, int whole)
 {
     const auto mix = [=](int a, int b) { return (a * (whole - part) + b * part) / whole; };
@@ -68,6 +73,7 @@ Channels PlainColor(const ShadeColors& colors, int index)
     return palette[index];
 }
 
+/// Whether two bitmaps have one size and the same palette indexes.
 bool HaveSamePixels(const PaletteDib& a, const PaletteDib& b)
 {
     if (!a.IsValid() || !b.IsValid() || a.GetWidth() != b.GetWidth() ||

@@ -13,6 +13,7 @@ namespace {
 
 constexpr std::uint8_t kUntouched = 0xA5;
 
+/// One set of inner loops.
 struct NamedKernels
 {
     const char* name;
@@ -28,6 +29,7 @@ std::vector<NamedKernels> KernelsHere()
     return all;
 }
 
+/// The width that row buffers have.
 int RoundUp(int width)
 {
     return (width + kGrainBlock - 1) / kGrainBlock * kGrainBlock;

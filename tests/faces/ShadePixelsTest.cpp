@@ -19,6 +19,7 @@ constexpr std::uint8_t untouched = 0xA5;
 
 const std::vector<unsigned> allStyles = {0, 1, 2, 3, 4, 5, 6, 7, 8, 9, 1000, 0xFFFFFFFFu};
 
+/// The engines that this processor can run.
 std::vector<ShadeEngine> EnginesHere()
 {
     std::vector<ShadeEngine> engines = {ShadeEngine::Sse2};
@@ -96,6 +97,7 @@ std::string FindDifference(int width, int height, unsigned style, int granularit
     return {};
 }
 
+/// Every style at one size, with each engine, granularity and state, against the plain version.
 void CheckAllStyles(int width, int height, const std::vector<int>& granularities,
                     const std::vector<std::uint32_t>& states)
 {
@@ -106,6 +108,7 @@ void CheckAllStyles(int width, int height, const std::vector<int>& granularities
                     CHECK(FindDifference(width, height, style, granularity, state, engine) == "");
 }
 
+/// The pixels of a face, from the lowest row up.
 std::vector<std::uint8_t> FillPixels(int width, int height, unsigned style, int granularity,
                                      std::uint32_t state)
 {

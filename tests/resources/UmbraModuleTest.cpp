@@ -18,6 +18,7 @@ namespace {
 /// The modules in which the class library looks for a resource.
 std::vector<HMODULE> asked;
 
+/// Looks for the resource as it was asked for, and notes where.
 HRSRC WINAPI NoteModule(HMODULE module, LPCSTR name, LPCSTR type)
 {
     asked.push_back(module);

@@ -26,6 +26,7 @@ const unsigned seed = 20240611;
 const DWORD longestLoad = 5000; // Milliseconds, on a busy machine.
 const int mostCrashes = 20;
 
+/// How many damaged files are tried beside the bad ones.
 int CountMutations()
 {
     const char* wanted = getenv("UMBRA_MUTATIONS");
@@ -62,6 +63,7 @@ bool LoadAlone(const CString& path)
     return isBitmap;
 }
 
+/// A button that shows whether it has a picture.
 class Button : public CxShadeButton
 {
 public:
@@ -94,6 +96,7 @@ bool LoadIntoLabel(const CString& path)
     return loaded;
 }
 
+/// A link that shows whether it has a picture.
 class Link : public CHyperLink
 {
 public:
@@ -114,6 +117,7 @@ bool LoadIntoLink(const CString& path)
     return loaded;
 }
 
+/// One way into the loader.
 struct Loader
 {
     const char* name;
@@ -128,6 +132,7 @@ const Loader loaders[] = {
 };
 const LONG loaderCount = sizeof(loaders) / sizeof(loaders[0]);
 
+/// The file that every picture is written to.
 CString TemporaryPicture()
 {
     CString name;
@@ -135,6 +140,7 @@ CString TemporaryPicture()
     return TemporaryPath(name).c_str();
 }
 
+/// Writes that file and answers its path.
 CString WritePicture(const PictureFile& file)
 {
     const CString path = TemporaryPicture();
@@ -142,6 +148,7 @@ CString WritePicture(const PictureFile& file)
     return path;
 }
 
+/// One file through one loader, with the time that it took.
 void TryFile(const Loader& loader, const PictureFile& file, Progress& progress)
 {
     const CString path = WritePicture(file);

@@ -13,6 +13,7 @@ const char limitVariable[] = "UMBRA_RUN_TIME_MILLISECONDS";
 const DWORD pollMilliseconds = 100;
 const DWORD longestRun = 24 * 3600 * 1000; // The parent looks after the child's progress.
 
+/// The program that runs.
 std::string OwnPath()
 {
     char path[MAX_PATH] = "";
@@ -20,12 +21,14 @@ std::string OwnPath()
     return path;
 }
 
+/// Where the child's output goes.
 std::string TemporaryFile()
 {
     const std::string process = std::to_string(::GetCurrentProcessId());
     return TemporaryPath(("umbra-child-" + process + ".txt").c_str());
 }
 
+/// The contents of a file.
 std::string ReadAll(const std::string& path)
 {
     std::ifstream file(path, std::ios::binary);
@@ -55,6 +58,7 @@ private:
     bool m_hadOne;
 };
 
+/// Starts the child; NULL when that fails.
 HANDLE Start(const char* testCase, const std::string& argument, HANDLE output)
 {
     const Variable argumentForChild(argumentVariable, argument);

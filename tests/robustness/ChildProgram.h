@@ -23,6 +23,7 @@ private:
     void* m_memory;
 };
 
+/// How a child came to its end.
 struct ChildEnd
 {
     bool ended = false; ///< By itself, however; false: it made no progress and was stopped.

@@ -86,6 +86,7 @@ private:
     Control* m_object;
 };
 
+/// A check box whose tool tip comes up at once.
 void AddTippedCheckBox(EndingHost& host, Room<HastyButton>& button)
 {
     host.m_button = button.Get();

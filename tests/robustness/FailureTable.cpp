@@ -89,6 +89,7 @@ const char* const cannotFailInRunTime[] = {
     "wcslen",
 };
 
+/// A function that does not fail with NULL or FALSE.
 struct KnownFailure
 {
     const char* name;
@@ -125,6 +126,7 @@ const KnownFailure knownFailures[] = {
     {"_read", {minusOne, ERROR_READ_FAULT}},
 };
 
+/// A function whose failing call leaves graphics objects behind that nobody can free.
 struct KnownLoss
 {
     const char* name;

@@ -29,6 +29,7 @@ inline bool IsOfWindows(const umbra::testing::Import& import)
     return false;
 }
 
+/// Every life with a failing call was survived.
 inline void CheckReport(const FaultReport& report)
 {
     printf("%d functions, %d lives with a failing call, %d survived\n", report.functions,

@@ -63,12 +63,14 @@ struct Progress
     }
 };
 
+/// Whether the long run was asked for.
 bool WantsEveryCall()
 {
     const char* wanted = getenv("UMBRA_FAULT_CALLS");
     return wanted != nullptr && strcmp(wanted, "all") == 0;
 }
 
+/// The numbers of the calls that are to fail in turn.
 std::set<LONG> PickCalls(long long count, const CallSample& sample)
 {
     std::set<LONG> calls;
@@ -81,6 +83,7 @@ std::set<LONG> PickCalls(long long count, const CallSample& sample)
     return calls;
 }
 
+/// For the message box below, which knows no object.
 Progress* sharedProgress = nullptr;
 const char* expectedReport = nullptr;
 
@@ -91,6 +94,7 @@ const char notBound[] = "This operation is not supported.";
 /// same.
 const char assertion[] = "Assertion failed";
 
+/// Stands in for the message box: closes it, and reports one that nobody expects.
 int WINAPI AnswerBox(HWND, LPCSTR text, LPCSTR, UINT)
 {
     const bool isReport = expectedReport != nullptr && strcmp(text, expectedReport) == 0;

@@ -31,6 +31,7 @@ struct FaultOptions
     const char* report = nullptr;
 };
 
+/// What came of the lives with failing calls.
 struct FaultReport
 {
     int functions = 0; ///< Imported functions that a life calls and that can fail.

@@ -34,6 +34,7 @@ struct Progress
     LONG isHandled; ///< What the label answered.
 };
 
+/// The toolkit's imports that can fail.
 std::vector<Import> ImportsThatCanFail()
 {
     std::vector<Import> imports;
@@ -44,6 +45,7 @@ std::vector<Import> ImportsThatCanFail()
     return imports;
 }
 
+/// What the import gives back when it fails in this child.
 Failure ChooseFailure(const Import& import, const Progress& progress)
 {
     Failure failure = FailureOf(import);
@@ -52,6 +54,7 @@ Failure ChooseFailure(const Import& import, const Progress& progress)
     return failure;
 }
 
+/// The name of the memory that parent and child share.
 std::string ShareName()
 {
     return "umbra-hand-" + std::to_string(::GetCurrentProcessId());

@@ -14,8 +14,10 @@ using namespace umbra::testing;
 namespace {
 
 const std::string folder(MAX_PATH - 1, 'w');
+/// The path of the module that was to be loaded.
 std::string asked;
 
+/// Stands in for the Windows directory: one that is as long as can be.
 UINT WINAPI AnswerFolder(LPSTR out, UINT capacity)
 {
     if (capacity < folder.size() + 1)
@@ -24,6 +26,7 @@ UINT WINAPI AnswerFolder(LPSTR out, UINT capacity)
     return static_cast<UINT>(folder.size());
 }
 
+/// Stands in for the loading of a module: there is none.
 HMODULE WINAPI NoteModule(LPCSTR path)
 {
     asked = path;

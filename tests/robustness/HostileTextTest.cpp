@@ -28,6 +28,7 @@ namespace {
 const size_t edges[] = {0,   1,   2,   254, 255, 256, 257,  258,   259,   260,
                         261, 526, 527, 528, 529, 530, 4096, 65535, 65536, 65537};
 
+/// The module whose calls are caught.
 HMODULE Umbra()
 {
     return FindModule("umbra.dll");
@@ -139,6 +140,7 @@ std::string RunWith(const std::string& type, const std::string& command, const s
     return FailingShell::Commands().empty() ? "" : FailingShell::Commands()[0];
 }
 
+/// The text with its terminator as one more character.
 std::string Terminated(const std::string& text)
 {
     return text + '\0';

@@ -21,11 +21,13 @@ using umbra::testing::DialogTemplate;
 
 namespace {
 
+/// Has the window paint itself at once.
 void Paint(HWND window)
 {
     Stage::Paint(window);
 }
 
+/// Presses, leaves, comes back and lets go.
 void DragOutAndIn(HWND window)
 {
     Stage::SendMouse(window, WM_LBUTTONDOWN, Stage::inside);
@@ -57,6 +59,7 @@ void Use(HWND window)
     Paint(window);
 }
 
+/// A bitmap with a pixel of the colour.
 HBITMAP MakeBitmap(COLORREF color)
 {
     const HDC screen = ::GetDC(NULL);
@@ -70,6 +73,7 @@ HBITMAP MakeBitmap(COLORREF color)
     return bitmap;
 }
 
+/// An icon of its own.
 HICON MakeIcon()
 {
     return ::CopyIcon(::LoadIcon(NULL, IDI_ASTERISK));
@@ -84,6 +88,7 @@ void UseGrid()
     DialogUnitsToPixels(6, 12, 57, 62, &x, &y, &cx, &cy);
 }
 
+/// Pictures that are there, that are not, and one below the working directory.
 void UsePictureLoader()
 {
     for (const char* name : {"Info.gif", "no such.gif"}) {
@@ -96,6 +101,7 @@ void UsePictureLoader()
         ::DeleteObject(below);
 }
 
+/// Targets that are opened.
 void UseShell()
 {
     for (int i = 0; i < 8; ++i)
@@ -119,6 +125,7 @@ void UseLabel(void (*setUp)(Label&))
     stage.Close();
 }
 
+/// The looks of labels.
 void SetUpPlainLabel(CStaticTS& label)
 {
     label.SetLabelTextColor(RGB(0, 100, 0));
@@ -173,6 +180,7 @@ void SetUpPlainHyperLink(CHyperLink& link)
     link.SetToolTipText("A tip");
 }
 
+/// A label that is made through its class.
 void UseCreatedLabel()
 {
     Stage stage;
@@ -201,6 +209,7 @@ void SetUpButton(CxShadeButton& button)
     button.SetToolTipText("A tip", "While checked");
 }
 
+/// A button of the style, with everything that a user does.
 void UseButton(DWORD style, void (*more)(CxShadeButton&))
 {
     Stage stage;
@@ -220,6 +229,7 @@ void UseButton(DWORD style, void (*more)(CxShadeButton&))
     stage.Close();
 }
 
+/// What buttons can show beside their caption.
 void GiveNothing(CxShadeButton&)
 {
 }
@@ -245,6 +255,7 @@ void GiveIcons(CxShadeButton& button)
     button.Set3dBorder(FALSE);
 }
 
+/// Radio buttons that check each other.
 void UseRadioGroup()
 {
     Stage stage;
@@ -289,6 +300,7 @@ public:
     }
 };
 
+/// The modes of a dialog's background.
 void UsePlainDialog()
 {
     LifeDialog dialog;
@@ -325,6 +337,7 @@ void UseBitmapDialog()
     ::DeleteObject(image);
 }
 
+/// Everything with the button of a dialog whose modal loop runs.
 void UseItsButton(HWND dialog)
 {
     Paint(dialog);
@@ -332,6 +345,7 @@ void UseItsButton(HWND dialog)
         Use(button);
 }
 
+/// A page with all of its buttons, which ends its own modal loop.
 class LifePage : public SelfEnding<CBaseDialog>
 {
 public:
@@ -342,6 +356,7 @@ public:
     using CBaseDialog::m_btnBack;
 };
 
+/// Dialogs from their templates to their ends.
 void UseModalDialog()
 {
     const DialogTemplate source =

@@ -5,6 +5,7 @@
 
 #include <vector>
 
+/// One thing to do with the toolkit, from its beginning to its end.
 struct Life
 {
     const char* name;

@@ -341,6 +341,7 @@ TEST_CASE("a radio button that is checked has the others unchecked after its own
 
 namespace {
 
+/// A page that writes down what happens around its modal loop.
 class ModalPage : public CBaseDialog
 {
 public:

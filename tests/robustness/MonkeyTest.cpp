@@ -24,12 +24,14 @@ const unsigned usualSeed = 1;
 const unsigned usualRounds = 40;
 const int messagesInRound = 500;
 
+/// A number from the environment.
 unsigned ReadNumber(const char* variable, unsigned usual)
 {
     const char* value = getenv(variable);
     return value == NULL ? usual : static_cast<unsigned>(strtoul(value, NULL, 10));
 }
 
+/// How many top-level windows this thread has.
 int CountThreadWindows()
 {
     int count = 0;
@@ -43,6 +45,7 @@ int CountThreadWindows()
     return count;
 }
 
+/// Lets go of the buttons and keys that a round may have left down.
 void ReleaseInput()
 {
     INPUT up[3] = {};
@@ -57,6 +60,7 @@ void ReleaseInput()
     PumpMessages();
 }
 
+/// One monkey's life.
 void PlayRound(unsigned seed, int messages)
 {
     Monkey monkey(seed);

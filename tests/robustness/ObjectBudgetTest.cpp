@@ -33,6 +33,7 @@ struct Budget
     int bitmapsOfCall = 0;
 };
 
+/// Counts in words.
 std::string Describe(const GdiSweeper::Left& left)
 {
     return std::to_string(left.fonts) + " fonts, " + std::to_string(left.bitmaps) + " bitmaps, " +
@@ -49,6 +50,7 @@ int CountCycles()
 /// One object that makes so many calls of the operation.
 using Cycle = std::function<void(int calls)>;
 
+/// So many cycles leave exactly what the budget says.
 void CheckCycles(int cycles, int calls, const Budget& budget, const Cycle& cycle)
 {
     const int batch = 200; // Even the class that leaves most does not fill the table.
@@ -74,6 +76,8 @@ void CheckCycles(int cycles, int calls, const Budget& budget, const Cycle& cycle
     }
 }
 
+/// A few cycles with one call and with several, so that what an object leaves and what a call
+/// leaves can be told apart.
 void CheckOperation(const std::string& name, const Budget& budget, const Cycle& cycle)
 {
     INFO(name);
@@ -96,6 +100,7 @@ Cycle OnLabel(const std::function<void(Label&)>& call)
     };
 }
 
+/// A button over a window, made, given so many calls, and destroyed.
 Cycle OnButton(const std::function<void(CxShadeButton&)>& call, DWORD style = BS_AUTOCHECKBOX)
 {
     return [call, style](int calls) {
@@ -116,6 +121,7 @@ const Budget oneFontACall = {0, 0, 1, 0};
 const Budget oneBitmapACall = {0, 0, 0, 1};
 const Budget oneBitmapACallAndTheMask = {0, 1, 0, 1};
 
+/// An icon of its own.
 HICON MakeIcon()
 {
     return ::CopyIcon(::LoadIcon(NULL, IDI_ASTERISK));
@@ -132,6 +138,7 @@ int BitmapsOfIcon()
     return bitmaps;
 }
 
+/// A page that is shown while it lives.
 class Page : public CBaseDialog
 {
 public:
@@ -145,6 +152,7 @@ public:
     ~Page() override { DestroyWindow(); }
 };
 
+/// One life of the modeless dialog.
 void ShowModeless()
 {
     g_strImageDir = ProgramFolder().c_str();
@@ -157,6 +165,7 @@ void ShowModeless()
     AfxGetApp()->EndWaitCursor();
 }
 
+/// One life of a dialog that was set up before.
 void ShowDialog(const std::function<void(CDialogTS&)>& setUp)
 {
     CDialogTS dialog(0U);

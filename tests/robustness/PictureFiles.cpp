@@ -8,6 +8,7 @@
 
 namespace {
 
+/// The bytes of one of the toolkit's images.
 std::string ReadImage(const char* name)
 {
     std::ifstream file(ImagePath(name), std::ios::binary);
@@ -76,6 +77,7 @@ std::string MakeBitmapFile(WORD bits, DWORD kind, const std::string& pixels)
     return bytes + pixels;
 }
 
+/// Bytes by their numbers.
 std::string Bytes(std::initializer_list<int> values)
 {
     std::string bytes;
@@ -84,6 +86,7 @@ std::string Bytes(std::initializer_list<int> values)
     return bytes;
 }
 
+/// Eight rows of eight pixels, run by run.
 std::string RunLengthPixels()
 {
     std::string pixels;
@@ -92,6 +95,7 @@ std::string RunLengthPixels()
     return pixels + Bytes({0, 1});       // End of bitmap.
 }
 
+/// The good file, ended early.
 void AddCuts(std::vector<PictureFile>& files, const PictureFile& good)
 {
     for (size_t length = 0; length < good.bytes.size(); length += length < 80 ? 1 : 13)
@@ -99,6 +103,7 @@ void AddCuts(std::vector<PictureFile>& files, const PictureFile& good)
             {good.name + " cut to " + std::to_string(length), good.bytes.substr(0, length)});
 }
 
+/// The good GIF with one number changed in each.
 void AddBadGifs(std::vector<PictureFile>& files, const std::string& good)
 {
     files.push_back({"gif, screen of no width", With<WORD>(good, 6, 0)});
@@ -128,6 +133,7 @@ void AddBadGifs(std::vector<PictureFile>& files, const std::string& good)
     files.push_back({"gif, all codes set", codes});
 }
 
+/// The good bitmap with one number of its head changed in each.
 void AddBadBitmaps(std::vector<PictureFile>& files, const std::string& good)
 {
     for (const LONG size : {0L, -1L, -8L, 1L, 30000L, LONG{INT_MAX}, LONG{INT_MIN}}) {
@@ -152,6 +158,7 @@ void AddBadBitmaps(std::vector<PictureFile>& files, const std::string& good)
     }
 }
 
+/// Bitmaps whose runs lead out of them.
 void AddBadRuns(std::vector<PictureFile>& files)
 {
     const std::string codes[] = {
@@ -168,6 +175,7 @@ void AddBadRuns(std::vector<PictureFile>& files)
             {"bmp, bad runs " + std::to_string(++number), MakeBitmapFile(8, BI_RLE8, code)});
 }
 
+/// What is no bitmap at all, and what is nearly one.
 void AddOtherFormats(std::vector<PictureFile>& files)
 {
     files.push_back({"empty", ""});
@@ -244,6 +252,7 @@ bool IsOfReasonableSize(const std::string& bytes)
     return true;
 }
 
+/// A few bytes changed, cut or put in, mostly at the head.
 std::string Damage(std::string bytes, Dice& dice)
 {
     for (int changes = dice.Between(1, 6); changes > 0 && !bytes.empty(); --changes) {

@@ -6,6 +6,7 @@
 #include <string>
 #include <vector>
 
+/// The contents of a file, and what is wrong with them.
 struct PictureFile
 {
     std::string name;
@@ -19,8 +20,8 @@ std::vector<PictureFile> GoodPictures();
 std::vector<PictureFile> BadPictures();
 
 /// Where the system is Wine: false for a bitmap file or icon whose head claims more than the file
-/// holds, for a bitmap in runs and for a GIF file of no size. Wine's own loader reads on past the end
-/// of these, and may crash.
+/// holds, for a bitmap in runs and for a GIF file of no size. Wine's own loader reads on past the
+/// end of these, and may crash.
 bool IsSafeForSystem(const std::string& bytes);
 
 /// A good file with some bytes changed, cut out, doubled or added. Sizes stay within what a machine

@@ -22,6 +22,7 @@ using namespace umbra::testing;
 
 namespace {
 
+/// The bytes of a file; none when it cannot be read.
 std::vector<BYTE> ReadFile(const std::string& path)
 {
     std::vector<BYTE> bytes;
@@ -42,6 +43,7 @@ std::vector<BYTE> MakeBmp(int width, int height, COLORREF color, int present)
         width, height, [=](int, int) { return color; }, present);
 }
 
+/// The size of a bitmap in pixels.
 CSize SizeOf(HBITMAP bitmap)
 {
     BITMAP record = {};
@@ -242,6 +244,7 @@ TEST_CASE("a path that cannot be converted gives no picture")
 
 namespace {
 
+/// How often a copy was asked for.
 int copies = 0;
 
 /// Answers the picture's own bitmap where that is allowed.
@@ -333,12 +336,14 @@ private:
 CountingPicture* offered = nullptr; // What the loader hands out.
 HRESULT offeredCode = S_OK;
 
+/// Stands in for the system's picture loader.
 HRESULT WINAPI OfferPicture(LPOLESTR, LPUNKNOWN, DWORD, OLE_COLOR, REFIID, LPVOID* picture)
 {
     *picture = offered;
     return offeredCode;
 }
 
+/// A bitmap of 7 by 5 pixels.
 HBITMAP MakeBitmap()
 {
     return ::CreateBitmap(7, 5, 1, 32, nullptr);

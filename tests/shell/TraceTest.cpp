@@ -14,6 +14,7 @@ using namespace umbra::testing;
 
 namespace {
 
+/// Whether the text is part of what was traced.
 bool Tells(const std::string& trace, const std::string& text)
 {
     return trace.find(text) != std::string::npos;

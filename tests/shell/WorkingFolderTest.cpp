@@ -21,6 +21,7 @@ std::wstring HereWide()
     return path;
 }
 
+/// The working directory, where it is of an ordinary length.
 std::string Here()
 {
     char path[MAX_PATH] = "";

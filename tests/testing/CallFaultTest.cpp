@@ -12,11 +12,13 @@ DECLSPEC_NOINLINE HDC MakeDc()
 {
     return ::CreateCompatibleDC(nullptr);
 }
+/// The same for a function with an argument.
 DECLSPEC_NOINLINE int Metric(int index)
 {
     return ::GetSystemMetrics(index);
 }
 
+/// The module whose calls are caught.
 HMODULE ThisModule()
 {
     return ModuleOf(reinterpret_cast<const void*>(&ThisModule));

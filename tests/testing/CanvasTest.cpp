@@ -9,6 +9,7 @@ namespace {
 
 constexpr COLORREF mark = RGB(9, 90, 200);
 
+/// A parent's procedure that paints an owner-drawn button in a colour by its state.
 LRESULT CALLBACK PaintItem(HWND window, UINT message, WPARAM wParam, LPARAM lParam)
 {
     if (message != WM_DRAWITEM)

@@ -9,6 +9,7 @@ using namespace umbra::testing;
 
 namespace {
 
+/// Stands in for the system's function without calling it.
 int WINAPI AnswerMetric(int)
 {
     return 12345;
@@ -16,6 +17,7 @@ int WINAPI AnswerMetric(int)
 
 const ImportHook* currentHook = nullptr;
 
+/// Stands in for it and calls it.
 int WINAPI DoubleMetric(int index)
 {
     return 2 * currentHook->OriginalAs<decltype(::GetSystemMetrics)>()(index);
@@ -28,6 +30,7 @@ DECLSPEC_NOINLINE int ScreenWidth()
     return ::GetSystemMetrics(SM_CXSCREEN);
 }
 
+/// The module whose calls are caught.
 HMODULE ThisModule()
 {
     return ModuleOf(reinterpret_cast<const void*>(&AnswerMetric));
@@ -143,6 +146,7 @@ struct DelayingModule
     HMODULE Handle() { return reinterpret_cast<HMODULE>(this); }
 };
 
+/// The stub of an import that is bound at its first call.
 int WINAPI BindAndCall(int)
 {
     return -1; // A real stub would look the function up and write over the slot.

@@ -14,6 +14,7 @@ constexpr int buttonId = 100;
 constexpr int editId = 101;
 constexpr int labelId = 102;
 
+/// A page with what can be pressed and typed into.
 DialogTemplate MakePage()
 {
     DialogTemplate page(20, 20, 200, 100);
@@ -23,6 +24,7 @@ DialogTemplate MakePage()
     return page;
 }
 
+/// The page, shown, with the pointer somewhere else.
 struct InputFixture
 {
     CDialog dialog;

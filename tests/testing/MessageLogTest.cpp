@@ -6,6 +6,7 @@ using namespace umbra::testing;
 
 namespace {
 
+/// A plain window, hidden.
 HWND MakeWindow()
 {
     return ::CreateWindowA("Static", "text", WS_POPUP, 0, 0, 10, 10, nullptr, nullptr, nullptr,

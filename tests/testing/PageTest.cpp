@@ -12,6 +12,7 @@ constexpr int editId = 101;
 constexpr int listId = 102;
 constexpr int comboId = 103;
 
+/// A page with one control of each kind.
 DialogTemplate MakePage()
 {
     DialogTemplate page(10, 10, 200, 120, DialogTemplate::popup, "A page");
@@ -25,6 +26,7 @@ DialogTemplate MakePage()
     return page;
 }
 
+/// The name of a window's class.
 std::string ClassOf(HWND window)
 {
     char name[64] = "";

@@ -24,6 +24,7 @@ private:
     HWND window_;
 };
 
+/// A timer's procedure; the timer's number is the flag's address.
 void CALLBACK SetFlag(HWND, UINT, UINT_PTR flag, DWORD)
 {
     *reinterpret_cast<bool*>(flag) = true;
@@ -72,6 +73,7 @@ TEST_CASE("waiting for what never comes ends when the time is up")
 
 namespace {
 
+/// A window's procedure that never paints.
 LRESULT CALLBACK NeverValidate(HWND window, UINT message, WPARAM wParam, LPARAM lParam)
 {
     return message == WM_PAINT ? 0 : ::DefWindowProcA(window, message, wParam, lParam);

@@ -17,12 +17,14 @@ namespace {
 
 const DialogUnits::Base worked = {7, 13};
 
+/// Whether this run has the toolkit's reference font.
 bool HasReferenceFont()
 {
     const char* font = getenv("UMBRA_TEST_FONT");
     return font != nullptr && std::string(font) == "mincho";
 }
 
+/// One value each way, with the bases worked by hand.
 int ToUnits(int x)
 {
     return DialogUnits::FromPixels({x, 0, 0, 0}, worked).x;
@@ -43,26 +45,32 @@ int ToVerticalPixels(int y)
     return DialogUnits::ToPixels({0, y, 0, 0}, worked).y;
 }
 
+/// Stands in for the list of fonts: there is none.
 int CALLBACK EnumerateNothing(HDC, LPCSTR, FONTENUMPROCA, LPARAM)
 {
     return 0;
 }
 
+/// Stands in for the system's own base units.
 LONG WINAPI AnswerWorkedBase()
 {
     return MAKELONG(worked.horizontal, worked.vertical);
 }
 
+/// What a font is to say of its heights.
 TEXTMETRICA leadingMetrics;
 
+/// Stands in for the measuring of a font.
 BOOL WINAPI AnswerLeading(HDC, LPTEXTMETRICA metrics)
 {
     *metrics = leadingMetrics;
     return TRUE;
 }
 
+/// How large the alphabet is to be.
 SIZE answeredExtent;
 
+/// Stands in for the measuring of a text.
 BOOL WINAPI AnswerExtent(HDC, LPCSTR, int, LPSIZE extent)
 {
     *extent = answeredExtent;
