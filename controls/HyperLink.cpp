@@ -17,7 +17,7 @@ BEGIN_MESSAGE_MAP(CHyperLink, CStatic)
     ON_WM_SETCURSOR()
     ON_WM_PAINT()
     ON_WM_MOUSEMOVE()
-    ON_MESSAGE(WM_PRINTCLIENT, OnPrintClient)
+    ON_MESSAGE(WM_PRINTCLIENT, &CHyperLink::OnPrintClient)
 END_MESSAGE_MAP()
 
 namespace {

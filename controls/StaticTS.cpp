@@ -20,7 +20,7 @@ BEGIN_MESSAGE_MAP(CStaticTS, CStatic)
     ON_WM_CREATE()
     ON_WM_SETCURSOR()
     ON_WM_LBUTTONDOWN()
-    ON_MESSAGE(WM_PRINTCLIENT, OnPrintClient)
+    ON_MESSAGE(WM_PRINTCLIENT, &CStaticTS::OnPrintClient)
 END_MESSAGE_MAP()
 
 namespace {

@@ -13,7 +13,7 @@ COLORREF g_crShade = RGB(192, 192, 192);
 
 BEGIN_MESSAGE_MAP(CBaseDialog, CDialogTS)
     ON_WM_PAINT()
-    ON_MESSAGE(WM_PRINTCLIENT, OnPrintClient)
+    ON_MESSAGE(WM_PRINTCLIENT, &CBaseDialog::OnPrintClient)
 END_MESSAGE_MAP()
 
 namespace {

@@ -2,6 +2,7 @@
 
 #include "faces/ShadeGrainLoops.h"
 
+#include <cstddef>
 #include <cstring>
 #include <immintrin.h>
 
@@ -53,20 +54,20 @@ struct Avx2Lanes
     Avx2Lanes(std::uint32_t state, const std::uint32_t* factors, const std::uint32_t* offsets)
     {
         const __m256i doubled = _mm256_set1_epi32(static_cast<int>(state * 2));
-        for (int i = 0; i < vectors; ++i)
+        for (std::ptrdiff_t i = 0; i < vectors; ++i)
             states[i] = _mm256_add_epi32(_mm256_mullo_epi32(doubled, Load(factors + i * 8)),
                                          Load(offsets + i * 8));
     }
 
     explicit Avx2Lanes(const std::uint32_t* saved)
     {
-        for (int i = 0; i < vectors; ++i)
+        for (std::ptrdiff_t i = 0; i < vectors; ++i)
             states[i] = Load(saved + i * 8);
     }
 
     void Save(std::uint32_t* saved) const
     {
-        for (int i = 0; i < vectors; ++i)
+        for (std::ptrdiff_t i = 0; i < vectors; ++i)
             Store(saved + i * 8, states[i]);
     }
 

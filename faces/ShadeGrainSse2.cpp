@@ -1,5 +1,6 @@
 #include "faces/ShadeGrainLoops.h"
 
+#include <cstddef>
 #include <cstring>
 #include <emmintrin.h>
 
@@ -55,20 +56,20 @@ struct Sse2Lanes
     Sse2Lanes(std::uint32_t state, const std::uint32_t* factors, const std::uint32_t* offsets)
     {
         const __m128i doubled = _mm_set1_epi32(static_cast<int>(state * 2));
-        for (int i = 0; i < vectors; ++i)
+        for (std::ptrdiff_t i = 0; i < vectors; ++i)
             states[i] =
                 _mm_add_epi32(_mm_mul_epu32(doubled, Load(factors + i * 4)), Load(offsets + i * 4));
     }
 
     explicit Sse2Lanes(const std::uint32_t* saved)
     {
-        for (int i = 0; i < vectors; ++i)
+        for (std::ptrdiff_t i = 0; i < vectors; ++i)
             states[i] = Load(saved + i * 4);
     }
 
     void Save(std::uint32_t* saved) const
     {
-        for (int i = 0; i < vectors; ++i)
+        for (std::ptrdiff_t i = 0; i < vectors; ++i)
             Store(saved + i * 4, states[i]);
     }
 
