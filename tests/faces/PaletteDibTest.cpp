@@ -42,15 +42,31 @@ void MakeFourColors(PaletteDib& dib)
     dib.SetPixelIndex(1, 1, 4);
 }
 
+void CheckEmpty(const PaletteDib& dib)
+{
+    CHECK_FALSE(dib.IsValid());
+    CHECK(dib.GetBits() == nullptr);
+    CHECK(dib.GetWidth() == 0);
+    CHECK(dib.GetHeight() == 0);
+    CHECK(dib.GetStride() == 0);
+    CHECK(dib.GetPalette() == nullptr);
+    CHECK(dib.GetPaletteCount() == 0);
+}
+
 } // namespace
+
+TEST_CASE("a destroyed bitmap is empty as a new one is")
+{
+    PaletteDib dib;
+    MakeFourColors(dib);
+    dib.Destroy();
+    CheckEmpty(dib);
+}
 
 TEST_CASE("a new bitmap is empty, and nothing can be done to it")
 {
     PaletteDib dib;
-    CHECK_FALSE(dib.IsValid());
-    CHECK(dib.GetBits() == nullptr);
-    CHECK(dib.GetPalette() == nullptr);
-    CHECK(dib.GetPaletteCount() == 0);
+    CheckEmpty(dib);
 
     dib.SetPaletteIndex(0, 1, 2, 3);
     dib.SetPixelIndex(0, 0, 1);
