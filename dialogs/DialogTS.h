@@ -16,9 +16,9 @@ public:
 
     INT_PTR DoModal() override;
 
-    /// Shows a bitmap as the background, or, with a mask as m_bmpMask has it, a shape. Both stay the
-    /// caller's, who keeps them until the dialog is gone or shows others. May be called again, at any
-    /// time; NULL takes the background away. m_bSolidFill wins over a bitmap without a mask.
+    /// Shows a bitmap as the background, or, with a mask as m_bmpMask has it, a shape. Both stay
+    /// the caller's, who keeps them until the dialog is gone or shows others. May be called again,
+    /// at any time; NULL takes the background away. m_bSolidFill wins over a bitmap without a mask.
     void SetBackground(HBITMAP image, HBITMAP mask = nullptr);
 
     /// Gives up the background image and mask. While m_bHasBitmap is set the bitmaps stay with

@@ -30,10 +30,9 @@ public:
     /// A plain static control with the host's font, to be subclassed by a label.
     HWND AddStatic(const CRect& place, const char* text, DWORD style = SS_NOTIFY, int id = 100)
     {
-        const HWND window =
-            ::CreateWindow("Static", text, WS_CHILD | WS_VISIBLE | style, place.left, place.top,
-                           place.Width(), place.Height(), m_hWnd,
-                           reinterpret_cast<HMENU>(static_cast<INT_PTR>(id)), NULL, NULL);
+        const HWND window = ::CreateWindow(
+            "Static", text, WS_CHILD | WS_VISIBLE | style, place.left, place.top, place.Width(),
+            place.Height(), m_hWnd, reinterpret_cast<HMENU>(static_cast<INT_PTR>(id)), NULL, NULL);
         ::SendMessage(window, WM_SETFONT, reinterpret_cast<WPARAM>(m_font.GetSafeHandle()), FALSE);
         return window;
     }

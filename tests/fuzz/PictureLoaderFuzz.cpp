@@ -1,5 +1,5 @@
-// Paths of pictures and working directories. Built from shell/PictureLoader.cpp, PicturePath.cpp and
-// WorkingFolder.cpp.
+// Paths of pictures and working directories. Built from shell/PictureLoader.cpp, PicturePath.cpp
+// and WorkingFolder.cpp.
 #include "tests/fuzz/Input.h"
 
 #include "shell/WorkingFolder.h"
