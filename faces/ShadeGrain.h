@@ -35,7 +35,7 @@ struct GrainJob
     const std::uint8_t* add;  ///< One a row.
     GrainDivider divider;     ///< Of 2 or more.
     std::uint32_t state;      ///< Of the stream, before the first pixel's number.
-    RandomLeap lineLeap;      ///< The steps of one row, or of one column where columns go first.
+    RandomJump lineJump;      ///< The steps of one row, or of one column where columns go first.
 };
 
 /// Widths of row buffers are rounded up to a multiple of this.

@@ -15,11 +15,11 @@ struct Avx2Lanes
     static constexpr int vectors = 4;
     static constexpr int words = vectors * 8;
 
-    struct Leap
+    struct Jump
     {
-        explicit Leap(RandomLeap leap)
-            : factor(_mm256_set1_epi32(static_cast<int>(leap.factor))),
-              offset(_mm256_set1_epi32(static_cast<int>(leap.offset * 2)))
+        explicit Jump(RandomJump jump)
+            : factor(_mm256_set1_epi32(static_cast<int>(jump.factor))),
+              offset(_mm256_set1_epi32(static_cast<int>(jump.offset * 2)))
         {
         }
         __m256i factor;
@@ -71,10 +71,10 @@ struct Avx2Lanes
             Store(saved + i * 8, states[i]);
     }
 
-    void Advance(const Leap& leap)
+    void Advance(const Jump& jump)
     {
         for (int i = 0; i < vectors; ++i)
-            states[i] = _mm256_add_epi32(_mm256_mullo_epi32(states[i], leap.factor), leap.offset);
+            states[i] = _mm256_add_epi32(_mm256_mullo_epi32(states[i], jump.factor), jump.offset);
     }
 
     __m256i Pixels(const Divider& divider, const std::uint8_t* base, __m256i add) const

@@ -15,22 +15,22 @@
 
 namespace {
 
-constexpr RandomLeap Join(RandomLeap first, RandomLeap second)
+constexpr RandomJump Join(RandomJump first, RandomJump second)
 {
     return {first.factor * second.factor, first.offset * second.factor + second.offset};
 }
 
-constexpr RandomLeap Repeat(RandomLeap leap, int times)
+constexpr RandomJump Repeat(RandomJump jump, int times)
 {
-    RandomLeap all = {1, 0};
+    RandomJump all = {1, 0};
     for (int i = 0; i < times; ++i)
-        all = Join(all, leap);
+        all = Join(all, jump);
     return all;
 }
 
-constexpr RandomLeap singleStep = {ShadeRandom::multiplier, ShadeRandom::increment};
+constexpr RandomJump singleStep = {ShadeRandom::multiplier, ShadeRandom::increment};
 
-/// The leaps from the state before a block to each of its lanes, in the lanes' own order.
+/// The jumps from the state before a block to each of its lanes, in the lanes' own order.
 template <class Lanes>
 struct BlockStart
 {
@@ -39,11 +39,11 @@ struct BlockStart
 
     constexpr BlockStart()
     {
-        RandomLeap leap = singleStep;
+        RandomJump jump = singleStep;
         for (int i = 0; i < Lanes::pixelsAtOnce; ++i) {
-            factors[Lanes::WordOf(i)] = leap.factor;
-            offsets[Lanes::WordOf(i)] = leap.offset * 2;
-            leap = Join(leap, singleStep);
+            factors[Lanes::WordOf(i)] = jump.factor;
+            offsets[Lanes::WordOf(i)] = jump.offset * 2;
+            jump = Join(jump, singleStep);
         }
     }
 };
@@ -52,8 +52,8 @@ template <class Lanes>
 std::uint32_t GrainRows(const GrainJob& job)
 {
     static constexpr BlockStart<Lanes> start;
-    constexpr RandomLeap block = Repeat(singleStep, Lanes::pixelsAtOnce);
-    const typename Lanes::Leap blockLeap(block);
+    constexpr RandomJump block = Repeat(singleStep, Lanes::pixelsAtOnce);
+    const typename Lanes::Jump blockJump(block);
     const typename Lanes::Divider divider(job.divider);
     const std::uint8_t* const base = job.base;
     const int width = job.width;
@@ -66,11 +66,11 @@ std::uint32_t GrainRows(const GrainJob& job)
         int x = 0;
         for (; x + Lanes::pixelsAtOnce <= width; x += Lanes::pixelsAtOnce) {
             Lanes::Store(row + x, lanes.Pixels(divider, base + x, add));
-            lanes.Advance(blockLeap);
+            lanes.Advance(blockJump);
         }
         if (x < width)
             Lanes::StorePart(row + x, lanes.Pixels(divider, base + x, add), width - x);
-        state = state * job.lineLeap.factor + job.lineLeap.offset;
+        state = state * job.lineJump.factor + job.lineJump.offset;
     }
     return state;
 }
@@ -82,13 +82,13 @@ void StartColumns(const GrainJob& job, std::uint32_t* states)
     std::uint32_t state = job.state * singleStep.factor + singleStep.offset;
     for (int i = 0; i < Lanes::pixelsAtOnce; ++i) {
         states[Lanes::WordOf(i)] = state * 2;
-        state = state * job.lineLeap.factor + job.lineLeap.offset;
+        state = state * job.lineJump.factor + job.lineJump.offset;
     }
     Lanes lanes(states);
-    const typename Lanes::Leap blockLeap(Repeat(job.lineLeap, Lanes::pixelsAtOnce));
+    const typename Lanes::Jump blockJump(Repeat(job.lineJump, Lanes::pixelsAtOnce));
     for (int x = 0; x < job.width; x += Lanes::pixelsAtOnce, states += Lanes::words) {
         lanes.Save(states);
-        lanes.Advance(blockLeap);
+        lanes.Advance(blockJump);
     }
 }
 
@@ -98,7 +98,7 @@ template <class Lanes>
 void GrainColumns(const GrainJob& job, std::uint32_t* states)
 {
     constexpr int rowsAtOnce = 16;
-    const typename Lanes::Leap oneStep(singleStep);
+    const typename Lanes::Jump oneStep(singleStep);
     const typename Lanes::Divider divider(job.divider);
     StartColumns<Lanes>(job, states);
 

@@ -14,11 +14,11 @@ struct Sse2Lanes
     static constexpr int vectors = 8;
     static constexpr int words = vectors * 4;
 
-    struct Leap
+    struct Jump
     {
-        explicit Leap(RandomLeap leap)
-            : factor(_mm_set1_epi32(static_cast<int>(leap.factor))),
-              offset(_mm_set1_epi32(static_cast<int>(leap.offset * 2)))
+        explicit Jump(RandomJump jump)
+            : factor(_mm_set1_epi32(static_cast<int>(jump.factor))),
+              offset(_mm_set1_epi32(static_cast<int>(jump.offset * 2)))
         {
         }
         __m128i factor;
@@ -73,10 +73,10 @@ struct Sse2Lanes
             Store(saved + i * 4, states[i]);
     }
 
-    void Advance(const Leap& leap)
+    void Advance(const Jump& jump)
     {
         for (int i = 0; i < vectors; ++i)
-            states[i] = _mm_add_epi32(_mm_mul_epu32(states[i], leap.factor), leap.offset);
+            states[i] = _mm_add_epi32(_mm_mul_epu32(states[i], jump.factor), jump.offset);
     }
 
     __m128i Pixels(const Divider& divider, const std::uint8_t* base, __m128i add) const

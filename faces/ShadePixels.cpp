@@ -263,7 +263,7 @@ private:
     {
         SetRows(0, [](int) { return 0; });
         GrainJob job = JobOf(m_random.GetState());
-        job.lineLeap = LeapOf(m_height);
+        job.lineJump = JumpAhead(m_height);
         m_kernels.grainColumns(job, m_rows.states);
         m_random.Skip(PixelCount());
     }
@@ -279,7 +279,7 @@ private:
         job.add = m_rows.add;
         job.divider = m_divider;
         job.state = state;
-        job.lineLeap = LeapOf(m_width);
+        job.lineJump = JumpAhead(m_width);
         return job;
     }
 

@@ -6,16 +6,16 @@ ShadeRandom processStream;
 
 } // namespace
 
-RandomLeap LeapOf(std::uint64_t steps)
+RandomJump JumpAhead(std::uint64_t steps)
 {
-    RandomLeap leap = {1, 0};
-    RandomLeap power = {ShadeRandom::multiplier, ShadeRandom::increment};
+    RandomJump jump = {1, 0};
+    RandomJump power = {ShadeRandom::multiplier, ShadeRandom::increment};
     for (; steps != 0; steps >>= 1) {
         if (steps & 1)
-            leap = {leap.factor * power.factor, leap.offset * power.factor + power.offset};
+            jump = {jump.factor * power.factor, jump.offset * power.factor + power.offset};
         power = {power.factor * power.factor, power.offset * power.factor + power.offset};
     }
-    return leap;
+    return jump;
 }
 
 ShadeRandom& ShadeRandom::OfProcess()
@@ -25,6 +25,6 @@ ShadeRandom& ShadeRandom::OfProcess()
 
 void ShadeRandom::Skip(std::uint64_t count)
 {
-    const RandomLeap leap = LeapOf(count);
-    m_state = m_state * leap.factor + leap.offset;
+    const RandomJump jump = JumpAhead(count);
+    m_state = m_state * jump.factor + jump.offset;
 }

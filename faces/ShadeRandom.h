@@ -4,14 +4,14 @@
 #include <cstdint>
 
 /// Several steps of the random recurrence at once: state * factor + offset, modulo 2^32.
-struct RandomLeap
+struct RandomJump
 {
     std::uint32_t factor;
     std::uint32_t offset;
 };
 
-/// The leap of the given number of steps.
-RandomLeap LeapOf(std::uint64_t steps);
+/// The jump of the given number of steps.
+RandomJump JumpAhead(std::uint64_t steps);
 
 /// The random numbers of the Microsoft C run-time, 0 to 32767, in a stream of their own: the
 /// run-time's rand is neither used nor disturbed.

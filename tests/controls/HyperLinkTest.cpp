@@ -53,7 +53,7 @@ public:
     ToolTipMessages()
     {
         All().clear();
-        m_hook = ::SetWindowsHookEx(WH_CALLWNDPROC, Note, NULL, ::GetCurrentThreadId());
+        m_hook = ::SetWindowsHookEx(WH_CALLWNDPROC, Note, nullptr, ::GetCurrentThreadId());
     }
     ~ToolTipMessages() { ::UnhookWindowsHookEx(m_hook); }
     ToolTipMessages(const ToolTipMessages&) = delete;
@@ -83,7 +83,7 @@ private:
         ::GetClassNameA(sent.hwnd, name, sizeof(name));
         if (code == HC_ACTION && strcmp(name, TOOLTIPS_CLASSA) == 0)
             All().push_back(sent);
-        return ::CallNextHookEx(NULL, code, wParam, lParam);
+        return ::CallNextHookEx(nullptr, code, wParam, lParam);
     }
 
     HHOOK m_hook;
@@ -100,7 +100,7 @@ TEST_CASE("a new label is no link, has black text, no picture and no tool tip")
     CHECK(link.m_crText == RGB(0, 0, 0));
     CHECK(link.m_crTransparent == 0xFFFFFFFF);
     CHECK(link.m_strURL.IsEmpty());
-    CHECK(link.m_ToolTip.m_hWnd == NULL);
+    CHECK(link.m_ToolTip.m_hWnd == nullptr);
 }
 
 TEST_CASE("text is centred and wrapped in its colour over what is beneath")
@@ -132,8 +132,8 @@ TEST_CASE("setting the text colour repaints nothing by itself")
     Link link("Text");
     link.host.Show();
     link.control.SetTextColor(red);
-    CHECK_FALSE(link.control.GetUpdateRect(NULL));
-    CHECK_FALSE(link.host.GetUpdateRect(NULL));
+    CHECK_FALSE(link.control.GetUpdateRect(nullptr));
+    CHECK_FALSE(link.host.GetUpdateRect(nullptr));
 }
 
 TEST_CASE("a target makes the label an underlined link and changes nothing else of its font")
@@ -248,7 +248,7 @@ TEST_CASE("the hand shows over a link with text")
     Link link("Text");
     link.control.SetURL("x");
     CHECK(link.AskCursor() == TRUE);
-    REQUIRE(LoadHandCursor() != NULL);
+    REQUIRE(LoadHandCursor() != nullptr);
     CHECK(::GetCursor() == LoadHandCursor());
 }
 
@@ -260,7 +260,7 @@ TEST_CASE("the real pointer becomes a hand over a link and an arrow beside it")
     REQUIRE(MovePointer(link.control.m_hWnd));
     CHECK(::GetCursor() == LoadHandCursor());
     REQUIRE(MovePointer(link.host.m_hWnd, {5, 5}));
-    CHECK(::GetCursor() == ::LoadCursor(NULL, IDC_ARROW));
+    CHECK(::GetCursor() == ::LoadCursor(nullptr, IDC_ARROW));
 }
 
 // Kept: the window text decides, not the target.
@@ -269,12 +269,12 @@ TEST_CASE("no link, or a link without text, has the default cursor; the latter s
     const ShellSpy shell;
     Link plain("Text");
     plain.AskCursor();
-    CHECK(::GetCursor() == ::LoadCursor(NULL, IDC_ARROW));
+    CHECK(::GetCursor() == ::LoadCursor(nullptr, IDC_ARROW));
 
     Link empty("");
     empty.control.SetURL("target");
     empty.AskCursor();
-    CHECK(::GetCursor() == ::LoadCursor(NULL, IDC_ARROW));
+    CHECK(::GetCursor() == ::LoadCursor(nullptr, IDC_ARROW));
     empty.Press();
     CHECK(shell.Asked().size() == 1);
 }
@@ -287,7 +287,7 @@ TEST_CASE("a keyed picture shows at the corner, under the text")
     CHECK(link.control.m_bBitmapLoaded);
     CHECK(link.control.m_nBitmapWidth == 19);
     CHECK(link.control.m_nBitmapHeight == 19);
-    CHECK(link.control.m_bmpMask.GetSafeHandle() != NULL);
+    CHECK(link.control.m_bmpMask.GetSafeHandle() != nullptr);
     CheckShowsKeyedNext(link);
 }
 
@@ -333,7 +333,7 @@ TEST_CASE("a tool tip is one tool, whose text is renewed")
     Link link("Text");
     CHECK(link.control.SetToolTipText("first") == TRUE);
     CHECK(link.control.m_bToolTip);
-    REQUIRE(link.control.m_ToolTip.m_hWnd != NULL);
+    REQUIRE(link.control.m_ToolTip.m_hWnd != nullptr);
     const HWND window = link.control.m_ToolTip.m_hWnd;
     CHECK(TipText(link.control) == "first");
     link.control.SetToolTipText("second");

@@ -31,8 +31,8 @@ HBITMAP MakePicture(int bitsPerPixel, COLORREF key, BYTE fourth = 0)
     info.bmiHeader.biHeight = -4;
     info.bmiHeader.biPlanes = 1;
     info.bmiHeader.biBitCount = static_cast<WORD>(bitsPerPixel);
-    void* bits = NULL;
-    const HBITMAP bitmap = ::CreateDIBSection(NULL, &info, DIB_RGB_COLORS, &bits, NULL, 0);
+    void* bits = nullptr;
+    const HBITMAP bitmap = ::CreateDIBSection(nullptr, &info, DIB_RGB_COLORS, &bits, nullptr, 0);
     const int bytes = bitsPerPixel / 8;
     for (int y = 0; y < 4; ++y) {
         for (int x = 0; x < 8; ++x) {
@@ -93,7 +93,7 @@ TEST_CASE("the mask is right whatever stands in the fourth byte of a pixel")
 TEST_CASE("a loaded GIF is keyed by its black pixels")
 {
     const HBITMAP loaded = LoadPictureBitmap(ImagePath("Next.gif").c_str());
-    REQUIRE(loaded != NULL);
+    REQUIRE(loaded != nullptr);
     const Picture file = Picture::OfBitmap(loaded);
     CBitmap picture, mask;
     picture.Attach(loaded);
@@ -139,14 +139,14 @@ TEST_CASE("a former mask is deleted, a former picture is not touched")
     for (int i = 0; i < 10; ++i)
         BuildKeyMask(picture, mask, black);
     CHECK_MESSAGE(objects.IsBalanced(), objects.Describe());
-    CHECK(former != NULL);
+    CHECK(former != nullptr);
 }
 
 TEST_CASE("without a picture there is no mask, and drawing does no harm")
 {
     CBitmap picture, mask;
     BuildKeyMask(picture, mask, black);
-    CHECK(mask.GetSafeHandle() == NULL);
+    CHECK(mask.GetSafeHandle() == nullptr);
     Draw(picture, mask);
 }
 
@@ -158,9 +158,9 @@ TEST_CASE("a picture higher than one band of rows is keyed to its last row")
     info.bmiHeader.biHeight = -200;
     info.bmiHeader.biPlanes = 1;
     info.bmiHeader.biBitCount = 32;
-    void* bits = NULL;
+    void* bits = nullptr;
     CBitmap picture, mask;
-    picture.Attach(::CreateDIBSection(NULL, &info, DIB_RGB_COLORS, &bits, NULL, 0));
+    picture.Attach(::CreateDIBSection(nullptr, &info, DIB_RGB_COLORS, &bits, nullptr, 0));
     memset(bits, 0, 3 * 200 * 4);
     for (int pixel = 0; pixel < 3 * 200; ++pixel)
         static_cast<DWORD*>(bits)[pixel] = 0xFF000000;
@@ -179,8 +179,21 @@ TEST_CASE("an abandoned bitmap outlives its wrapper")
         CBitmap wrapper;
         wrapper.Attach(bitmap);
         Abandon(wrapper);
-        CHECK(wrapper.GetSafeHandle() == NULL);
+        CHECK(wrapper.GetSafeHandle() == nullptr);
     }
     CHECK(::GetObjectType(bitmap) == OBJ_BITMAP);
     ::DeleteObject(bitmap);
+}
+
+TEST_CASE("a handle that is no bitmap any more makes no mask")
+{
+    const HBITMAP bitmap = MakePicture(24, black);
+    CBitmap picture, mask;
+    picture.Attach(bitmap);
+    BuildKeyMask(picture, mask, black);
+    CHECK(mask.GetSafeHandle() != nullptr);
+    ::DeleteObject(bitmap);
+    BuildKeyMask(picture, mask, black);
+    CHECK(mask.GetSafeHandle() == nullptr);
+    picture.Detach();
 }

@@ -39,7 +39,7 @@ struct LabelOver
     /// Has the label set the cursor, which is a cross before.
     LRESULT AskCursor()
     {
-        ::SetCursor(::LoadCursor(NULL, IDC_CROSS));
+        ::SetCursor(::LoadCursor(nullptr, IDC_CROSS));
         return control.SendMessage(WM_SETCURSOR, reinterpret_cast<WPARAM>(control.m_hWnd),
                                    MAKELPARAM(HTCLIENT, WM_MOUSEMOVE));
     }
@@ -182,13 +182,13 @@ void CheckMissingPictureChangesNothing(Load load)
     LabelOver<Control> label("");
     label.control.SetTransparentColor(black);
     CHECK((label.control.*load)("no such file.gif") == TRUE);
-    CHECK(label.control.m_bmpPicture.GetSafeHandle() == NULL);
+    CHECK(label.control.m_bmpPicture.GetSafeHandle() == nullptr);
     const umbra::testing::Picture empty = label.host.Show();
     CHECK(empty.CountOf(green) == empty.Width() * empty.Height());
 
     (label.control.*load)(ImagePath("Next.gif").c_str());
     const HGDIOBJ before = label.control.m_bmpPicture.GetSafeHandle();
-    CHECK(before != NULL);
+    CHECK(before != nullptr);
     CHECK((label.control.*load)("no such file.gif") == TRUE);
     CHECK(label.control.m_bmpPicture.GetSafeHandle() == before);
     CheckShowsKeyedNext(label);
@@ -201,10 +201,10 @@ void CheckLaterKeyWaits(Load load)
     LabelOver<Control> label("");
     (label.control.*load)(ImagePath("Next.gif").c_str());
     label.control.SetTransparentColor(black);
-    CHECK(label.control.m_bmpMask.GetSafeHandle() == NULL);
+    CHECK(label.control.m_bmpMask.GetSafeHandle() == nullptr);
     label.host.Show(); // Not keyed, and no harm done.
     (label.control.*load)(ImagePath("Next.gif").c_str());
-    CHECK(label.control.m_bmpMask.GetSafeHandle() != NULL);
+    CHECK(label.control.m_bmpMask.GetSafeHandle() != nullptr);
     CheckShowsKeyedNext(label);
 }
 
@@ -219,7 +219,7 @@ void CheckBitmapsOutlive(Load load)
         label.control.SetTransparentColor(black);
         (label.control.*load)(ImagePath("Next.gif").c_str());
         replaced = label.control.m_bmpPicture.GetSafeHandle();
-        CHECK(label.control.m_bmpMask.GetSafeHandle() != NULL);
+        CHECK(label.control.m_bmpMask.GetSafeHandle() != nullptr);
         (label.control.*load)(ImagePath("Back.gif").c_str());
         last = label.control.m_bmpPicture.GetSafeHandle();
         mask = label.control.m_bmpMask.GetSafeHandle();

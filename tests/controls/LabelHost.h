@@ -19,8 +19,8 @@ public:
     explicit LabelHost(COLORREF background = RGB(20, 160, 60))
     {
         m_brush.CreateSolidBrush(background);
-        CreateEx(WS_EX_TOPMOST, AfxRegisterWndClass(0, ::LoadCursor(NULL, IDC_ARROW), m_brush), "",
-                 WS_POPUP | WS_VISIBLE | WS_CLIPCHILDREN, 40, 40, 500, 400, NULL, NULL);
+        CreateEx(WS_EX_TOPMOST, AfxRegisterWndClass(0, ::LoadCursor(nullptr, IDC_ARROW), m_brush),
+                 "", WS_POPUP | WS_VISIBLE | WS_CLIPCHILDREN, 40, 40, 500, 400, nullptr, nullptr);
         m_font.CreateFont(-13, 0, 0, 0, FW_NORMAL, FALSE, FALSE, FALSE, ANSI_CHARSET, 0, 0, 0, 0,
                           "Arial");
         UpdateWindow();
@@ -30,9 +30,10 @@ public:
     /// A plain static control with the host's font, to be subclassed by a label.
     HWND AddStatic(const CRect& place, const char* text, DWORD style = SS_NOTIFY, int id = 100)
     {
-        const HWND window = ::CreateWindow(
-            "Static", text, WS_CHILD | WS_VISIBLE | style, place.left, place.top, place.Width(),
-            place.Height(), m_hWnd, reinterpret_cast<HMENU>(static_cast<INT_PTR>(id)), NULL, NULL);
+        const HWND window =
+            ::CreateWindow("Static", text, WS_CHILD | WS_VISIBLE | style, place.left, place.top,
+                           place.Width(), place.Height(), m_hWnd,
+                           reinterpret_cast<HMENU>(static_cast<INT_PTR>(id)), nullptr, nullptr);
         ::SendMessage(window, WM_SETFONT, reinterpret_cast<WPARAM>(m_font.GetSafeHandle()), FALSE);
         return window;
     }
@@ -40,7 +41,8 @@ public:
     /// What the screen shows of the host's client area, everything painted.
     umbra::testing::Picture Show()
     {
-        RedrawWindow(NULL, NULL, RDW_INVALIDATE | RDW_ERASE | RDW_UPDATENOW | RDW_ALLCHILDREN);
+        RedrawWindow(nullptr, nullptr,
+                     RDW_INVALIDATE | RDW_ERASE | RDW_UPDATENOW | RDW_ALLCHILDREN);
         umbra::testing::PumpMessages();
         return umbra::testing::Picture::OfWindow(m_hWnd);
     }
@@ -67,10 +69,10 @@ public:
     {
         m_root = m_root.substr(0, m_root.find('\\'));
         HKEY opened;
-        if (::RegCreateKeyExA(HKEY_CLASSES_ROOT, key, 0, NULL, 0, KEY_ALL_ACCESS, NULL, &opened,
-                              NULL) != ERROR_SUCCESS)
+        if (::RegCreateKeyExA(HKEY_CLASSES_ROOT, key, 0, nullptr, 0, KEY_ALL_ACCESS, nullptr,
+                              &opened, nullptr) != ERROR_SUCCESS)
             return;
-        ::RegSetValueExA(opened, NULL, 0, REG_SZ, reinterpret_cast<const BYTE*>(value.c_str()),
+        ::RegSetValueExA(opened, nullptr, 0, REG_SZ, reinterpret_cast<const BYTE*>(value.c_str()),
                          static_cast<DWORD>(value.size() + 1));
         ::RegCloseKey(opened);
     }

@@ -77,7 +77,7 @@ TEST_CASE("where no font can be made the note falls back to the system's")
         REQUIRE(fonts.IsInstalled());
         note.control.CopyWindowFont();
     }
-    CHECK(FontOf(note.control) == NULL);
+    CHECK(FontOf(note.control) == nullptr);
     CHECK(note.host.Show().Contains(RGB(0, 0, 0)));
 }
 

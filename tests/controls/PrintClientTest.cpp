@@ -103,8 +103,8 @@ TEST_CASE("shaded buttons print as they show")
     LabelHost host(green);
     CxShadeButton button;
     button.SubclassWindow(::CreateWindow("Button", "Text", WS_CHILD | WS_VISIBLE, place.left,
-                                         place.top, place.Width(), place.Height(), host, NULL, NULL,
-                                         NULL));
+                                         place.top, place.Width(), place.Height(), host, nullptr,
+                                         nullptr, nullptr));
     button.SetShade(SHADE_ROWS, 0, 0, 50, RGB(180, 200, 230));
     button.SetPicture(ImagePath("Next.gif").c_str(), CxShadeButton::alignLeft, 19, 19, 0);
     const Picture shown = host.Show().Crop(place);

@@ -38,8 +38,8 @@ TEST_CASE("an object is selected for the length of a scope, and the former one a
 TEST_CASE("a bitmap that was selected for a scope can be deleted behind it")
 {
     CDC memory;
-    REQUIRE(memory.CreateCompatibleDC(NULL));
-    const HBITMAP bitmap = ::CreateBitmap(4, 4, 1, 1, NULL);
+    REQUIRE(memory.CreateCompatibleDC(nullptr));
+    const HBITMAP bitmap = ::CreateBitmap(4, 4, 1, 1, nullptr);
     {
         const ScopedSelect selected(memory, bitmap);
         CHECK(::GetCurrentObject(memory.GetSafeHdc(), OBJ_BITMAP) == bitmap);
@@ -54,7 +54,7 @@ TEST_CASE("selecting nothing changes nothing")
     CDC& dc = *CDC::FromHandle(canvas.Dc());
     const HGDIOBJ former = FontIn(dc);
     {
-        const ScopedSelect selected(dc, NULL);
+        const ScopedSelect selected(dc, nullptr);
         CHECK(FontIn(dc) == former);
     }
     CHECK(FontIn(dc) == former);
@@ -78,5 +78,5 @@ TEST_CASE("a device context that could not be made is passed over")
 {
     CDC none;
     const ScopedSelect selected(none, ::GetStockObject(ANSI_FIXED_FONT));
-    CHECK(none.GetSafeHdc() == NULL);
+    CHECK(none.GetSafeHdc() == nullptr);
 }

@@ -30,7 +30,8 @@ public:
     explicit IconButton(LabelHost& host)
     {
         SubclassWindow(::CreateWindow("Button", "", WS_CHILD | WS_VISIBLE, place.left, place.top,
-                                      place.Width(), place.Height(), host, NULL, NULL, NULL));
+                                      place.Width(), place.Height(), host, nullptr, nullptr,
+                                      nullptr));
         SetShade(SHADE_DIAGONAL, 0, 0, 100, tint);
     }
 };
@@ -38,7 +39,7 @@ public:
 /// An icon of one colour, 16 by 16 pixels.
 HICON MakeIcon(COLORREF color)
 {
-    CClientDC screen(NULL);
+    CClientDC screen(nullptr);
     CDC memory;
     memory.CreateCompatibleDC(&screen);
     CBitmap image, mask;
@@ -99,9 +100,9 @@ TEST_CASE("a picture replaces the icons of all states, and ends them")
     {
         button.SetPicture("no such file.gif", CxShadeButton::alignLeft, 19, 19, 0);
     }
-    CHECK(button.m_hIcon == NULL);
-    CHECK(button.m_hIconDown == NULL);
-    CHECK(button.m_hIconOver == NULL);
+    CHECK(button.m_hIcon == nullptr);
+    CHECK(button.m_hIconDown == nullptr);
+    CHECK(button.m_hIconOver == nullptr);
     for (const HICON icon : {normal, down, over})
         CHECK_FALSE(IsAlive(icon));
     button.m_hover = TRUE;
@@ -123,7 +124,7 @@ TEST_CASE("an icon replaces a picture")
             expected.Set(4 + x, 12 + y, red);
     }
     CHECK(host.Show().Crop(place).Compare(expected) == "the same");
-    button.SetIcons(NULL, CxShadeButton::alignLeft, 16, 16);
+    button.SetIcons(nullptr, CxShadeButton::alignLeft, 16, 16);
     CHECK(host.Show().Crop(place).Compare(bare) == "the same");
 }
 
@@ -152,7 +153,7 @@ TEST_CASE("faces are made anew for a new size and new system colours when asked 
     LabelHost host;
     IconButton button(host);
     button.SetShade(SHADE_ROWS, 0, 0, 0, tint);
-    button.SetWindowPos(NULL, 0, 0, 90, 30, SWP_NOMOVE | SWP_NOZORDER);
+    button.SetWindowPos(nullptr, 0, 0, 90, 30, SWP_NOMOVE | SWP_NOZORDER);
     CHECK(button.m_dibNormal.GetWidth() == place.Width());
     CHECK(button.UpdateShade());
     CHECK(button.m_dibNormal.GetWidth() == 90);
@@ -175,6 +176,6 @@ TEST_CASE("a button that was never shaded has no faces to make anew")
     LabelHost host;
     CxShadeButton button;
     button.SubclassWindow(
-        ::CreateWindow("Button", "", WS_CHILD, 0, 0, 10, 10, host, NULL, NULL, NULL));
+        ::CreateWindow("Button", "", WS_CHILD, 0, 0, 10, 10, host, nullptr, nullptr, nullptr));
     CHECK_FALSE(button.UpdateShade());
 }

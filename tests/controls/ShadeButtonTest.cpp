@@ -17,6 +17,7 @@
 
 #include <doctest/doctest.h>
 
+#include <algorithm>
 #include <functional>
 #include <memory>
 #include <vector>
@@ -105,7 +106,7 @@ public:
     {
         return ::CreateWindow("Button", text, WS_CHILD | WS_VISIBLE | WS_TABSTOP | style,
                               place.left, place.top, place.Width(), place.Height(), m_hWnd,
-                              reinterpret_cast<HMENU>(static_cast<INT_PTR>(id)), NULL, NULL);
+                              reinterpret_cast<HMENU>(static_cast<INT_PTR>(id)), nullptr, nullptr);
     }
 
 protected:
@@ -246,12 +247,12 @@ struct RadioRow
 /// An icon of 16 by 16 pixels in one colour, opaque.
 HICON MakeIcon(COLORREF color)
 {
-    HDC screen = ::GetDC(NULL);
+    HDC screen = ::GetDC(nullptr);
     HDC memory = ::CreateCompatibleDC(screen);
     ICONINFO info = {};
     info.fIcon = TRUE;
     info.hbmColor = ::CreateCompatibleBitmap(screen, 16, 16);
-    info.hbmMask = ::CreateBitmap(16, 16, 1, 1, NULL);
+    info.hbmMask = ::CreateBitmap(16, 16, 1, 1, nullptr);
     const RECT all = {0, 0, 16, 16};
     const HBRUSH brush = ::CreateSolidBrush(color);
     HGDIOBJ former = ::SelectObject(memory, info.hbmColor);
@@ -261,7 +262,7 @@ HICON MakeIcon(COLORREF color)
     ::SelectObject(memory, former);
     ::DeleteObject(brush);
     ::DeleteDC(memory);
-    ::ReleaseDC(NULL, screen);
+    ::ReleaseDC(nullptr, screen);
     const HICON icon = ::CreateIconIndirect(&info);
     ::DeleteObject(info.hbmColor);
     ::DeleteObject(info.hbmMask);
@@ -323,17 +324,17 @@ TEST_CASE("a new button has its defaults")
     const TestButton button;
     CHECK_FALSE(button.m_pictureOwned);
     CHECK(button.m_maskColor == 0xFFFFFFFF);
-    CHECK(button.m_pictureData == NULL);
+    CHECK(button.m_pictureData == nullptr);
     CHECK_FALSE(button.m_checked);
     CHECK(button.m_buttonKind == 0);
     CHECK_FALSE(button.m_hover);
     CHECK_FALSE(button.m_pressing);
-    CHECK(button.m_toolTip.m_hWnd == NULL);
+    CHECK(button.m_toolTip.m_hWnd == nullptr);
     CHECK(button.m_border == 4);
     CHECK(button.m_textColor == Sys(COLOR_BTNTEXT));
     CHECK(button.m_3dBorder == 1);
-    CHECK(button.m_hIcon == NULL);
-    CHECK(button.m_hBitmap == NULL);
+    CHECK(button.m_hIcon == nullptr);
+    CHECK(button.m_hBitmap == nullptr);
     CHECK(button.m_rcIcon.IsRectEmpty());
     CHECK(button.m_textFormat == DT_CENTER);
     CHECK(button.m_iconAlign == 0x300);
@@ -604,14 +605,14 @@ TEST_CASE("a picture replaces an icon, and one that does not load leaves neither
     button.control.SetIcons(MakeIcon(red), 0x100, 16, 16);
     CHECK(button.Draw().CountOf(red) == 16 * 16);
     button.control.SetPicture(ImagePath("Next.gif").c_str(), 0x100, 19, 19, 0);
-    CHECK(button.control.m_hIcon == NULL);
-    CHECK(button.control.m_hBitmap != NULL);
+    CHECK(button.control.m_hIcon == nullptr);
+    CHECK(button.control.m_hBitmap != nullptr);
     CHECK(button.control.m_bmpImage.GetSafeHandle() == button.control.m_hBitmap);
 
     button.control.SetIcons(MakeIcon(red), 0x100, 16, 16);
     CHECK(button.control.SetPicture("no such file.gif", 0x100, 19, 19, 0) == TRUE);
-    CHECK(button.control.m_hIcon == NULL);
-    CHECK(button.control.m_hBitmap == NULL);
+    CHECK(button.control.m_hIcon == nullptr);
+    CHECK(button.control.m_hBitmap == nullptr);
 }
 
 TEST_CASE("icons of the three states show in theirs")
@@ -677,8 +678,8 @@ TEST_CASE("an icon that serves two or three looks is destroyed once")
     };
     const HICON second = MakeIcon(red), third = MakeIcon(red), fourth = MakeIcon(red);
     // Beside the normal icon: one for both other looks, two, the pressed or the hot look alone.
-    for (const Case& icons : {Case{second, second, 2}, Case{NULL, NULL, 1}, Case{third, NULL, 2},
-                              Case{NULL, fourth, 2}}) {
+    for (const Case& icons : {Case{second, second, 2}, Case{nullptr, nullptr, 1},
+                              Case{third, nullptr, 2}, Case{nullptr, fourth, 2}}) {
         auto button = std::make_unique<Button>();
         button->control.SetIcons(MakeIcon(red), 0x100, 16, 16, icons.down, icons.over);
         const CountCalls ends(FindModule("umbra.dll"), "user32", "DestroyIcon");
@@ -744,7 +745,7 @@ TEST_CASE("pressing takes the heat, pushes and captures; releasing clicks")
     ReleaseLeft();
     CHECK_FALSE(button.control.m_pressing);
     CHECK_FALSE(IsPushed(button.control));
-    CHECK(::GetCapture() == NULL);
+    CHECK(::GetCapture() == nullptr);
     CHECK(button.host.m_clicks == 1);
     // The next move arms the tracking again.
     MovePointer(button.control.m_hWnd, {20, 20});
@@ -830,6 +831,36 @@ TEST_CASE("a press counts from the end of the system's own handling on")
     CHECK_FALSE(button.control.Find(WM_LBUTTONUP)->wasPressing);
 }
 
+TEST_CASE("the button's own procedure gets every mouse and key message that the button handles")
+{
+    static std::vector<UINT> got;
+    static WNDPROC former;
+    got.clear();
+    ButtonHost host;
+    const HWND window = host.AddButton();
+    former = reinterpret_cast<WNDPROC>(::SetWindowLongPtr(
+        window, GWLP_WNDPROC,
+        reinterpret_cast<LONG_PTR>(static_cast<WNDPROC>(
+            [](HWND button, UINT message, WPARAM wParam, LPARAM lParam) -> LRESULT {
+                got.push_back(message);
+                return ::CallWindowProc(former, button, message, wParam, lParam);
+            }))));
+    TestButton button;
+    button.SubclassWindow(window);
+    for (const UINT message :
+         {WM_MOUSEMOVE, WM_LBUTTONDOWN, WM_LBUTTONUP, WM_KEYDOWN, WM_KILLFOCUS}) {
+        CAPTURE(message);
+        for (const BOOL pressing : {FALSE, TRUE}) {
+            button.m_pressing = static_cast<BYTE>(pressing);
+            got.clear();
+            ::SendMessage(window, message, 0, MAKELPARAM(5, 5));
+            CHECK(std::count(got.begin(), got.end(), message) == 1);
+        }
+    }
+    button.UnsubclassWindow();
+    ::SetWindowLongPtr(window, GWLP_WNDPROC, reinterpret_cast<LONG_PTR>(former));
+}
+
 TEST_CASE("losing the focus while pressed releases the capture and ends the press")
 {
     Button button;
@@ -838,7 +869,7 @@ TEST_CASE("losing the focus while pressed releases the capture and ends the pres
     PressLeft();
     REQUIRE(::GetCapture() == button.control.m_hWnd);
     button.control.SendMessage(WM_KILLFOCUS, 0, 0);
-    CHECK(::GetCapture() == NULL);
+    CHECK(::GetCapture() == nullptr);
     CHECK_FALSE(button.control.m_pressing);
     ReleaseLeft();
     CHECK(button.host.m_clicks == 0);
@@ -1033,7 +1064,7 @@ TEST_CASE("a shade makes all six bitmaps for the button's size, a further one fo
     CHECK(button.control.m_dibDown.IsValid());
     CHECK(button.control.m_dibOver.IsValid());
     CHECK(button.control.m_dibDisabled.IsValid());
-    button.control.SetWindowPos(NULL, 0, 0, 9, 200, SWP_NOMOVE | SWP_NOZORDER);
+    button.control.SetWindowPos(nullptr, 0, 0, 9, 200, SWP_NOMOVE | SWP_NOZORDER);
     button.Shade();
     CHECK(button.control.m_dibNormal.GetWidth() == 9);
     CHECK(button.control.m_dibFocusH.GetWidth() == 1);
@@ -1044,7 +1075,7 @@ TEST_CASE("a tool tip gets its text, and another one while checked")
 {
     Button button(BS_AUTOCHECKBOX);
     REQUIRE(button.control.SetToolTipText("off", "on"));
-    REQUIRE(button.control.m_toolTip.m_hWnd != NULL);
+    REQUIRE(button.control.m_toolTip.m_hWnd != nullptr);
     const auto text = [&] {
         CString tip;
         button.control.m_toolTip.GetText(tip, &button.control);
@@ -1104,7 +1135,7 @@ TEST_CASE("a host may end the button in a relay, and the message goes no further
                               [&button] { button.control.DestroyWindow(); });
         button.control.m_passedOn.clear();
         button.control.SendMessage(message, 0, MAKELPARAM(7, 8));
-        CHECK(button.control.m_hWnd == NULL);
+        CHECK(button.control.m_hWnd == nullptr);
         CHECK(button.control.Find(message) == nullptr);
         CHECK_FALSE(button.control.m_hover);
         CHECK_FALSE(button.control.m_pressing);
@@ -1119,7 +1150,7 @@ TEST_CASE("a host may end the button in its click")
     MovePointer(button.control.m_hWnd);
     PressLeft();
     ReleaseLeft();
-    CHECK(button.control.m_hWnd == NULL);
+    CHECK(button.control.m_hWnd == nullptr);
     CHECK(button.host.m_clicks == 1);
 }
 

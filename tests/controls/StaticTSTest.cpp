@@ -44,9 +44,9 @@ TEST_CASE("a new label is plain: black centred text, no link, no picture, no col
     CHECK(label.m_crText == RGB(0, 0, 0));
     CHECK(label.m_crBack == 0xFFFFFFFF);
     CHECK(label.m_crTransparent == 0xFFFFFFFF);
-    CHECK(label.m_brBack.GetSafeHandle() == NULL);
-    CHECK(label.m_bmpPicture.GetSafeHandle() == NULL);
-    CHECK(label.m_bmpMask.GetSafeHandle() == NULL);
+    CHECK(label.m_brBack.GetSafeHandle() == nullptr);
+    CHECK(label.m_bmpPicture.GetSafeHandle() == nullptr);
+    CHECK(label.m_bmpMask.GetSafeHandle() == nullptr);
     CHECK(label.m_nTextFormat == 1);
     CHECK_FALSE(label.m_bLink);
     CHECK_FALSE(label.m_bUseLinkTarget);
@@ -249,7 +249,7 @@ TEST_CASE("setting the text colour repaints the parent under the label, without 
     Label label("Text");
     label.host.ModifyStyle(WS_CLIPCHILDREN, 0); // An erase would not reach what lies under it.
     label.host.Show();
-    REQUIRE_FALSE(label.host.GetUpdateRect(NULL));
+    REQUIRE_FALSE(label.host.GetUpdateRect(nullptr));
     label.control.SetLabelTextColor(red);
     CRect update;
     CHECK(label.host.GetUpdateRect(&update));
@@ -267,7 +267,7 @@ TEST_CASE("an opaque picture is copied unscaled into the label, with the text ov
     label.control.SetLabelTextColor(blue);
     CHECK(label.control.LoadPicture(path.c_str()) == TRUE);
     CHECK(label.control.m_bHasPicture);
-    CHECK(label.control.m_bmpMask.GetSafeHandle() == NULL);
+    CHECK(label.control.m_bmpMask.GetSafeHandle() == nullptr);
     const Picture shown = label.host.Show().Crop(labelPlace);
     CHECK(shown.Crop(CRect(0, 0, 30, 40)).CountOf(black) == 30 * 40);
     CHECK(shown.Crop(CRect(30, 0, 60, 40)).CountOf(red) == 30 * 40);
@@ -281,7 +281,7 @@ TEST_CASE("a keyed picture lets the parent show through its key colour")
     Label label("");
     label.control.SetTransparentColor(black);
     CHECK(label.control.LoadPicture(path.c_str()) == TRUE);
-    CHECK(label.control.m_bmpMask.GetSafeHandle() != NULL);
+    CHECK(label.control.m_bmpMask.GetSafeHandle() != nullptr);
     const Picture shown = label.host.Show().Crop(labelPlace);
     CHECK(shown.CountOf(red) == 24 * 30);
     CHECK(shown.Crop(CRect(0, 0, 24, 30)).CountOf(green) == 24 * 30);
@@ -343,8 +343,8 @@ TEST_CASE("colour requests are answered with the null brush, a solid one, or not
                                    reinterpret_cast<LPARAM>(label.control.m_hWnd)));
     };
     const HBRUSH parents = ask();
-    CHECK(label.control.m_brBack.GetSafeHandle() == NULL);
-    CHECK(parents != NULL);
+    CHECK(label.control.m_brBack.GetSafeHandle() == nullptr);
+    CHECK(parents != nullptr);
 
     label.control.SetBackColor(red);
     const HBRUSH solid = ask();
@@ -405,13 +405,13 @@ TEST_CASE(
     Label plain("Text");
     plain.host.Show();
     plain.Press();
-    CHECK(plain.host.GetUpdateRect(NULL));
+    CHECK(plain.host.GetUpdateRect(nullptr));
 
     Label empty("");
     empty.control.SetLink(TRUE);
     empty.host.Show();
     empty.Press();
-    CHECK(empty.host.GetUpdateRect(NULL));
+    CHECK(empty.host.GetUpdateRect(nullptr));
     CHECK(shell.Asked().empty());
 }
 
@@ -442,7 +442,7 @@ TEST_CASE("a control without SS_NOTIFY is transparent to the real pointer")
 TEST_CASE("the hand shows over a link with text; elsewhere the handler leaves the cursor alone")
 {
     REQUIRE(help.IsInstalled());
-    const HCURSOR cross = ::LoadCursor(NULL, IDC_CROSS);
+    const HCURSOR cross = ::LoadCursor(nullptr, IDC_CROSS);
     Label plain("Text");
     CHECK(plain.AskCursor() == FALSE);
     CHECK(::GetCursor() == cross);
@@ -456,7 +456,7 @@ TEST_CASE("the hand shows over a link with text; elsewhere the handler leaves th
     Label link("Text");
     link.control.SetLink(TRUE);
     CHECK(link.AskCursor() == TRUE);
-    REQUIRE(LoadHandCursor() != NULL);
+    REQUIRE(LoadHandCursor() != nullptr);
     CHECK(::GetCursor() == LoadHandCursor());
 }
 
@@ -543,7 +543,7 @@ TEST_CASE("a label whose creation the system refuses is not there, and is not mo
     LabelHost host;
     RefusedLabel label;
     CHECK_FALSE(label.Create("Text", WS_CHILD | WS_VISIBLE, CRect(11, 20, 111, 120), &host));
-    CHECK(label.GetSafeHwnd() == NULL);
+    CHECK(label.GetSafeHwnd() == nullptr);
     CHECK(label.m_moves == 0);
     int x, y, cx, cy;
     PixelsToDialogUnits(11, 20, 100, 100, &x, &y, &cx, &cy);

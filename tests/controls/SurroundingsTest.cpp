@@ -93,8 +93,8 @@ public:
     {
         m_brush.CreateSolidBrush(behind);
         CreateEx(WS_EX_TOPMOST | extendedStyle,
-                 AfxRegisterWndClass(0, ::LoadCursor(NULL, IDC_ARROW), m_brush), "",
-                 WS_POPUP | WS_VISIBLE, 40, 40, 200, 220, NULL, NULL);
+                 AfxRegisterWndClass(0, ::LoadCursor(nullptr, IDC_ARROW), m_brush), "",
+                 WS_POPUP | WS_VISIBLE, 40, 40, 200, 220, nullptr, nullptr);
         const bool own = surroundings == Surroundings::ownContexts;
         m_button.SubclassWindow(
             Add(own ? OwnContextClass("Button") : "Button", buttonPlace, WS_TABSTOP));
@@ -120,7 +120,8 @@ public:
 
     Picture Show()
     {
-        RedrawWindow(NULL, NULL, RDW_INVALIDATE | RDW_ERASE | RDW_UPDATENOW | RDW_ALLCHILDREN);
+        RedrawWindow(nullptr, nullptr,
+                     RDW_INVALIDATE | RDW_ERASE | RDW_UPDATENOW | RDW_ALLCHILDREN);
         PumpMessages();
         return Picture::OfWindow(m_hWnd);
     }
@@ -154,11 +155,11 @@ private:
     {
         static char name[64];
         WNDCLASSA description = {};
-        ::GetClassInfoA(NULL, system, &description);
+        ::GetClassInfoA(nullptr, system, &description);
         wsprintfA(name, "UmbraOwn%s", system);
         description.style = (description.style & ~CS_PARENTDC & ~CS_GLOBALCLASS) | CS_OWNDC;
         description.lpszClassName = name;
-        description.hInstance = ::GetModuleHandleA(NULL);
+        description.hInstance = ::GetModuleHandleA(nullptr);
         ::RegisterClassA(&description);
         return name;
     }
@@ -166,7 +167,7 @@ private:
     HWND Add(const char* className, const CRect& place, DWORD style)
     {
         return ::CreateWindowA(className, "", WS_CHILD | WS_VISIBLE | style, place.left, place.top,
-                               place.Width(), place.Height(), m_hWnd, NULL, NULL, NULL);
+                               place.Width(), place.Height(), m_hWnd, nullptr, nullptr, nullptr);
     }
 
     const Surroundings m_surroundings;
@@ -293,7 +294,7 @@ TEST_CASE("on a right-to-left page a button's caption reads as on any other")
         const Picture shown = pages[i]->Show();
         CRect place;
         button.GetWindowRect(&place);
-        ::MapWindowPoints(NULL, pages[i]->m_hWnd, reinterpret_cast<POINT*>(&place), 2);
+        ::MapWindowPoints(nullptr, pages[i]->m_hWnd, reinterpret_cast<POINT*>(&place), 2);
         if (i == 1)
             place.SetRect(shown.Width() - place.right, place.top, shown.Width() - place.left,
                           place.bottom);

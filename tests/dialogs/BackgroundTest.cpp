@@ -49,7 +49,7 @@ class BackgroundDialog : public CDialogTS
 public:
     explicit BackgroundDialog(DWORD extendedStyle = 0) : CDialogTS(1)
     {
-        CreateIndirect(const_cast<DLGTEMPLATE*>(BareTemplate(extendedStyle).Get()), NULL);
+        CreateIndirect(const_cast<DLGTEMPLATE*>(BareTemplate(extendedStyle).Get()), nullptr);
         SetWindowPos(&wndTopMost, 30, 30, width, height, SWP_SHOWWINDOW);
     }
     ~BackgroundDialog() override { DestroyWindow(); }
@@ -81,7 +81,7 @@ TEST_CASE("a background shows at once, and another one in its place")
         CHECK(dialog.Show().At(10, 10) == blue);
         dialog.SetBackground(second);
         CHECK(dialog.Show().At(10, 10) == blue);
-        dialog.SetBackground(NULL);
+        dialog.SetBackground(nullptr);
         CHECK(dialog.Show().At(10, 10) == ::GetSysColor(COLOR_BTNFACE));
         CHECK_FALSE(dialog.m_bHasBitmap);
         dialog.SetBackground(first);
@@ -111,7 +111,7 @@ TEST_CASE("a shape shows its image through the mask, and a bitmap or nothing aft
         dialog.SetBackground(plain);
         CHECK_FALSE(dialog.m_bShaped);
         CHECK(dialog.Show().CountOf(blue) == width * height);
-        dialog.SetBackground(NULL, mask);
+        dialog.SetBackground(nullptr, mask);
         CHECK_FALSE(dialog.m_bShaped);
     }
     CHECK(IsAlive(image));
@@ -127,7 +127,7 @@ TEST_CASE(
         CDialogTS dialog(1);
         for (int life = 0; life < 3; ++life) {
             dialog.SetBackground(image);
-            dialog.CreateIndirect(const_cast<DLGTEMPLATE*>(BareTemplate().Get()), NULL);
+            dialog.CreateIndirect(const_cast<DLGTEMPLATE*>(BareTemplate().Get()), nullptr);
             dialog.SetWindowPos(&CWnd::wndTopMost, 30, 30, width, height, SWP_SHOWWINDOW);
             dialog.UpdateWindow();
             CHECK(Picture::OfWindow(dialog).At(10, 10) == red);
@@ -156,13 +156,13 @@ TEST_CASE("on a right-to-left dialog the background begins at the right and is n
 {
     const HBITMAP image = MakeHalves(red, blue);
     BackgroundDialog dialog(WS_EX_LAYOUTRTL);
-    dialog.SetWindowPos(NULL, 0, 0, width + 50, height, SWP_NOMOVE | SWP_NOZORDER);
+    dialog.SetWindowPos(nullptr, 0, 0, width + 50, height, SWP_NOMOVE | SWP_NOZORDER);
     dialog.SetBackground(image);
     const Picture shown = dialog.Show();
     CHECK(shown.At(50 + 10, 10) == red);
     CHECK(shown.At(width + 50 - 10, 10) == blue);
     CHECK(shown.At(10, 10) != red);
-    dialog.SetBackground(NULL);
+    dialog.SetBackground(nullptr);
     ::DeleteObject(image);
 }
 
@@ -172,8 +172,8 @@ TEST_CASE("on a right-to-left page the strip stands at the right and is not mirr
     const auto show = [](DWORD extendedStyle) {
         DialogTemplate source(10, 10, 300, 230, WS_POPUP, "", extendedStyle);
         source.Button(IDCANCEL, "", 200, 145, 60, 18);
-        CBaseDialog dialog(1, NULL, false, false, true, false, false, false, false, false);
-        dialog.CreateIndirect(const_cast<DLGTEMPLATE*>(source.Get()), NULL);
+        CBaseDialog dialog(1, nullptr, false, false, true, false, false, false, false, false);
+        dialog.CreateIndirect(const_cast<DLGTEMPLATE*>(source.Get()), nullptr);
         dialog.SetWindowPos(&CWnd::wndTopMost, 30, 30, 0, 0, SWP_NOSIZE | SWP_SHOWWINDOW);
         dialog.UpdateWindow();
         PumpMessages();
@@ -195,10 +195,10 @@ TEST_CASE("a page prints as it shows: its background and its strip")
     const DialogTemplate source(10, 10, 300, 230, WS_POPUP, "");
     DialogTemplate page = source;
     page.Button(IDCANCEL, "", 200, 145, 60, 18);
-    CBaseDialog dialog(1, NULL, false, false, true, false, false, false, false, false);
+    CBaseDialog dialog(1, nullptr, false, false, true, false, false, false, false, false);
     dialog.m_bSolidFill = TRUE;
     dialog.m_crFill = RGB(7, 99, 250);
-    dialog.CreateIndirect(const_cast<DLGTEMPLATE*>(page.Get()), NULL);
+    dialog.CreateIndirect(const_cast<DLGTEMPLATE*>(page.Get()), nullptr);
     dialog.GetDlgItem(IDCANCEL)->ShowWindow(SW_HIDE);
     dialog.SetWindowPos(&CWnd::wndTopMost, 30, 30, 0, 0, SWP_NOSIZE | SWP_SHOWWINDOW);
     dialog.UpdateWindow();
@@ -216,7 +216,7 @@ TEST_CASE("an image folder whose last character ends in the byte of a backslash 
     class Page : public CBaseDialog
     {
     public:
-        Page() : CBaseDialog(1, NULL, false, false, true, false, false, false, false, false) {}
+        Page() : CBaseDialog(1, nullptr, false, false, true, false, false, false, false, false) {}
         using CBaseDialog::m_strImageDir;
     };
     const int codePage = _getmbcp();
@@ -225,12 +225,12 @@ TEST_CASE("an image folder whose last character ends in the byte of a backslash 
     g_strImageDir = folder;
     DialogTemplate source = MakePageTemplate(false, false);
     Page page;
-    page.CreateIndirect(const_cast<DLGTEMPLATE*>(source.Get()), NULL);
+    page.CreateIndirect(const_cast<DLGTEMPLATE*>(source.Get()), nullptr);
     CHECK(page.m_strImageDir == folder + "\\");
     page.DestroyWindow();
 
     g_strImageDir = folder + "\\";
-    page.CreateIndirect(const_cast<DLGTEMPLATE*>(source.Get()), NULL);
+    page.CreateIndirect(const_cast<DLGTEMPLATE*>(source.Get()), nullptr);
     CHECK(page.m_strImageDir == folder + "\\");
     page.DestroyWindow();
     _setmbcp(codePage);

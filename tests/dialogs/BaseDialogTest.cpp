@@ -71,7 +71,7 @@ class TestPage : public CBaseDialog
 {
 public:
     explicit TestPage(const Flags& flags)
-        : CBaseDialog(0, NULL, flags.confirm, flags.ok, flags.cancel, flags.next, flags.back,
+        : CBaseDialog(0, nullptr, flags.confirm, flags.ok, flags.cancel, flags.next, flags.back,
                       flags.closeCaption, flags.proceedCaption, flags.cancelIcon)
     {
     }
@@ -143,10 +143,10 @@ ExpectedButton ExpectBack(const Flags& flags)
 bool ShowsIcon(const CxShadeButton& button, const std::string& name)
 {
     const HBITMAP shown = ButtonProbe::Picture(button);
-    if (name.empty() || shown == NULL)
-        return name.empty() && shown == NULL;
+    if (name.empty() || shown == nullptr)
+        return name.empty() && shown == nullptr;
     const HBITMAP file = LoadPictureBitmap(ImagePath((name + ".gif").c_str()).c_str());
-    if (file == NULL)
+    if (file == nullptr)
         return false;
     const bool same = Picture::OfBitmap(shown) == Picture::OfBitmap(file);
     ::DeleteObject(file);
@@ -172,8 +172,8 @@ bool IsTinted(const CxShadeButton& button)
 void CheckButton(const CxShadeButton& button, const ExpectedButton& expected,
                  const char* templateCaption)
 {
-    CHECK((button.m_hWnd != NULL) == expected.bound);
-    if (button.m_hWnd == NULL)
+    CHECK((button.m_hWnd != nullptr) == expected.bound);
+    if (button.m_hWnd == nullptr)
         return;
     CString caption;
     button.GetWindowText(caption);
@@ -272,8 +272,8 @@ TEST_CASE("a template that lacks a bound control fails in the exchange")
     const DialogTemplate source = MakePageTemplate(true, false);
     NextDialog noMessage([](HWND box) { ::EndDialog(box, IDOK); });
     dialog.CreateIndirect(source.Get());
-    CHECK(dialog.m_btnBack.m_hWnd == NULL);
-    if (dialog.m_hWnd != NULL)
+    CHECK(dialog.m_btnBack.m_hWnd == nullptr);
+    if (dialog.m_hWnd != nullptr)
         dialog.DestroyWindow();
 }
 
@@ -311,7 +311,7 @@ TEST_CASE("a page whose exchange fails is set up all the same, and answers TRUE"
     CHECK(std::string(dialog.m_strImageDir) == ProgramFolder() + "\\");
     CHECK(dialog.m_caption == "Cancel");
     CHECK(dialog.m_isTinted);
-    if (dialog.m_hWnd != NULL)
+    if (dialog.m_hWnd != nullptr)
         dialog.DestroyWindow();
 }
 
@@ -321,9 +321,9 @@ TEST_CASE("with all flags off the template's captions stay, without shade or ico
     TestPage dialog{Flags()};
     const Page page(dialog, MakePageTemplate());
     REQUIRE(page.IsOpen());
-    CHECK(dialog.m_btnCancel.m_hWnd != NULL);
-    CHECK(dialog.m_btnOk.m_hWnd == NULL);
-    CHECK(dialog.m_btnBack.m_hWnd == NULL);
+    CHECK(dialog.m_btnCancel.m_hWnd != nullptr);
+    CHECK(dialog.m_btnOk.m_hWnd == nullptr);
+    CHECK(dialog.m_btnBack.m_hWnd == nullptr);
     CHECK(page.Text(IDCANCEL) == "template cancel");
     CHECK(page.Text(IDOK) == "template ok");
     CHECK_FALSE(ButtonProbe::Face(dialog.m_btnCancel).IsValid());
@@ -349,9 +349,9 @@ TEST_CASE("missing images leave the buttons without icons and the picture empty"
     TestPage dialog(flags);
     const Page page(dialog, MakePageTemplate());
     REQUIRE(page.IsOpen());
-    CHECK(ButtonProbe::Picture(dialog.m_btnOk) == NULL);
-    CHECK(ButtonProbe::Picture(dialog.m_btnCancel) == NULL);
-    CHECK(ButtonProbe::Picture(dialog.m_btnBack) == NULL);
+    CHECK(ButtonProbe::Picture(dialog.m_btnOk) == nullptr);
+    CHECK(ButtonProbe::Picture(dialog.m_btnCancel) == nullptr);
+    CHECK(ButtonProbe::Picture(dialog.m_btnBack) == nullptr);
     CHECK(IsTinted(dialog.m_btnOk));
     dialog.ShowPicture(IDS_IMAGE_INFO);
     CHECK_FALSE(dialog.m_picture.m_bHasPicture);
@@ -411,11 +411,11 @@ TEST_CASE("the page shows through the black of a picture, the first and each fur
     for (const UINT id : {IDS_IMAGE_INFO, IDS_IMAGE_ERROR}) {
         CAPTURE(id);
         dialog.ShowPicture(id);
-        CHECK(dialog.m_picture.m_bmpMask.GetSafeHandle() != NULL);
+        CHECK(dialog.m_picture.m_bmpMask.GetSafeHandle() != nullptr);
         CRect place;
         dialog.m_picture.GetWindowRect(&place);
         dialog.ScreenToClient(&place);
-        dialog.RedrawWindow(NULL, NULL, RDW_INVALIDATE | RDW_ERASE | RDW_ALLCHILDREN);
+        dialog.RedrawWindow(nullptr, nullptr, RDW_INVALIDATE | RDW_ERASE | RDW_ALLCHILDREN);
         const Picture shown = page.Show().Crop(place);
         CHECK_FALSE(shown.Contains(RGB(0, 0, 0)));
         CHECK(shown.Contains(::GetSysColor(COLOR_BTNFACE)));

@@ -22,7 +22,7 @@ namespace {
 class TestModeless : public CModellessDlg
 {
 public:
-    TestModeless() : CModellessDlg(NULL) {}
+    TestModeless() : CModellessDlg(nullptr) {}
     using CModellessDlg::m_btnBack;
     using CModellessDlg::m_btnCancel;
     using CModellessDlg::m_btnOk;
@@ -59,18 +59,18 @@ public:
     {
         g_pModelessDlg->DestroyWindow();
         delete g_pModelessDlg;
-        g_pModelessDlg = NULL;
+        g_pModelessDlg = nullptr;
         AfxGetApp()->EndWaitCursor();
     }
 
     static void Show()
     {
-        if (g_pModelessDlg != NULL)
+        if (g_pModelessDlg != nullptr)
             return;
         g_pModelessDlg = new TestModeless;
-        g_pModelessDlg->Create(CModellessDlg::IDD, NULL);
+        g_pModelessDlg->Create(CModellessDlg::IDD, nullptr);
         g_pModelessDlg->ShowWindow(SW_SHOW);
-        g_pModelessDlg->InvalidateRect(NULL, TRUE);
+        g_pModelessDlg->InvalidateRect(nullptr, TRUE);
         g_pModelessDlg->PumpMessages();
     }
 
@@ -84,7 +84,7 @@ public:
     explicit Unshown(const char* folder)
     {
         g_strImageDir = folder;
-        REQUIRE(m_dialog.Create(CModellessDlg::IDD, NULL));
+        REQUIRE(m_dialog.Create(CModellessDlg::IDD, nullptr));
     }
     ~Unshown()
     {
@@ -123,7 +123,10 @@ class Listener : public CWnd
 public:
     std::vector<UINT> m_seen;
 
-    Listener() { CreateEx(0, AfxRegisterWndClass(0), "", WS_POPUP, 0, 0, 10, 10, NULL, NULL); }
+    Listener()
+    {
+        CreateEx(0, AfxRegisterWndClass(0), "", WS_POPUP, 0, 0, 10, 10, nullptr, nullptr);
+    }
     ~Listener() override { DestroyWindow(); }
 
 protected:
@@ -149,11 +152,11 @@ bool Contains(const std::vector<UINT>& messages, UINT message)
 TEST_CASE("the modeless page has one button, disabled, captioned Cancel")
 {
     const Shown dialog;
-    REQUIRE(dialog->m_hWnd != NULL);
+    REQUIRE(dialog->m_hWnd != nullptr);
     CHECK(dialog->IsWindowVisible());
-    CHECK(dialog->m_btnCancel.m_hWnd != NULL);
-    CHECK(dialog->m_btnOk.m_hWnd == NULL);
-    CHECK(dialog->m_btnBack.m_hWnd == NULL);
+    CHECK(dialog->m_btnCancel.m_hWnd != nullptr);
+    CHECK(dialog->m_btnOk.m_hWnd == nullptr);
+    CHECK(dialog->m_btnBack.m_hWnd == nullptr);
     CString caption;
     dialog->m_btnCancel.GetWindowText(caption);
     CHECK(caption == "Cancel");
@@ -165,7 +168,7 @@ TEST_CASE("its labels are blue, and one carries the information icon with black 
     const Shown dialog;
     for (const CHyperLink* label :
          {&dialog->m_icon, &dialog->m_title, &dialog->m_detail, &dialog->m_hint}) {
-        CHECK(label->m_hWnd != NULL);
+        CHECK(label->m_hWnd != nullptr);
         CHECK(LabelProbe::TextColor(*label) == 0x00FF0000);
     }
     CHECK(LabelProbe::Key(dialog->m_icon) == 0);
@@ -186,8 +189,8 @@ TEST_CASE("its picture is shown, and the working directory is the one it was")
 TEST_CASE("the first pump has painted the window before the host goes on")
 {
     const Shown dialog;
-    CHECK_FALSE(dialog->GetUpdateRect(NULL));
-    CHECK_FALSE(dialog->m_btnCancel.GetUpdateRect(NULL));
+    CHECK_FALSE(dialog->GetUpdateRect(nullptr));
+    CHECK_FALSE(dialog->m_btnCancel.GetUpdateRect(nullptr));
 }
 
 TEST_CASE("missing images leave the labels without pictures")
@@ -201,18 +204,18 @@ TEST_CASE("pumping an empty queue returns at once and only restores the wait cur
 {
     const Shown dialog;
     dialog->PumpMessages();
-    ::SetCursor(::LoadCursor(NULL, IDC_ARROW));
+    ::SetCursor(::LoadCursor(nullptr, IDC_ARROW));
     dialog->PumpMessages();
-    CHECK(::GetCursor() == ::LoadCursor(NULL, IDC_WAIT));
+    CHECK(::GetCursor() == ::LoadCursor(nullptr, IDC_WAIT));
 }
 
 TEST_CASE("the wait cursor shows from construction on, counted once")
 {
-    ::SetCursor(::LoadCursor(NULL, IDC_ARROW));
+    ::SetCursor(::LoadCursor(nullptr, IDC_ARROW));
     TestModeless dialog;
-    CHECK(::GetCursor() == ::LoadCursor(NULL, IDC_WAIT));
+    CHECK(::GetCursor() == ::LoadCursor(nullptr, IDC_WAIT));
     AfxGetApp()->EndWaitCursor();
-    CHECK(::GetCursor() == ::LoadCursor(NULL, IDC_ARROW));
+    CHECK(::GetCursor() == ::LoadCursor(nullptr, IDC_ARROW));
 }
 
 TEST_CASE("a second show request creates, shows and pumps nothing")
@@ -298,19 +301,19 @@ TEST_CASE("a pump takes WM_QUIT like any other message and does not end the prog
     dialog->PumpMessages();
     CHECK(Contains(listener.m_seen, WM_APP + 2));
     MSG message;
-    CHECK_FALSE(::PeekMessage(&message, NULL, WM_QUIT, WM_QUIT, PM_REMOVE));
+    CHECK_FALSE(::PeekMessage(&message, nullptr, WM_QUIT, WM_QUIT, PM_REMOVE));
 }
 
 TEST_CASE("a pump works on behind WM_QUIT, which waiting paints come after")
 {
     const Shown dialog;
-    dialog->InvalidateRect(NULL, TRUE);
-    REQUIRE(dialog->GetUpdateRect(NULL));
+    dialog->InvalidateRect(nullptr, TRUE);
+    REQUIRE(dialog->GetUpdateRect(nullptr));
     ::PostQuitMessage(5);
     dialog->PumpMessages();
-    CHECK_FALSE(dialog->GetUpdateRect(NULL));
+    CHECK_FALSE(dialog->GetUpdateRect(nullptr));
     MSG message;
-    CHECK_FALSE(::PeekMessage(&message, NULL, WM_QUIT, WM_QUIT, PM_REMOVE));
+    CHECK_FALSE(::PeekMessage(&message, nullptr, WM_QUIT, WM_QUIT, PM_REMOVE));
 }
 
 TEST_CASE("a pump works off the thread's own messages, one posted as WM_QUIT among them")
@@ -323,7 +326,7 @@ TEST_CASE("a pump works off the thread's own messages, one posted as WM_QUIT amo
     dialog->PumpMessages();
     CHECK(Contains(listener.m_seen, WM_APP + 2));
     MSG message;
-    CHECK_FALSE(::PeekMessage(&message, NULL, WM_APP + 5, WM_APP + 5, PM_NOREMOVE));
+    CHECK_FALSE(::PeekMessage(&message, nullptr, WM_APP + 5, WM_APP + 5, PM_NOREMOVE));
 }
 
 TEST_CASE("the pictures are found in an image folder beyond ASCII")
@@ -341,8 +344,11 @@ TEST_CASE("a handler that runs inside a pump may end the window")
     class Ender : public CWnd
     {
     public:
-        CModellessDlg* m_victim = NULL;
-        Ender() { CreateEx(0, AfxRegisterWndClass(0), "", WS_POPUP, 0, 0, 10, 10, NULL, NULL); }
+        CModellessDlg* m_victim = nullptr;
+        Ender()
+        {
+            CreateEx(0, AfxRegisterWndClass(0), "", WS_POPUP, 0, 0, 10, 10, nullptr, nullptr);
+        }
         ~Ender() override { DestroyWindow(); }
 
     protected:
@@ -351,19 +357,19 @@ TEST_CASE("a handler that runs inside a pump may end the window")
             if (message == WM_APP + 3) {
                 m_victim->DestroyWindow();
                 delete m_victim;
-                g_pModelessDlg = NULL;
+                g_pModelessDlg = nullptr;
             }
             return CWnd::WindowProc(message, wParam, lParam);
         }
     };
     Shown::Show();
-    REQUIRE(g_pModelessDlg != NULL);
+    REQUIRE(g_pModelessDlg != nullptr);
     Ender ender;
     ender.m_victim = g_pModelessDlg;
     ender.PostMessage(WM_APP + 3);
     ender.PostMessage(WM_APP + 4);
     g_pModelessDlg->PumpMessages();
-    CHECK(g_pModelessDlg == NULL);
+    CHECK(g_pModelessDlg == nullptr);
     AfxGetApp()->EndWaitCursor();
 }
 
@@ -379,7 +385,7 @@ TEST_CASE("a host enables Cancel, and a real click reaches it while it pumps")
     };
     g_strImageDir = ProgramFolder().c_str();
     Cancellable dialog;
-    REQUIRE(dialog.Create(CModellessDlg::IDD, NULL));
+    REQUIRE(dialog.Create(CModellessDlg::IDD, nullptr));
     dialog.ShowWindow(SW_SHOW);
     dialog.m_btnCancel.EnableWindow(TRUE);
     dialog.PumpMessages();

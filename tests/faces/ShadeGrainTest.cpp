@@ -11,7 +11,7 @@
 
 namespace {
 
-constexpr std::uint8_t kUntouched = 0xA5;
+constexpr std::uint8_t untouched = 0xA5;
 
 /// One set of inner loops.
 struct NamedKernels
@@ -32,14 +32,14 @@ std::vector<NamedKernels> KernelsHere()
 /// The width that row buffers have.
 int RoundUp(int width)
 {
-    return (width + kGrainBlock - 1) / kGrainBlock * kGrainBlock;
+    return (width + grainBlock - 1) / grainBlock * grainBlock;
 }
 
 /// A job with all that it points at, over a few unlike bytes.
 struct Grain
 {
     Grain(int width, int rows, int divisor, std::uint32_t state, std::uint64_t lineSteps)
-        : stride(width + 5), pixels(static_cast<std::size_t>(stride) * rows, kUntouched),
+        : stride(width + 5), pixels(static_cast<std::size_t>(stride) * rows, untouched),
           base(RoundUp(width)), add(rows)
     {
         for (std::size_t i = 0; i < base.size(); ++i)
@@ -54,7 +54,7 @@ struct Grain
                add.data(),
                DividerOf(divisor),
                state,
-               LeapOf(lineSteps)};
+               JumpAhead(lineSteps)};
     }
 
     std::uint8_t Expect(int row, int x, int number, int divisor) const
@@ -69,7 +69,7 @@ struct Grain
             for (int x = 0; x < stride; ++x) {
                 const std::uint8_t expected =
                     x < job.width ? planned[static_cast<std::size_t>(r) * job.width + x]
-                                  : kUntouched;
+                                  : untouched;
                 if (pixels[static_cast<std::size_t>(r) * stride + x] != expected)
                     return "pixel " + std::to_string(x) + " of row " + std::to_string(r);
             }
@@ -84,7 +84,7 @@ struct Grain
     GrainJob job;
 };
 
-const std::vector<int> kWidths = {1, 3, 15, 16, 17, 31, 32, 33, 63, 64, 65, 120};
+const std::vector<int> widths = {1, 3, 15, 16, 17, 31, 32, 33, 63, 64, 65, 120};
 
 } // namespace
 
@@ -122,7 +122,7 @@ TEST_CASE("grain along the rows takes the numbers pixel by pixel, row after row"
 {
     const int divisor = 163, rows = 5;
     for (const NamedKernels& set : KernelsHere()) {
-        for (const int width : kWidths) {
+        for (const int width : widths) {
             CAPTURE(set.name);
             CAPTURE(width);
             Grain grain(width, rows, divisor, 12345, static_cast<std::uint64_t>(width));
@@ -142,7 +142,7 @@ TEST_CASE("grain along the columns takes the numbers column after column")
 {
     const int divisor = 71;
     for (const NamedKernels& set : KernelsHere()) {
-        for (const int width : kWidths) {
+        for (const int width : widths) {
             for (const int rows : {1, 16, 17, 40}) { // Bands are 16 rows high.
                 CAPTURE(set.name);
                 CAPTURE(width);
@@ -167,7 +167,7 @@ TEST_CASE("a row of crossing bumps is the sum of both slopes around the middle, 
 {
     const std::uint8_t low = 100, high = 150;
     for (const NamedKernels& set : KernelsHere()) {
-        for (const int width : kWidths) {
+        for (const int width : widths) {
             for (const int row : {-16000, -129, -1, 0, 127, 128, 16000}) {
                 CAPTURE(set.name);
                 CAPTURE(width);
@@ -176,7 +176,7 @@ TEST_CASE("a row of crossing bumps is the sum of both slopes around the middle, 
                 for (std::size_t i = 0; i < columns.size(); ++i)
                     columns[i] =
                         static_cast<std::int16_t>(static_cast<int>(i) * 517 % 32000 - 16000);
-                std::vector<std::uint8_t> bits(columns.size(), kUntouched);
+                std::vector<std::uint8_t> bits(columns.size(), untouched);
                 set.kernels.crossBump({bits.data(), width, columns.data(),
                                        static_cast<std::int16_t>(row), low, high});
                 int wrong = -1;

@@ -247,9 +247,9 @@ TEST_CASE("the second half of a scratch starts at the mirrored column")
         // The last scratch: none is drawn over it.
         ShadeRandom random(state);
         random.Skip(4 * 199);
-        const int x = random.Next() / (ShadeRandom::kMax / width);
-        const int y = random.Next() / (ShadeRandom::kMax / height);
-        const int half = random.Next() / (ShadeRandom::kMax / height) / 2;
+        const int x = random.Next() / (ShadeRandom::largest / width);
+        const int y = random.Next() / (ShadeRandom::largest / height);
+        const int half = random.Next() / (ShadeRandom::largest / height) / 2;
         const int index = random.Next() / 819;
         const auto pixels = FillPixels(width, height, SHADE_SCRATCHED, 0, state);
         for (int i = 0; i < half && x + i < width && y - i > 0; ++i) {

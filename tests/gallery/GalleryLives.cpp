@@ -54,7 +54,7 @@ bool IsOfClass(HWND window, const char* className)
 std::vector<HWND> ControlsOf(HWND page)
 {
     std::vector<HWND> controls;
-    for (HWND child = ::GetWindow(page, GW_CHILD); child != NULL;
+    for (HWND child = ::GetWindow(page, GW_CHILD); child != nullptr;
          child = ::GetWindow(child, GW_HWNDNEXT)) {
         const bool drawsItself = IsOfClass(child, "Button") || IsOfClass(child, "Static");
         if (drawsItself && ::IsWindowVisible(child))
@@ -122,7 +122,7 @@ void RunBackgrounds()
             for (const CSampleDialog::Kind kind : {CSampleDialog::plain, CSampleDialog::solidFill,
                                                    CSampleDialog::bitmap, CSampleDialog::shaped}) {
                 const HWND sample = page.Sample(kind).GetSafeHwnd(); // Opened by its button.
-                if (sample == NULL)
+                if (sample == nullptr)
                     continue;
                 Use(sample);
                 Press(sample, IDCANCEL);

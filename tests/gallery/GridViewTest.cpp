@@ -22,7 +22,7 @@ bool Paints(CSize extent)
         return false;
     view.Show(someRectangle, CRect(), RGB(200, 100, 0), extent);
     Stage::Paint(window);
-    const bool painted = !::GetUpdateRect(window, NULL, FALSE);
+    const bool painted = !::GetUpdateRect(window, nullptr, FALSE);
     stage.Close();
     return painted;
 }

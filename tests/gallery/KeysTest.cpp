@@ -36,16 +36,16 @@ std::string ClassOf(HWND window)
 TEST_CASE("an arrow key never takes the focus from a control to a label")
 {
     std::vector<UINT> templates;
-    ::EnumResourceNamesA(NULL, RT_DIALOG, Remember, reinterpret_cast<LONG_PTR>(&templates));
+    ::EnumResourceNamesA(nullptr, RT_DIALOG, Remember, reinterpret_cast<LONG_PTR>(&templates));
     REQUIRE(templates.size() > 10);
     for (const UINT id : templates) {
         CAPTURE(id);
-        const HWND page = ::CreateDialogParamA(::GetModuleHandleA(NULL), MAKEINTRESOURCEA(id), NULL,
-                                               TakeNothing, 0);
-        REQUIRE(page != NULL);
+        const HWND page = ::CreateDialogParamA(::GetModuleHandleA(nullptr), MAKEINTRESOURCEA(id),
+                                               nullptr, TakeNothing, 0);
+        REQUIRE(page != nullptr);
         ::ShowWindow(page, SW_SHOW);
         int stops = 0;
-        for (HWND control = ::GetTopWindow(page); control != NULL;
+        for (HWND control = ::GetTopWindow(page); control != nullptr;
              control = ::GetWindow(control, GW_HWNDNEXT)) {
             if ((::GetWindowLongA(control, GWL_STYLE) & WS_TABSTOP) == 0)
                 continue;

@@ -10,7 +10,7 @@ int main(int argc, char** argv)
     // Volatile all over, so that the compiler writes what no correct program would read.
     volatile size_t size = 400;
     volatile char* volatile block = static_cast<char*>(malloc(size));
-    if (block == NULL)
+    if (block == nullptr)
         return EXIT_FAILURE;
     if (strcmp(way, "past") == 0)
         block[size] = 1;

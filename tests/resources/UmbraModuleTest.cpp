@@ -46,16 +46,16 @@ TEST_CASE("the toolkit's resources are searched once while it is loaded, and not
 {
     const ImportHook searches(FindModule("umbra-mfc.dll"), "kernel32", "FindResourceA", NoteModule);
     REQUIRE(searches.IsInstalled());
-    REQUIRE(FindModule("umbra.dll") == NULL);
+    REQUIRE(FindModule("umbra.dll") == nullptr);
     CHECK(FindStrip() == AfxGetResourceHandle());
     for (int round = 0; round < 3; ++round) {
         CAPTURE(round);
         const HMODULE toolkit = ::LoadLibraryA(ProgramPath("umbra.dll").c_str());
-        REQUIRE(toolkit != NULL);
+        REQUIRE(toolkit != nullptr);
         CHECK(FindStrip() == toolkit);
         CHECK(CountSearches(toolkit) == 1);
         ::FreeLibrary(toolkit);
-        const bool isGone = FindModule("umbra.dll") == NULL;
+        const bool isGone = FindModule("umbra.dll") == nullptr;
         CHECK(CountSearches(toolkit) == (isGone ? 0 : 1));
         CHECK(FindStrip() == (isGone ? AfxGetResourceHandle() : toolkit));
     }

@@ -55,7 +55,7 @@ struct Progress
 bool LoadAlone(const CString& path)
 {
     const HBITMAP bitmap = LoadPictureBitmap(path);
-    if (bitmap == NULL)
+    if (bitmap == nullptr)
         return false;
     BITMAP record = {};
     const bool isBitmap = ::GetObject(bitmap, sizeof(record), &record) != 0 && record.bmWidth > 0;
@@ -78,7 +78,7 @@ bool LoadIntoButton(const CString& path)
     button.SetPicture(path, CxShadeButton::alignLeft, 19, 19, RGB(0, 0, 0));
     stage.Show();
     stage.Close();
-    return button.m_hBitmap != NULL;
+    return button.m_hBitmap != nullptr;
 }
 
 /// Labels leave their pictures behind; these are deleted here.

@@ -16,25 +16,25 @@ class EndingHost : public CWnd
 public:
     EndingHost()
     {
-        CreateEx(WS_EX_TOPMOST, AfxRegisterWndClass(0, ::LoadCursor(NULL, IDC_ARROW)), "",
-                 WS_POPUP | WS_VISIBLE, 50, 50, 300, 200, NULL, NULL);
+        CreateEx(WS_EX_TOPMOST, AfxRegisterWndClass(0, ::LoadCursor(nullptr, IDC_ARROW)), "",
+                 WS_POPUP | WS_VISIBLE, 50, 50, 300, 200, nullptr, nullptr);
     }
     ~EndingHost() override { DestroyWindow(); }
 
     HWND Add(const char* className, DWORD style)
     {
         return ::CreateWindow(className, "a text", WS_CHILD | WS_VISIBLE | style, 10, 10, 100, 40,
-                              m_hWnd, reinterpret_cast<HMENU>(100), NULL, NULL);
+                              m_hWnd, reinterpret_cast<HMENU>(100), nullptr, nullptr);
     }
 
     /// Destroys the window, then the object, and fills its memory.
     template <class Control>
     static void End(Control*& control)
     {
-        if (control == NULL)
+        if (control == nullptr)
             return;
         Control* const ended = control;
-        control = NULL;
+        control = nullptr;
         ended->DestroyWindow();
         ended->~Control();
         memset(static_cast<void*>(ended), filling, sizeof(Control));
@@ -54,14 +54,14 @@ public:
 
     UINT m_endOn = 0;   ///< The message that ends the button.
     UINT m_endCode = 0; ///< Of WM_NOTIFY.
-    HastyButton* m_button = NULL;
+    HastyButton* m_button = nullptr;
 
 protected:
     LRESULT WindowProc(UINT message, WPARAM wParam, LPARAM lParam) override
     {
         const bool isCode =
             message != WM_NOTIFY || reinterpret_cast<NMHDR*>(lParam)->code == m_endCode;
-        if (m_button != NULL && message == m_endOn && isCode) {
+        if (m_button != nullptr && message == m_endOn && isCode) {
             End(m_button);
             return 0;
         }
@@ -107,7 +107,7 @@ TEST_CASE("a link label may be ended while the shell opens its target")
     link.Get()->SetURL("http://example.invalid/");
     FakeShell::WhileOpening() = [&] { EndingHost::End(link.Get()); };
     ::SendMessage(link.Get()->m_hWnd, WM_LBUTTONDOWN, MK_LBUTTON, 0);
-    CHECK(link.Get() == NULL);
+    CHECK(link.Get() == nullptr);
     CHECK(link.IsUntouched());
 }
 
@@ -122,7 +122,7 @@ TEST_CASE("a transparent label may be ended while the shell opens its target")
     label.Get()->SetLink(TRUE);
     FakeShell::WhileOpening() = [&] { EndingHost::End(label.Get()); };
     ::SendMessage(label.Get()->m_hWnd, WM_LBUTTONDOWN, MK_LBUTTON, 0);
-    CHECK(label.Get() == NULL);
+    CHECK(label.Get() == nullptr);
     CHECK(label.IsUntouched());
 }
 
@@ -140,7 +140,7 @@ TEST_CASE("a shaded button may be ended by the repaint that dragging out of it b
     host.m_endOn = 0;
     ReleaseLeft();
     CHECK_FALSE(::IsWindow(window));
-    CHECK(host.m_button == NULL);
+    CHECK(host.m_button == nullptr);
     CHECK(button.IsUntouched());
     MovePointerAway();
 }
@@ -156,10 +156,10 @@ TEST_CASE("a shaded button may be ended when its tool tip comes or goes")
         host.m_endOn = WM_NOTIFY;
         host.m_endCode = code;
         REQUIRE(MovePointer(window, {20, 20}));
-        WaitUntil([&] { return host.m_button == NULL || button.Get()->IsToolTipShown(); });
-        if (host.m_button != NULL)
+        WaitUntil([&] { return host.m_button == nullptr || button.Get()->IsToolTipShown(); });
+        if (host.m_button != nullptr)
             ::SendMessage(window, BM_SETCHECK, TRUE, 0); // Pops it.
-        CHECK(host.m_button == NULL);
+        CHECK(host.m_button == nullptr);
         CHECK_FALSE(::IsWindow(window));
         CHECK(button.IsUntouched());
         MovePointerAway();
@@ -177,7 +177,7 @@ TEST_CASE("a shaded check box may be ended while the space bar toggles it")
     host.m_endOn = WM_NOTIFY;
     host.m_endCode = TTN_POP;
     ::SendMessage(window, WM_KEYDOWN, VK_SPACE, 1);
-    CHECK(host.m_button == NULL);
+    CHECK(host.m_button == nullptr);
     CHECK_FALSE(::IsWindow(window));
     CHECK(button.IsUntouched());
     MovePointerAway();

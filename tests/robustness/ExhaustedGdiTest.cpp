@@ -109,18 +109,18 @@ TEST_CASE("a full table of graphics objects spoils nothing for later")
             Stage::HoverAndPress(all.button.m_hWnd);
             Stage::HoverAndPress(all.link.m_hWnd);
             const HBITMAP loaded = LoadPictureBitmap(ImageFile("Info.gif"));
-            if (loaded != NULL)
+            if (loaded != nullptr)
                 ::DeleteObject(loaded);
             all.keyed.LoadPicture(ImageFile("no such.gif"));
         }
     }
     Stage::MovePointer(all.stage.m_hWnd, {-20, -20});
     ::SendMessage(all.button.m_hWnd, WM_MOUSELEAVE, 0, 0);
-    ::SetFocus(NULL);
+    ::SetFocus(nullptr);
     PumpMessages();
     CHECK(all.Show().Compare(before) == "the same");
     const HBITMAP loaded = LoadPictureBitmap(ImageFile("Info.gif"));
-    CHECK(loaded != NULL);
+    CHECK(loaded != nullptr);
     ::DeleteObject(loaded);
     all.stage.Close();
 }

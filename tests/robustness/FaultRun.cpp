@@ -132,7 +132,7 @@ public:
                 ::DestroyWindow(window);
         }
         MSG message; // A WM_QUIT among them is forgotten.
-        while (::PeekMessage(&message, NULL, 0, 0, PM_REMOVE))
+        while (::PeekMessage(&message, nullptr, 0, 0, PM_REMOVE))
             ::DispatchMessage(&message);
     }
 

@@ -18,7 +18,7 @@ public:
         m_before = page - size % page;
         const size_t usable = m_before + size;
         m_memory = static_cast<char*>(
-            ::VirtualAlloc(NULL, usable + page, MEM_RESERVE | MEM_COMMIT, PAGE_READWRITE));
+            ::VirtualAlloc(nullptr, usable + page, MEM_RESERVE | MEM_COMMIT, PAGE_READWRITE));
         DWORD former;
         ::VirtualProtect(m_memory + usable, page, PAGE_NOACCESS, &former);
         memset(m_memory, filling, usable);

@@ -79,7 +79,7 @@ TEST_CASE("part: the hand cursor with a failing call" * doctest::skip())
                 FindModule("umbra.dll"), imports[i].dll.c_str(), imports[i].name.c_str(), 1,
                 fails ? 1 : 0, ChooseFailure(imports[i], progress)));
         }
-        progress.hasHand = LoadHandCursor() != NULL;
+        progress.hasHand = LoadHandCursor() != nullptr;
         progress.isHandled = static_cast<LONG>(::SendMessage(label.m_hWnd, WM_SETCURSOR,
                                                              reinterpret_cast<WPARAM>(label.m_hWnd),
                                                              MAKELPARAM(HTCLIENT, WM_MOUSEMOVE)));

@@ -30,7 +30,7 @@ UINT WINAPI AnswerFolder(LPSTR out, UINT capacity)
 HMODULE WINAPI NoteModule(LPCSTR path)
 {
     asked = path;
-    return NULL;
+    return nullptr;
 }
 
 } // namespace
@@ -42,6 +42,6 @@ TEST_CASE("the help program is looked for in a Windows directory of 259 characte
     const ImportHook load(umbra, "kernel32", "LoadLibraryA", NoteModule);
     REQUIRE(windows.IsInstalled());
     REQUIRE(load.IsInstalled());
-    CHECK(LoadHandCursor() == NULL);
+    CHECK(LoadHandCursor() == nullptr);
     CHECK(asked == folder + "\\winhlp32.exe");
 }

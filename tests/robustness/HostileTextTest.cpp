@@ -164,8 +164,8 @@ public:
 private:
     static HRESULT WINAPI Load(LPOLESTR path, LPUNKNOWN, DWORD, OLE_COLOR, REFIID, void** picture)
     {
-        Paths().push_back(path == NULL ? L"(none)" : path);
-        *picture = NULL;
+        Paths().push_back(path == nullptr ? L"(none)" : path);
+        *picture = nullptr;
         return E_FAIL;
     }
 
@@ -198,7 +198,7 @@ private:
     static char* Get(char* out, int capacity)
     {
         if (Folder().size() >= static_cast<size_t>(capacity))
-            return NULL;
+            return nullptr;
         return strcpy(out, Folder().c_str());
     }
     static int Change(const char* folder)
@@ -280,7 +280,7 @@ TEST_CASE("a placeholder is found at the very end of a text, and no half of one 
     for (const char* ending : {"%1", "\"%1\"", "%", "\"%1", "\"%", "\"", "\x83"}) {
         CAPTURE(ending);
         const GuardedText command(Long(300) + ending);
-        const bool whole = strstr(ending, "%1") != NULL;
+        const bool whole = strstr(ending, "%1") != nullptr;
         CHECK(CutPlaceholder(command.Get()) == (whole ? TRUE : FALSE));
         CHECK(strlen(command.Get()) >= 300);
     }
@@ -322,12 +322,12 @@ TEST_CASE("a value of the real registry that fills the buffer without a terminat
 {
     const std::string key = "umbra.hostile.value";
     HKEY opened;
-    REQUIRE(::RegCreateKeyExA(HKEY_CURRENT_USER, key.c_str(), 0, NULL, 0, KEY_ALL_ACCESS, NULL,
-                              &opened, NULL) == ERROR_SUCCESS);
+    REQUIRE(::RegCreateKeyExA(HKEY_CURRENT_USER, key.c_str(), 0, nullptr, 0, KEY_ALL_ACCESS,
+                              nullptr, &opened, nullptr) == ERROR_SUCCESS);
     for (const DWORD length : {MAX_PATH - 2, MAX_PATH - 1, MAX_PATH, MAX_PATH + 1}) {
         CAPTURE(length);
         const std::string value = Long(length + 1); // The byte behind must not look like its end.
-        REQUIRE(::RegSetValueExA(opened, NULL, 0, REG_SZ,
+        REQUIRE(::RegSetValueExA(opened, nullptr, 0, REG_SZ,
                                  reinterpret_cast<const BYTE*>(value.c_str()),
                                  length) == ERROR_SUCCESS);
         const GuardedBuffer out(MAX_PATH);
@@ -356,8 +356,8 @@ TEST_CASE("each label reads the registry the same way")
         ScriptedRegistry::Values()["key"] = Terminated(Long(length));
         const GuardedBuffer ofLink(MAX_PATH);
         const GuardedBuffer ofLabel(MAX_PATH);
-        CHECK(link.QueryRegistryDefault(NULL, "key", ofLink.Get()) == ERROR_SUCCESS);
-        CHECK(label.QueryRegistryDefault(NULL, "key", ofLabel.Get()) == ERROR_SUCCESS);
+        CHECK(link.QueryRegistryDefault(nullptr, "key", ofLink.Get()) == ERROR_SUCCESS);
+        CHECK(label.QueryRegistryDefault(nullptr, "key", ofLabel.Get()) == ERROR_SUCCESS);
         CHECK(std::string(ofLink.Get()) == (length < MAX_PATH ? Long(length) : ""));
         CHECK(std::string(ofLabel.Get()) == ofLink.Get());
     }
@@ -427,7 +427,7 @@ TEST_CASE("picture paths and working directories of every length are joined whol
             NoPictures::Paths().clear();
             const std::string narrow = Long(path);
             const GuardedText guarded(narrow);
-            REQUIRE(LoadPictureBitmap(guarded) == NULL);
+            REQUIRE(LoadPictureBitmap(guarded) == nullptr);
             const std::vector<std::wstring>& asked = NoPictures::Paths();
             const bool fits = folder + 2 + path < 256;
             REQUIRE(asked.size() == (fits ? 2 : 1));
@@ -448,7 +448,7 @@ TEST_CASE("a path that ends in half a character is converted within its own leng
         CAPTURE(path);
         const GuardedText guarded(path);
         NoPictures::Paths().clear();
-        CHECK(LoadPictureBitmap(guarded) == NULL);
+        CHECK(LoadPictureBitmap(guarded) == nullptr);
         REQUIRE(NoPictures::Paths().size() == 2);
         CHECK(NoPictures::Paths()[0].size() <= strlen(path));
         CHECK(NoPictures::Paths()[1].size() <= strlen(path) + strlen("C:\\\x83//"));
@@ -460,23 +460,24 @@ TEST_CASE("a path of more than a thousand million characters gives no picture")
     // One piece of memory, seen again and again at addresses that follow each other.
     const size_t piece = 16 * 1024 * 1024;
     const size_t pieces = 65;
-    const HANDLE memory = ::CreateFileMapping(INVALID_HANDLE_VALUE, NULL, PAGE_READWRITE, 0,
-                                              static_cast<DWORD>(piece), NULL);
-    REQUIRE(memory != NULL);
-    char* const start =
-        static_cast<char*>(::VirtualAlloc(NULL, (pieces + 1) * piece, MEM_RESERVE, PAGE_NOACCESS));
-    REQUIRE(start != NULL);
+    const HANDLE memory = ::CreateFileMapping(INVALID_HANDLE_VALUE, nullptr, PAGE_READWRITE, 0,
+                                              static_cast<DWORD>(piece), nullptr);
+    REQUIRE(memory != nullptr);
+    char* const start = static_cast<char*>(
+        ::VirtualAlloc(nullptr, (pieces + 1) * piece, MEM_RESERVE, PAGE_NOACCESS));
+    REQUIRE(start != nullptr);
     ::VirtualFree(start, 0, MEM_RELEASE);
     for (size_t i = 0; i < pieces; ++i)
-        REQUIRE(::MapViewOfFileEx(memory, FILE_MAP_WRITE, 0, 0, piece, start + i * piece) != NULL);
+        REQUIRE(::MapViewOfFileEx(memory, FILE_MAP_WRITE, 0, 0, piece, start + i * piece) !=
+                nullptr);
     memset(start, 'p', piece);
     char* const end = static_cast<char*>(
         ::VirtualAlloc(start + pieces * piece, piece, MEM_RESERVE | MEM_COMMIT, PAGE_READWRITE));
     CHECK(end == start + pieces * piece); // Zeros, which end the path.
     {
         const NoPictures pictures;
-        if (end != NULL)
-            CHECK(LoadPictureBitmap(start) == NULL);
+        if (end != nullptr)
+            CHECK(LoadPictureBitmap(start) == nullptr);
         CHECK(NoPictures::Paths() == std::vector<std::wstring>{L"(none)"});
     }
     ::VirtualFree(end, 0, MEM_RELEASE);
@@ -490,7 +491,8 @@ TEST_CASE("a page with an image folder of any length opens, and goes back to the
     class PicturePage : public CBaseDialog
     {
     public:
-        PicturePage() : CBaseDialog(1, NULL, false, false, true, false, false, false, false, true)
+        PicturePage()
+            : CBaseDialog(1, nullptr, false, false, true, false, false, false, false, true)
         {
         }
     };
@@ -539,7 +541,7 @@ TEST_CASE("labels, links and buttons take, paint and open texts of any length")
     const DWORD style = umbra::testing::DialogTemplate::visibleChild | SS_NOTIFY;
     source.Label(100, "", 10, 10, 100, 20, style).Label(101, "", 10, 40, 100, 20, style);
     source.Button(102, "", 10, 70, 100, 20);
-    dialog.m_bmpBack.CreateBitmap(40, 40, 1, 32, NULL);
+    dialog.m_bmpBack.CreateBitmap(40, 40, 1, 32, nullptr);
     dialog.m_bHasBitmap = TRUE;
     dialog.m_bCaptionText = TRUE;
     REQUIRE(dialog.CreateIndirect(source.Get()));
@@ -565,7 +567,7 @@ TEST_CASE("labels, links and buttons take, paint and open texts of any length")
         }
         link.SetToolTipText(text.Get());
         button.SetToolTipText(text.Get(), text.Get());
-        dialog.RedrawWindow(NULL, NULL,
+        dialog.RedrawWindow(nullptr, nullptr,
                             RDW_INVALIDATE | RDW_ERASE | RDW_UPDATENOW | RDW_ALLCHILDREN);
 
         FailingShell::Commands().clear();

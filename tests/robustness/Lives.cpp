@@ -62,21 +62,21 @@ void Use(HWND window)
 /// A bitmap with a pixel of the colour.
 HBITMAP MakeBitmap(COLORREF color)
 {
-    const HDC screen = ::GetDC(NULL);
+    const HDC screen = ::GetDC(nullptr);
     const HDC memory = ::CreateCompatibleDC(screen);
     const HBITMAP bitmap = ::CreateCompatibleBitmap(screen, 30, 20);
     const HGDIOBJ former = ::SelectObject(memory, bitmap);
     ::SetPixel(memory, 3, 3, color);
     ::SelectObject(memory, former);
     ::DeleteDC(memory);
-    ::ReleaseDC(NULL, screen);
+    ::ReleaseDC(nullptr, screen);
     return bitmap;
 }
 
 /// An icon of its own.
 HICON MakeIcon()
 {
-    return ::CopyIcon(::LoadIcon(NULL, IDI_ASTERISK));
+    return ::CopyIcon(::LoadIcon(nullptr, IDI_ASTERISK));
 }
 
 // Free functions.
@@ -93,11 +93,11 @@ void UsePictureLoader()
 {
     for (const char* name : {"Info.gif", "no such.gif"}) {
         const HBITMAP bitmap = LoadPictureBitmap(ImageFile(name));
-        if (bitmap != NULL)
+        if (bitmap != nullptr)
             ::DeleteObject(bitmap);
     }
     const HBITMAP below = LoadPictureBitmap("images\\Info.gif");
-    if (below != NULL)
+    if (below != nullptr)
         ::DeleteObject(below);
 }
 
@@ -223,7 +223,7 @@ void UseButton(DWORD style, void (*more)(CxShadeButton&))
     Use(window);
     ::SendMessage(window, BM_SETCHECK, BST_CHECKED, 0);
     stage.Show();
-    if (button.m_hWnd != NULL)
+    if (button.m_hWnd != nullptr)
         button.SetShade(SHADE_SCRATCHED, 0, 0, 100, RGB(180, 200, 230));
     stage.Show();
     stage.Close();
@@ -267,7 +267,7 @@ void UseRadioGroup()
     }
     stage.Show();
     for (CxShadeButton& button : buttons) {
-        if (button.m_hWnd != NULL)
+        if (button.m_hWnd != nullptr)
             Use(button.m_hWnd);
     }
     stage.Show();
@@ -386,7 +386,7 @@ void UsePage()
     const HWND window = page.m_hWnd;
     page.ShowPicture(IDS_IMAGE_INFO);
     Paint(window);
-    if (page.m_btnBack.m_hWnd != NULL)
+    if (page.m_btnBack.m_hWnd != nullptr)
         Use(page.m_btnBack.m_hWnd);
     Paint(window);
     page.DestroyWindow();
@@ -395,11 +395,11 @@ void UsePage()
 void UseModelessDialog()
 {
     g_strImageDir = ProgramFolder().c_str();
-    const std::unique_ptr<CModellessDlg> dialog(new CModellessDlg(NULL));
-    if (dialog->Create(CModellessDlg::IDD, NULL)) {
+    const std::unique_ptr<CModellessDlg> dialog(new CModellessDlg(nullptr));
+    if (dialog->Create(CModellessDlg::IDD, nullptr)) {
         const HWND window = dialog->m_hWnd;
         dialog->ShowWindow(SW_SHOW);
-        dialog->InvalidateRect(NULL, TRUE);
+        dialog->InvalidateRect(nullptr, TRUE);
         ::PostMessage(window, WM_KEYDOWN, VK_TAB, 0);
         dialog->PumpMessages();
         Stage::Hover(dialog->m_icon.m_hWnd);

@@ -346,7 +346,7 @@ class ModalPage : public CBaseDialog
 {
 public:
     explicit ModalPage(Record& record)
-        : CBaseDialog(0U, NULL, false, false, true, false, false, false, false, false),
+        : CBaseDialog(0U, nullptr, false, false, true, false, false, false, false, false),
           m_record(record)
     {
     }

@@ -32,8 +32,8 @@
 class EscapeFromLoops
 {
 public:
-    EscapeFromLoops() : m_timer(::SetTimer(NULL, 0, 20, PressEscape)) {}
-    ~EscapeFromLoops() { ::KillTimer(NULL, m_timer); }
+    EscapeFromLoops() : m_timer(::SetTimer(nullptr, 0, 20, PressEscape)) {}
+    ~EscapeFromLoops() { ::KillTimer(nullptr, m_timer); }
     EscapeFromLoops(const EscapeFromLoops&) = delete;
     EscapeFromLoops& operator=(const EscapeFromLoops&) = delete;
 
@@ -56,7 +56,7 @@ public:
         m_fonts[1].CreatePointFont(240, "Courier New");
         umbra::testing::SetCrashContext(m_context);
     }
-    ~Monkey() { umbra::testing::SetCrashContext(NULL); }
+    ~Monkey() { umbra::testing::SetCrashContext(nullptr); }
 
     /// One round. Leaves no window.
     void Play(int messages)
@@ -69,7 +69,7 @@ public:
         };
         for (m_step = 0; m_step < messages; ++m_step)
             Step();
-        MonkeyPage::Mischief() = MonkeyWindow::Mischief() = NULL;
+        MonkeyPage::Mischief() = MonkeyWindow::Mischief() = nullptr;
         CloseAll();
     }
 
@@ -101,10 +101,10 @@ private:
     }
 
     /// For a crash report.
-    void Describe(const char* what, HWND window = NULL)
+    void Describe(const char* what, HWND window = nullptr)
     {
         snprintf(m_context, sizeof(m_context), "monkey, seed %u, message %d: %s, control %d",
-                 m_seed, m_step, what, window != NULL ? ::GetDlgCtrlID(window) : -1);
+                 m_seed, m_step, what, window != nullptr ? ::GetDlgCtrlID(window) : -1);
         if (m_trace)
             fprintf(stderr, "%s, %d objects\n", m_context, umbra::testing::CountGdiObjects().total);
     }
@@ -112,20 +112,20 @@ private:
     void OpenMissing()
     {
         Dice* const mischief = MonkeyPage::Mischief();
-        if (MonkeyPage::Live() == NULL) {
-            MonkeyPage::Mischief() = NULL; // Nobody ends a window that is being made.
+        if (MonkeyPage::Live() == nullptr) {
+            MonkeyPage::Mischief() = nullptr; // Nobody ends a window that is being made.
             MonkeyPage* page = new MonkeyPage;
             MonkeyPage::Live() = page;
             ChooseBackground(*page);
             if (!page->CreateIndirect(EverythingPage::MakeTemplate().Get()) &&
-                MonkeyPage::Live() != NULL)
+                MonkeyPage::Live() != nullptr)
                 delete page;
             MonkeyPage::Mischief() = mischief;
         }
-        if (MonkeyWindow::Live() == NULL && m_dice.Percent(1)) {
+        if (MonkeyWindow::Live() == nullptr && m_dice.Percent(1)) {
             MonkeyWindow* window = new MonkeyWindow;
             MonkeyWindow::Live() = window;
-            window->Create(CModellessDlg::IDD, NULL);
+            window->Create(CModellessDlg::IDD, nullptr);
             window->ShowWindow(SW_SHOW);
         }
     }
@@ -138,8 +138,8 @@ private:
         page.m_bDragAnywhere = m_dice.Percent(20);
         page.m_bCaptionText = m_dice.Percent(50);
         if (m_dice.Percent(40)) {
-            page.m_bmpBack.CreateBitmap(100, 80, 1, 32, NULL);
-            page.m_bmpMask.CreateBitmap(100, 80, 1, 1, NULL);
+            page.m_bmpBack.CreateBitmap(100, 80, 1, 32, nullptr);
+            page.m_bmpMask.CreateBitmap(100, 80, 1, 1, nullptr);
             page.m_bHasBitmap = m_dice.Percent(80);
         }
     }
@@ -147,33 +147,37 @@ private:
     void CloseAll()
     {
         for (int tries = 0; tries < 10 && IsAnyOpen(); ++tries) {
-            if (MonkeyPage::Live() != NULL)
+            if (MonkeyPage::Live() != nullptr)
                 MonkeyPage::Live()->DestroyWindow();
-            if (MonkeyWindow::Live() != NULL)
+            if (MonkeyWindow::Live() != nullptr)
                 MonkeyWindow::Live()->DestroyWindow();
             Pump();
         }
         Pump();
     }
 
-    static bool IsAnyOpen() { return MonkeyPage::Live() != NULL || MonkeyWindow::Live() != NULL; }
+    static bool IsAnyOpen()
+    {
+        return MonkeyPage::Live() != nullptr || MonkeyWindow::Live() != nullptr;
+    }
 
     /// One of the dialogs or, mostly, one of their controls.
     HWND PickWindow()
     {
-        const HWND page = MonkeyPage::Live() != NULL ? MonkeyPage::Live()->m_hWnd : NULL;
-        const HWND working = MonkeyWindow::Live() != NULL ? MonkeyWindow::Live()->m_hWnd : NULL;
-        const HWND dialog = working != NULL && m_dice.Percent(20) ? working : page;
+        const HWND page = MonkeyPage::Live() != nullptr ? MonkeyPage::Live()->m_hWnd : nullptr;
+        const HWND working =
+            MonkeyWindow::Live() != nullptr ? MonkeyWindow::Live()->m_hWnd : nullptr;
+        const HWND dialog = working != nullptr && m_dice.Percent(20) ? working : page;
         if (m_dice.Percent(10))
             return dialog;
         std::vector<HWND> children;
-        for (HWND child = ::GetWindow(dialog, GW_CHILD); child != NULL;
+        for (HWND child = ::GetWindow(dialog, GW_CHILD); child != nullptr;
              child = ::GetWindow(child, GW_HWNDNEXT))
             children.push_back(child);
         return children.empty() ? dialog : m_dice.Pick(children);
     }
 
-    bool IsDialog(HWND window) const { return ::GetParent(window) == NULL; }
+    bool IsDialog(HWND window) const { return ::GetParent(window) == nullptr; }
 
     void SendSome(HWND window)
     {
@@ -307,13 +311,13 @@ private:
 
     HGDIOBJ PickFont()
     {
-        return m_dice.Percent(20) ? NULL : m_fonts[m_dice.Below(fontCount)].GetSafeHandle();
+        return m_dice.Percent(20) ? nullptr : m_fonts[m_dice.Below(fontCount)].GetSafeHandle();
     }
 
     /// Messages whose parameters are addresses or handles.
     void SendWithRecord(HWND window)
     {
-        CClientDC dc(NULL);
+        CClientDC dc(nullptr);
         CDC memory;
         memory.CreateCompatibleDC(&dc);
         const HDC context = memory.GetSafeHdc();
@@ -343,7 +347,7 @@ private:
             item.itemAction = ODA_DRAWENTIRE;
             item.itemState = m_dice.Below(0x1000);
             item.hwndItem = window;
-            item.hDC = m_dice.Percent(90) ? context : NULL;
+            item.hDC = m_dice.Percent(90) ? context : nullptr;
             ::SetRect(&item.rcItem, 0, 0, m_dice.Between(-5, 300), m_dice.Between(-5, 300));
             ::SendMessage(dialog, WM_DRAWITEM, item.CtlID, reinterpret_cast<LPARAM>(&item));
             break;
@@ -405,13 +409,13 @@ private:
             Resize(window);
             break;
         case 3:
-            ::SetFocus(m_dice.Percent(90) ? window : NULL);
+            ::SetFocus(m_dice.Percent(90) ? window : nullptr);
             break;
         case 4:
             ChangeStyle(window);
             break;
         case 5:
-            ::RedrawWindow(window, NULL, NULL,
+            ::RedrawWindow(window, nullptr, nullptr,
                            RDW_INVALIDATE | RDW_UPDATENOW | RDW_ALLCHILDREN |
                                (m_dice.Percent(50) ? RDW_ERASE : 0));
             break;
@@ -422,7 +426,7 @@ private:
     {
         static const int sizes[] = {0, 1, 2, 3, 9, 20, 64, 200, 640};
         const bool large = m_dice.Percent(1);
-        ::SetWindowPos(window, m_dice.Percent(20) ? HWND_TOP : NULL, m_dice.Between(-50, 500),
+        ::SetWindowPos(window, m_dice.Percent(20) ? HWND_TOP : nullptr, m_dice.Between(-50, 500),
                        m_dice.Between(-50, 300), large ? 3000 : m_dice.Pick(sizes),
                        large ? 2000 : m_dice.Pick(sizes),
                        m_dice.Percent(80) ? SWP_NOZORDER : SWP_NOMOVE);
@@ -438,7 +442,7 @@ private:
             bit = IsButton(window) ? m_dice.Pick(button) : m_dice.Pick(label);
         const LONG style = ::GetWindowLong(window, GWL_STYLE);
         ::SetWindowLong(window, GWL_STYLE, style ^ static_cast<LONG>(bit));
-        ::SetWindowPos(window, NULL, 0, 0, 0, 0,
+        ::SetWindowPos(window, nullptr, 0, 0, 0, 0,
                        SWP_NOMOVE | SWP_NOSIZE | SWP_NOZORDER | SWP_FRAMECHANGED);
     }
 
@@ -450,7 +454,7 @@ private:
     void ChangeControl()
     {
         MonkeyPage* page = MonkeyPage::Live();
-        if (page == NULL)
+        if (page == nullptr)
             return;
         switch (m_dice.Below(3)) {
         case 0:
@@ -476,7 +480,7 @@ private:
 
     void ChangeButton(HastyButton& button)
     {
-        if (button.GetSafeHwnd() == NULL)
+        if (button.GetSafeHwnd() == nullptr)
             return;
         const int choice = m_dice.Below(10);
         Describe("setter of a button", button.m_hWnd);
@@ -492,7 +496,8 @@ private:
                               m_dice.Between(-5, 300), m_dice.Color());
             break;
         case 3:
-            button.SetIcons(m_dice.Percent(70) ? ::CopyIcon(::LoadIcon(NULL, IDI_WARNING)) : NULL,
+            button.SetIcons(m_dice.Percent(70) ? ::CopyIcon(::LoadIcon(nullptr, IDI_WARNING))
+                                               : nullptr,
                             m_dice.Below(5) * 0x100, m_dice.Below(50), m_dice.Below(50));
             break;
         case 4: {
@@ -516,7 +521,7 @@ private:
             break;
         case 9:
             button.SetToolTipText(m_dice.Text().c_str(), m_dice.Text().c_str());
-            if (MonkeyPage::Live() != NULL)
+            if (MonkeyPage::Live() != nullptr)
                 button.HurryToolTip();
             break;
         }
@@ -524,7 +529,7 @@ private:
 
     void ChangeLabel(CStaticTS& label)
     {
-        if (label.GetSafeHwnd() == NULL)
+        if (label.GetSafeHwnd() == nullptr)
             return;
         Describe("setter of a label", label.m_hWnd);
         switch (m_dice.Below(10)) {
@@ -563,7 +568,7 @@ private:
 
     void ChangeLink(CHyperLink& link)
     {
-        if (link.GetSafeHwnd() == NULL)
+        if (link.GetSafeHwnd() == nullptr)
             return;
         Describe("setter of a link", link.m_hWnd);
         switch (m_dice.Below(6)) {
@@ -605,7 +610,7 @@ private:
     void Pump()
     {
         Describe("pump");
-        if (MonkeyWindow::Live() != NULL && m_dice.Percent(30))
+        if (MonkeyWindow::Live() != nullptr && m_dice.Percent(30))
             MonkeyWindow::Live()->PumpMessages();
         else
             umbra::testing::PumpMessages();
@@ -625,6 +630,6 @@ private:
     Dice m_mischief; // Of its own: when notifications come is the system's affair.
     CFont m_fonts[fontCount];
     int m_step = 0;
-    bool m_trace = getenv("UMBRA_MONKEY_TRACE") != NULL;
+    bool m_trace = getenv("UMBRA_MONKEY_TRACE") != nullptr;
     char m_context[200] = "";
 };

@@ -97,7 +97,7 @@ public:
     {
         static int depth = 0;
         Dice* dice = Mischief();
-        if (dice == NULL || depth >= 3 || !dice->Percent(3))
+        if (dice == nullptr || depth >= 3 || !dice->Percent(3))
             return;
         ++depth;
         switch (dice->Below(10)) {
@@ -121,7 +121,7 @@ public:
             ::SetWindowText(control, dice->Text().c_str());
             break;
         case 6:
-            ::SetWindowPos(control, NULL, 0, 0, dice->Below(200), dice->Below(60),
+            ::SetWindowPos(control, nullptr, 0, 0, dice->Below(200), dice->Below(60),
                            SWP_NOMOVE | SWP_NOZORDER);
             break;
         case 7:
@@ -160,7 +160,7 @@ protected:
     void PostNcDestroy() override
     {
         Dialog::PostNcDestroy();
-        Live() = NULL;
+        Live() = nullptr;
         delete this;
     }
 
@@ -187,7 +187,7 @@ private:
         case WM_SETCURSOR:
             return reinterpret_cast<HWND>(wParam);
         default:
-            return NULL;
+            return nullptr;
         }
     }
 };
@@ -198,7 +198,7 @@ class HastyButton : public CxShadeButton
 public:
     void HurryToolTip()
     {
-        if (m_toolTip.GetSafeHwnd() != NULL)
+        if (m_toolTip.GetSafeHwnd() != nullptr)
             m_toolTip.SetDelayTime(TTDT_INITIAL, 1);
     }
     bool IsToolTipShown() const { return ::IsWindowVisible(m_toolTip.GetSafeHwnd()) != FALSE; }
@@ -208,7 +208,7 @@ public:
 class WorkingWindow : public CModellessDlg
 {
 public:
-    WorkingWindow() : CModellessDlg(NULL) {}
+    WorkingWindow() : CModellessDlg(nullptr) {}
     ~WorkingWindow() override { AfxGetApp()->EndWaitCursor(); }
 };
 
@@ -216,7 +216,9 @@ public:
 class EverythingPage : public CBaseDialog
 {
 public:
-    EverythingPage() : CBaseDialog(1, NULL, true, false, true, false, true, false, false, true) {}
+    EverythingPage() : CBaseDialog(1, nullptr, true, false, true, false, true, false, false, true)
+    {
+    }
 
     static umbra::testing::DialogTemplate MakeTemplate()
     {
@@ -260,7 +262,7 @@ public:
         m_buttons[1].SetPicture(m_strImageDir + "images\\Error.gif", CxShadeButton::alignTop, 19,
                                 19, RGB(0, 0, 0));
         m_buttons[2].SetToolTipText("unchecked", "checked");
-        m_buttons[7].SetIcons(::CopyIcon(::LoadIcon(NULL, IDI_APPLICATION)),
+        m_buttons[7].SetIcons(::CopyIcon(::LoadIcon(nullptr, IDI_APPLICATION)),
                               CxShadeButton::alignRight, 32, 32);
         m_buttons[8].SetToolTipText("a tool tip");
         m_labels[1].SetEmbossed(TRUE);

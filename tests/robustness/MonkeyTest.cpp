@@ -28,7 +28,7 @@ const int messagesInRound = 500;
 unsigned ReadNumber(const char* variable, unsigned usual)
 {
     const char* value = getenv(variable);
-    return value == NULL ? usual : static_cast<unsigned>(strtoul(value, NULL, 10));
+    return value == nullptr ? usual : static_cast<unsigned>(strtoul(value, nullptr, 10));
 }
 
 /// How many top-level windows this thread has.
@@ -73,10 +73,10 @@ void WarmUpSystem()
 {
     for (int color = 0; color <= COLOR_MENUBAR; ++color)
         ::GetSysColorBrush(color);
-    ::LoadIcon(NULL, IDI_APPLICATION);
-    ::LoadIcon(NULL, IDI_WARNING);
-    ::LoadCursor(NULL, IDC_WAIT);
-    const HDC memory = ::CreateCompatibleDC(NULL);
+    ::LoadIcon(nullptr, IDI_APPLICATION);
+    ::LoadIcon(nullptr, IDI_WARNING);
+    ::LoadCursor(nullptr, IDC_WAIT);
+    const HDC memory = ::CreateCompatibleDC(nullptr);
     RECT area = {0, 0, 20, 20};
     for (const UINT edge : {EDGE_RAISED, EDGE_SUNKEN, EDGE_ETCHED, EDGE_BUMP}) {
         for (const UINT look : {0, BF_SOFT, BF_FLAT, BF_MONO})
@@ -85,7 +85,7 @@ void WarmUpSystem()
     ::DeleteDC(memory);
     for (DWORD type = BS_PUSHBUTTON; type < BS_OWNERDRAW; ++type) { // Of its own looks.
         const HWND button = ::CreateWindow("Button", "", WS_POPUP | WS_VISIBLE | type, 0, 0, 50, 50,
-                                           NULL, NULL, NULL, NULL);
+                                           nullptr, nullptr, nullptr, nullptr);
         ::UpdateWindow(button);
         ::SendMessage(button, BM_SETSTATE, TRUE, 0);
         ::SetFocus(button);
@@ -93,9 +93,9 @@ void WarmUpSystem()
         ::DestroyWindow(button);
     }
     WorkingWindow framed;
-    framed.Create(CModellessDlg::IDD, NULL);
+    framed.Create(CModellessDlg::IDD, nullptr);
     framed.ShowWindow(SW_SHOW);
-    framed.RedrawWindow(NULL, NULL, RDW_INVALIDATE | RDW_FRAME | RDW_UPDATENOW);
+    framed.RedrawWindow(nullptr, nullptr, RDW_INVALIDATE | RDW_FRAME | RDW_UPDATENOW);
     for (const BOOL active : {FALSE, TRUE})
         framed.SendMessage(WM_NCACTIVATE, active);
     framed.DestroyWindow();

@@ -124,7 +124,7 @@ const Budget oneBitmapACallAndTheMask = {0, 1, 0, 1};
 /// An icon of its own.
 HICON MakeIcon()
 {
-    return ::CopyIcon(::LoadIcon(NULL, IDI_ASTERISK));
+    return ::CopyIcon(::LoadIcon(nullptr, IDI_ASTERISK));
 }
 
 /// The bitmaps that an icon costs where the system counts them.
@@ -143,7 +143,7 @@ class Page : public CBaseDialog
 {
 public:
     Page(bool confirm, bool ok, bool cancel, bool next, bool back, bool cancelIcon)
-        : CBaseDialog(0U, NULL, confirm, ok, cancel, next, back, false, false, cancelIcon)
+        : CBaseDialog(0U, nullptr, confirm, ok, cancel, next, back, false, false, cancelIcon)
     {
         g_strImageDir = ProgramFolder().c_str();
         CreateIndirect(MakePageTemplate().Get());
@@ -156,8 +156,8 @@ public:
 void ShowModeless()
 {
     g_strImageDir = ProgramFolder().c_str();
-    CModellessDlg dialog(NULL);
-    dialog.Create(CModellessDlg::IDD, NULL);
+    CModellessDlg dialog(nullptr);
+    dialog.Create(CModellessDlg::IDD, nullptr);
     dialog.ShowWindow(SW_SHOW);
     dialog.PumpMessages();
     Stage::Paint(dialog.m_hWnd);
@@ -346,7 +346,7 @@ TEST_CASE("what the dialogs leave for good")
         ShowDialog([](CDialogTS& dialog) {
             dialog.m_bShaped = TRUE;
             dialog.m_bmpBack.Attach(LoadPictureBitmap(ImageFile("Info.gif")));
-            dialog.m_bmpMask.CreateBitmap(10, 10, 1, 1, NULL);
+            dialog.m_bmpMask.CreateBitmap(10, 10, 1, 1, nullptr);
         });
     });
     // The supplier's bitmap stays the supplier's.

@@ -118,7 +118,7 @@ private:
     }
     static HGDIOBJ Note(HGDIOBJ object)
     {
-        if (object != NULL)
+        if (object != nullptr)
             Made().push_back(object);
         return object;
     }

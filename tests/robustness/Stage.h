@@ -18,8 +18,8 @@ class Stage : public CWnd
 public:
     Stage()
         : m_window(::CreateWindowEx(WS_EX_TOPMOST | WS_EX_TOOLWINDOW, "#32770", "",
-                                    WS_POPUP | WS_VISIBLE, 40, 40, 300, 200, NULL, NULL, NULL,
-                                    NULL))
+                                    WS_POPUP | WS_VISIBLE, 40, 40, 300, 200, nullptr, nullptr,
+                                    nullptr, nullptr))
     {
         SubclassWindow(m_window);
     }
@@ -27,10 +27,10 @@ public:
 
     HWND Add(const char* className, const char* text, DWORD style, const CRect& place)
     {
-        const HWND control =
-            ::CreateWindow(className, text, WS_CHILD | WS_VISIBLE | style, place.left, place.top,
-                           place.Width(), place.Height(), m_window,
-                           reinterpret_cast<HMENU>(static_cast<INT_PTR>(++m_lastId)), NULL, NULL);
+        const HWND control = ::CreateWindow(
+            className, text, WS_CHILD | WS_VISIBLE | style, place.left, place.top, place.Width(),
+            place.Height(), m_window, reinterpret_cast<HMENU>(static_cast<INT_PTR>(++m_lastId)),
+            nullptr, nullptr);
         ::SendMessage(control, WM_SETFONT,
                       reinterpret_cast<WPARAM>(::GetStockObject(DEFAULT_GUI_FONT)), FALSE);
         return control;
@@ -54,7 +54,7 @@ public:
 
     static void Paint(HWND window)
     {
-        ::RedrawWindow(window, NULL, NULL,
+        ::RedrawWindow(window, nullptr, nullptr,
                        RDW_INVALIDATE | RDW_ERASE | RDW_UPDATENOW | RDW_ALLCHILDREN);
     }
 

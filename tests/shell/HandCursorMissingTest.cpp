@@ -17,7 +17,7 @@ TEST_CASE("part: a process that looks for the hand where there is no help progra
     const CountCalls libraries(FindModule("umbra.dll"), "kernel32", "LoadLibraryA");
     REQUIRE(libraries.IsInstalled());
     for (int i = 0; i < 100; ++i)
-        CHECK(LoadHandCursor() == NULL);
+        CHECK(LoadHandCursor() == nullptr);
     CHECK(libraries.Calls() == 1);
 }
 

@@ -27,24 +27,24 @@ TEST_CASE("part: a process that borrows the hand from the help program" * doctes
     {
         // Short of memory once, the next time may be better.
         const FailNth noCopy(umbra, "user32", "CopyIcon", 1);
-        CHECK(LoadHandCursor() == NULL);
+        CHECK(LoadHandCursor() == nullptr);
     }
     hand = LoadHandCursor();
-    REQUIRE(hand != NULL);
+    REQUIRE(hand != nullptr);
     const long long loaded = libraries.Calls();
     for (int i = 0; i < 1000; ++i)
         CHECK(LoadHandCursor() == hand);
     CHECK(libraries.Calls() == loaded);
 
     // A copy: the help program's module is not needed any more.
-    CHECK(::GetModuleHandleA(HelpProgram::Path().c_str()) == NULL);
+    CHECK(::GetModuleHandleA(HelpProgram::Path().c_str()) == nullptr);
     ICONINFO info;
     REQUIRE(::GetIconInfo(hand, &info));
     CHECK_FALSE(info.fIcon);
     CHECK(info.xHotspot == 6);
     CHECK(info.yHotspot == 0);
     ::DeleteObject(info.hbmMask);
-    if (info.hbmColor != NULL)
+    if (info.hbmColor != nullptr)
         ::DeleteObject(info.hbmColor);
 }
 

@@ -55,7 +55,7 @@ CSize SizeOf(HBITMAP bitmap)
 bool Loads(const std::string& path)
 {
     const HBITMAP bitmap = LoadPictureBitmap(path.c_str());
-    if (bitmap == NULL)
+    if (bitmap == nullptr)
         return false;
     CHECK(SizeOf(bitmap).cx > 0);
     CHECK(::DeleteObject(bitmap));
@@ -79,7 +79,7 @@ struct InFolder
 TEST_CASE("a GIF by its absolute path comes as a bitmap of its size, owned by the caller")
 {
     const HBITMAP bitmap = LoadPictureBitmap(ImagePath("Next.gif").c_str());
-    REQUIRE(bitmap != NULL);
+    REQUIRE(bitmap != nullptr);
     CHECK(SizeOf(bitmap) == CSize(19, 19));
     CHECK(::DeleteObject(bitmap));
 }
@@ -115,7 +115,7 @@ TEST_CASE("a joined path longer than 255 characters gives no picture, and no sec
 
 TEST_CASE("no path, an empty one, a huge one, a folder and a missing file give no picture")
 {
-    CHECK(LoadPictureBitmap(NULL) == NULL);
+    CHECK(LoadPictureBitmap(nullptr) == nullptr);
     CHECK_FALSE(Loads(""));
     CHECK_FALSE(Loads(std::string(10000, 'p')));
     CHECK_FALSE(Loads(ProgramFolder()));
@@ -126,7 +126,7 @@ TEST_CASE("no path, an empty one, a huge one, a folder and a missing file give n
 TEST_CASE("a null path does not even try")
 {
     const CountCalls loads(FindModule("umbra.dll"), "oleaut32", "OleLoadPicturePath");
-    CHECK(LoadPictureBitmap(NULL) == NULL);
+    CHECK(LoadPictureBitmap(nullptr) == nullptr);
     CHECK(loads.Calls() == 0);
 }
 
@@ -152,7 +152,7 @@ TEST_CASE("a picture of one pixel loads")
     const std::string path = TemporaryPath("umbra-one.bmp");
     REQUIRE(WriteBytes(path, MakeBmp(1, 1, RGB(10, 20, 30), 1)));
     const HBITMAP bitmap = LoadPictureBitmap(path.c_str());
-    REQUIRE(bitmap != NULL);
+    REQUIRE(bitmap != nullptr);
     CHECK(SizeOf(bitmap) == CSize(1, 1));
     CHECK(Picture::OfBitmap(bitmap).At(0, 0) == RGB(10, 20, 30));
     ::DeleteObject(bitmap);
@@ -164,7 +164,7 @@ TEST_CASE("a picture of 10,000 by 10,000 pixels gives no picture or a good one")
     const std::string path = TemporaryPath("umbra-huge.bmp");
     REQUIRE(WriteBytes(path, MakeBmp(10000, 10000, RGB(10, 20, 30), 2)));
     const HBITMAP bitmap = LoadPictureBitmap(path.c_str());
-    if (bitmap != NULL) {
+    if (bitmap != nullptr) {
         CHECK(SizeOf(bitmap) == CSize(10000, 10000));
         ::DeleteObject(bitmap);
     }
@@ -200,7 +200,7 @@ TEST_CASE("the bitmap outlives the picture object and is no copy in name only")
     std::vector<HBITMAP> bitmaps;
     for (int i = 0; i < 8; ++i) {
         bitmaps.push_back(LoadPictureBitmap(path.c_str()));
-        REQUIRE(bitmaps.back() != NULL);
+        REQUIRE(bitmaps.back() != nullptr);
     }
     ::DeleteFileA(path.c_str());
     for (const HBITMAP bitmap : bitmaps) {
@@ -263,7 +263,7 @@ TEST_CASE("where the copy would be the picture's own bitmap, a real copy is made
     copies = 0;
     const BalancedGdi objects;
     const HBITMAP bitmap = LoadPictureBitmap(ImagePath("Next.gif").c_str());
-    REQUIRE(bitmap != NULL);
+    REQUIRE(bitmap != nullptr);
     CHECK(copies == 2);
     CHECK(SizeOf(bitmap) == CSize(19, 19)); // It lives, although the picture's own is deleted.
     CHECK(::DeleteObject(bitmap));
@@ -376,9 +376,9 @@ TEST_CASE("a picture without a bitmap, or whose bitmap cannot be copied, is rele
     const ImportHook loads(FindModule("umbra.dll"), "oleaut32", "OleLoadPicturePath", OfferPicture);
     REQUIRE(loads.IsInstalled());
     offeredCode = S_OK;
-    CountingPicture empty(NULL);
+    CountingPicture empty(nullptr);
     offered = &empty;
-    CHECK(LoadPictureBitmap("any name") == NULL);
+    CHECK(LoadPictureBitmap("any name") == nullptr);
     CHECK(empty.Holders() == 0);
 
     const HBITMAP own = MakeBitmap();
@@ -386,7 +386,7 @@ TEST_CASE("a picture without a bitmap, or whose bitmap cannot be copied, is rele
     offered = &picture;
     const FailAlways copy(FindModule("umbra.dll"), "user32", "CopyImage");
     REQUIRE(copy.IsInstalled());
-    CHECK(LoadPictureBitmap("any name") == NULL);
+    CHECK(LoadPictureBitmap("any name") == nullptr);
     CHECK(picture.Holders() == 0);
     CHECK(::GetObjectType(own) != OBJ_BITMAP);
 }

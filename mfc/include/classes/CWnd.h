@@ -83,7 +83,7 @@ public:
     /// Runs with m_hWnd set before the first message is routed to the object.
     virtual void PreSubclassWindow();
     /// Routes the messages of an existing window to this object; what the object does not handle
-    /// goes to the window's former procedure. FALSE when the window has an object already.
+    /// goes to the window's previous procedure. FALSE when the window has an object already.
     BOOL SubclassWindow(HWND hWnd);
     BOOL SubclassDlgItem(UINT nID, CWnd* pParent);
     /// The opposite of SubclassWindow; returns the window.

@@ -14,9 +14,9 @@ public:
 
     /// Attaches the object and routes the window's messages to it. False when the system refuses.
     static bool TakeOver(CWnd* object, HWND window);
-    /// Gives the window its former procedure back, unless somebody else has put his own in front.
+    /// Gives the window its previous procedure back, unless somebody else has put his own in front.
     static void GiveBack(HWND window, WNDPROC former);
-    /// Leaves the former procedure with a window whose object goes while ours stays in place.
+    /// Leaves the previous procedure with a window whose object goes while ours stays in place.
     static void KeepFormer(HWND window, WNDPROC former);
     static WNDPROC TakeKeptFormer(HWND window);
     /// Cuts the tie between object and window, without a word to either.

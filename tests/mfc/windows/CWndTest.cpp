@@ -387,7 +387,7 @@ TEST_CASE("GetSafeHwnd may be asked of no object")
     CHECK(static_cast<HWND>(empty) == NULL);
 }
 
-TEST_CASE("SubclassWindow routes messages to the object and the rest to the former procedure")
+TEST_CASE("SubclassWindow routes messages to the object and the rest to the previous procedure")
 {
     const HWND stranger = MakeStranger();
     const LONG_PTR former = ::GetWindowLongPtr(stranger, GWLP_WNDPROC);
