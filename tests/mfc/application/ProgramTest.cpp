@@ -15,9 +15,12 @@ namespace {
 
 constexpr char settingsKey[] = "Software\\Umbra Wizard Test";
 
+constexpr DWORD longestWait = 40000; // For what must happen, on however busy a machine.
+
 bool WaitFor(const std::function<bool()>& predicate)
 {
-    for (const DWORD end = ::GetTickCount() + 8000; ::GetTickCount() < end; ::Sleep(10)) {
+    const DWORD start = ::GetTickCount();
+    for (; ::GetTickCount() - start < longestWait; ::Sleep(10)) {
         if (predicate())
             return true;
     }
@@ -77,7 +80,7 @@ public:
     DWORD ExitCode()
     {
         DWORD code = STILL_ACTIVE;
-        if (::WaitForSingleObject(process_.hProcess, 8000) == WAIT_OBJECT_0)
+        if (::WaitForSingleObject(process_.hProcess, longestWait) == WAIT_OBJECT_0)
             ::GetExitCodeProcess(process_.hProcess, &code);
         return code;
     }
@@ -120,6 +123,11 @@ class Frame : public Program
 {
 public:
     Frame() : Program("mfc-test-frame.exe\" first second", frameTitle, nullptr) {}
+    /// Waits until its loop has had idle time, which its exit code tells.
+    bool HasBeenIdle()
+    {
+        return WaitFor([&] { return ::SendMessage(window, WM_FRAME_IDLE_CALLS, 0, 0) > 1; });
+    }
 };
 
 struct CleanSettings
@@ -223,6 +231,7 @@ TEST_CASE("a program with a frame runs its loop until the standard command ends 
     Frame program;
     ::SendMessage(program.window, WM_COMMAND, ID_FRAME_COUNT, 0);
     CHECK(program.Title() == "Count 1");
+    CHECK(program.HasBeenIdle());
     ::PostMessage(program.window, WM_COMMAND, ID_APP_EXIT, 0);
     CHECK(program.ExitCode() == 100); // 100 tells that there was idle time.
 }
@@ -231,6 +240,7 @@ TEST_CASE("the exit code of a program is what it was told to quit with")
 {
     Frame program;
     ::SendMessage(program.window, WM_COMMAND, ID_FRAME_COUNT, 0);
+    CHECK(program.HasBeenIdle());
     ::PostMessage(program.window, WM_COMMAND, ID_FRAME_QUIT, 0);
     CHECK(program.ExitCode() == 107);
 }

@@ -14,6 +14,7 @@ protected:
         strTitle.Format(_T("Count %d"), ++m_nCount);
         SetWindowText(strTitle);
     }
+    afx_msg LRESULT OnIdleCalls(WPARAM wParam, LPARAM lParam);
     afx_msg void OnUpdateQuit(CCmdUI* pCmdUI) { pCmdUI->Enable(m_nCount > 0); }
 
     DECLARE_MESSAGE_MAP()
@@ -22,6 +23,7 @@ protected:
 BEGIN_MESSAGE_MAP(CMainFrame, CFrameWnd)
     ON_COMMAND(ID_FRAME_COUNT, OnCount)
     ON_UPDATE_COMMAND_UI(ID_FRAME_QUIT, OnUpdateQuit)
+    ON_MESSAGE(WM_FRAME_IDLE_CALLS, OnIdleCalls)
 END_MESSAGE_MAP()
 
 class CFrameApp : public CWinApp
@@ -58,3 +60,8 @@ BEGIN_MESSAGE_MAP(CFrameApp, CWinApp)
 END_MESSAGE_MAP()
 
 CFrameApp theApp;
+
+LRESULT CMainFrame::OnIdleCalls(WPARAM, LPARAM)
+{
+    return theApp.m_nIdle;
+}

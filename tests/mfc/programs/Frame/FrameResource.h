@@ -3,3 +3,4 @@
 #define ID_FRAME_COUNT 32771
 #define ID_FRAME_QUIT 32772
 #define IDS_IDLE 300
+#define WM_FRAME_IDLE_CALLS 0x8001 // Answered with the number of idle calls until now.
