@@ -1,4 +1,6 @@
-#include <afxwin.h>
+#include <afxcmn.h>
+#include <afxdialogex.h>
+#include <afxdlgs.h>
 #include <afxres.h>
 
 #include <doctest/doctest.h>
@@ -40,6 +42,41 @@ HINSTANCE FindIcon()
     return AfxFindResourceHandle(MAKEINTRESOURCE(EXT_ICON), RT_GROUP_ICON);
 }
 
+CString TitleOf(const CWnd& window)
+{
+    CString title;
+    window.GetWindowText(title);
+    return title;
+}
+
+/// The extension DLL once more, from a copy of its file: another module with the same resources.
+class ExtensionCopy
+{
+public:
+    ExtensionCopy()
+    {
+        char folder[MAX_PATH], original[MAX_PATH];
+        ::GetTempPath(MAX_PATH, folder);
+        REQUIRE(::GetTempFileName(folder, "ext", 0, path_) != 0);
+        ::GetModuleFileName(::GetModuleHandle("mfc-test-extension.dll"), original, MAX_PATH);
+        REQUIRE(::CopyFile(original, path_, FALSE));
+        m_hModule = AfxLoadLibrary(path_);
+        REQUIRE(m_hModule != nullptr);
+    }
+    ~ExtensionCopy()
+    {
+        AfxFreeLibrary(m_hModule);
+        ::DeleteFile(path_);
+    }
+    ExtensionCopy(const ExtensionCopy&) = delete;
+    ExtensionCopy& operator=(const ExtensionCopy&) = delete;
+
+    HMODULE m_hModule = nullptr;
+
+private:
+    char path_[MAX_PATH];
+};
+
 } // namespace
 
 TEST_CASE("an extension DLL enters the search for resources by itself and leaves it at the end")
@@ -57,6 +94,102 @@ TEST_CASE("an extension DLL enters the search for resources by itself and leaves
     CHECK(LoadOne(EXT_STRING) == "");
     const Extension again;
     CHECK(LoadOne(EXT_STRING) == "from the extension");
+}
+
+TEST_CASE("the extension DLL that was loaded last is searched first")
+{
+    const Extension extension;
+    REQUIRE(extension.m_hModule != nullptr);
+    {
+        const ExtensionCopy later;
+        CHECK(later.m_hModule != extension.m_hModule);
+        CHECK(FindIcon() == later.m_hModule);
+    }
+    CHECK(FindIcon() == extension.m_hModule);
+}
+
+TEST_CASE("a system module is searched after all extension DLLs, though it came last")
+{
+    const Extension extension;
+    const ExtensionCopy later;
+    AFX_EXTENSION_MODULE state{};
+    // The module that came last enters the list once more, now as a part of the system.
+    REQUIRE(AfxInitExtensionModule(state, later.m_hModule));
+    AfxTermExtensionModule(state);
+    REQUIRE(FindIcon() == extension.m_hModule);
+    REQUIRE(AfxInitExtensionModule(state, later.m_hModule));
+    new CDynLinkLibrary(state, TRUE);
+    CHECK(FindIcon() == extension.m_hModule);
+    AfxTermExtensionModule(state);
+}
+
+TEST_CASE("menus, keys, bitmaps and cursors are looked for in the extension DLLs, too")
+{
+    const Extension extension;
+    CMenu menu;
+    REQUIRE(menu.LoadMenu(EXT_FRAME));
+    CHECK(menu.GetMenuItemCount() == 2);
+
+    CBitmap bitmap;
+    REQUIRE(bitmap.LoadBitmap(EXT_BITMAP));
+    BITMAP data{};
+    CHECK(bitmap.GetBitmap(&data) != 0);
+    CHECK(data.bmWidth == 8);
+    CBitmap mapped;
+    CHECK(mapped.LoadMappedBitmap(EXT_BITMAP));
+    CImageList images;
+    REQUIRE(images.Create(EXT_BITMAP, 4, 0, CLR_NONE));
+    CHECK(images.GetImageCount() == 2);
+
+    CHECK(AfxGetApp()->LoadCursor(EXT_CURSOR) != nullptr);
+    CFrameWnd frame;
+    CHECK(frame.LoadAccelTable(MAKEINTRESOURCE(EXT_FRAME)));
+}
+
+TEST_CASE("a frame takes its menu and title from an extension DLL")
+{
+    const Extension extension;
+    auto* frame = new CFrameWnd;
+    REQUIRE(frame->LoadFrame(EXT_FRAME));
+    CHECK(TitleOf(*frame) == "Frame of the extension");
+    REQUIRE(frame->GetMenu() != NULL);
+    CHECK(frame->GetMenu()->GetMenuItemCount() == 2);
+    frame->DestroyWindow();
+}
+
+TEST_CASE("the templates and contents of dialogs are looked for in the extension DLLs, too")
+{
+    const Extension extension;
+    CDialog modeless;
+    REQUIRE(modeless.Create(EXT_DIALOG));
+    CHECK(TitleOf(modeless) == "Dialog of the extension");
+    CHECK(modeless.SendDlgItemMessage(EXT_LIST, LB_GETCOUNT) == 1);
+    modeless.DestroyWindow();
+
+    class CModal : public CDialog
+    {
+    public:
+        using CDialog::CDialog;
+
+    protected:
+        BOOL OnInitDialog() override
+        {
+            CDialog::OnInitDialog();
+            EndDialog(static_cast<int>(SendDlgItemMessage(EXT_LIST, LB_GETCOUNT)));
+            return TRUE;
+        }
+    } modal(EXT_DIALOG);
+    CHECK(modal.DoModal() == 1);
+
+    CDialogEx painted(EXT_DIALOG);
+    CHECK(painted.SetBackgroundImage(EXT_BITMAP));
+
+    CPropertyPage page(EXT_DIALOG);
+    CPropertySheet sheet("sheet");
+    sheet.AddPage(&page);
+    REQUIRE(sheet.Create());
+    CHECK(page.m_hWnd != NULL);
+    sheet.DestroyWindow();
 }
 
 TEST_CASE("the program's string wins over the DLL's string of the same id")

@@ -10,6 +10,7 @@
 
 #include <functional>
 #include <string>
+#include <thread>
 #include <vector>
 
 #include "tests/mfc/Resources.h"
@@ -34,6 +35,14 @@ DialogTemplate MakeTemplate(DWORD style = DialogTemplate::popup)
     return page;
 }
 
+std::string TextOf(const CWnd& dialog, UINT id)
+{
+    CString text;
+    if (dialog.m_hWnd != NULL)
+        dialog.GetDlgItemText(static_cast<int>(id), text);
+    return text.GetString();
+}
+
 /// Tells what is called, and lets a test act inside.
 class CRecorded : public CDialog
 {
@@ -47,8 +56,17 @@ public:
     int changes = 0;
     BOOL initResult = TRUE;
     std::function<void(CRecorded&)> inInit;
-    std::function<void(CRecorded&)> later; ///< Runs when the loop is idle for the first time.
+    std::function<void(CRecorded&)> later; ///< Runs in the dialog's loop.
+    HWND activeAtEnd = NULL;               ///< The active window when the dialog's is destroyed.
+    std::string textAtEnd;                 ///< What the first edit holds then.
     std::vector<WPARAM> shown;
+
+    BOOL DestroyWindow() override
+    {
+        activeAtEnd = ::GetActiveWindow();
+        textAtEnd = TextOf(*this, editId);
+        return CDialog::DestroyWindow();
+    }
 
 protected:
     void DoDataExchange(CDataExchange* pDX) override
@@ -87,6 +105,13 @@ protected:
         ++changes;
         UpdateData(TRUE);
     }
+    afx_msg void OnTimer(UINT_PTR)
+    {
+        if (until_())
+            EndDialog(IDOK);
+        else if (++looks_ == mostLooks)
+            EndDialog(IDABORT);
+    }
     LRESULT OnLater(WPARAM, LPARAM)
     {
         const auto step = later; // The step may set the next one.
@@ -108,10 +133,24 @@ protected:
 
 public:
     HGDIOBJ font = NULL;
+
+    /// Leaves the loop to itself until something is so; ends the dialog with IDOK then, with
+    /// IDABORT when that never comes.
+    void EndAsSoonAs(std::function<bool()> until)
+    {
+        until_ = std::move(until);
+        SetTimer(1, 10, NULL);
+    }
+
+private:
+    static constexpr int mostLooks = 500;
+    std::function<bool()> until_;
+    int looks_ = 0;
 };
 BEGIN_MESSAGE_MAP(CRecorded, CDialog)
     ON_EN_CHANGE(editId, OnChange)
     ON_MESSAGE(laterMessage, OnLater)
+    ON_WM_TIMER()
     ON_WM_SHOWWINDOW()
     ON_WM_CTLCOLOR()
 END_MESSAGE_MAP()
@@ -119,9 +158,9 @@ END_MESSAGE_MAP()
 class COwnerWindow : public CWnd
 {
 public:
-    COwnerWindow()
+    explicit COwnerWindow(CWnd* owner = NULL)
     {
-        CreateEx(0, NULL, "Owner", WS_POPUP | WS_VISIBLE, CRect(50, 50, 450, 350), NULL, 0);
+        CreateEx(0, NULL, "Owner", WS_POPUP | WS_VISIBLE, CRect(50, 50, 450, 350), owner, 0);
         SetActiveWindow();
     }
     ~COwnerWindow() override { DestroyWindow(); }
@@ -182,6 +221,44 @@ TEST_CASE("a modal dialog disables its owner and gives it back enabled and activ
     CHECK(CWnd::GetActiveWindow() == &owner);
     CHECK(dialog.m_hWnd == NULL);
     CHECK(dialog.calls == "init gone ");
+}
+
+TEST_CASE("a modal dialog hands the activation to its owner before its window goes")
+{
+    COwnerWindow owner;
+    CRecorded dialog;
+    CHECK(Run(
+              dialog,
+              [](CRecorded& self) {
+                  // Not with EndDialog, where the system does it.
+                  self.EndAsSoonAs([&] {
+                      if (CWnd::GetActiveWindow() == &self)
+                          self.EndModalLoop(42);
+                      return false;
+                  });
+              },
+              &owner) == 42);
+    CHECK(owner.IsWindowEnabled());
+    CHECK(dialog.activeAtEnd == owner.m_hWnd);
+    CHECK(CWnd::GetActiveWindow() == &owner);
+}
+
+TEST_CASE("the window above the owner is disabled, too, and enabled again")
+{
+    COwnerWindow above;
+    COwnerWindow owner(&above);
+    CRecorded dialog;
+    bool enabledMeanwhile = true;
+    CHECK(Run(
+              dialog,
+              [&](CRecorded& self) {
+                  enabledMeanwhile = above.IsWindowEnabled() || owner.IsWindowEnabled();
+                  self.EndDialog(1);
+              },
+              &owner) == 1);
+    CHECK_FALSE(enabledMeanwhile);
+    CHECK(above.IsWindowEnabled());
+    CHECK(owner.IsWindowEnabled());
 }
 
 TEST_CASE("a dialog object is good for another DoModal")
@@ -256,19 +333,10 @@ TEST_CASE("a dialog ended in OnInitDialog never shows")
 TEST_CASE("a modal dialog shows although its template does not say so")
 {
     CRecorded dialog;
-    bool visible = false;
-    Run(dialog, [&](CRecorded& self) {
-        self.later = [&](CRecorded& inner) {
-            visible = inner.IsWindowVisible() != FALSE;
-            inner.EndDialog(1);
-        };
-        self.SetTimer(1, 10, NULL);
-        WaitUntil([&] { return self.IsWindowVisible() != FALSE; }, std::chrono::milliseconds(50));
-        self.PostMessage(WM_NULL);
-        self.ShowWindow(SW_SHOW);
-        self.PostMessage(laterMessage);
-    });
-    CHECK(visible);
+    CHECK(Run(dialog, [](CRecorded& self) {
+              CHECK_FALSE(self.IsWindowVisible());
+              self.EndAsSoonAs([&] { return self.IsWindowVisible() != FALSE; });
+          }) == IDOK);
 }
 
 TEST_CASE("OnInitDialog is called without a map entry and fills the controls")
@@ -385,6 +453,38 @@ TEST_CASE("Tab and arrows move the focus in modal and modeless dialogs")
     modeless.DestroyWindow();
 }
 
+TEST_CASE("a key that the dialog has dealt with is not dealt with again")
+{
+    CRecorded modal;
+    CHECK(Run(modal, [](CRecorded& self) {
+              ::PostMessage(self.GetDlgItem(editId)->m_hWnd, WM_CHAR, 'a', 0);
+              self.EndAsSoonAs([&] { return TextOf(self, editId) != ""; });
+          }) == IDOK);
+    CHECK(modal.textAtEnd == "a");
+
+    CRecorded modeless;
+    const DialogTemplate page = MakeTemplate(DialogTemplate::popup | WS_VISIBLE);
+    REQUIRE(modeless.CreateIndirect(page.Get()));
+    modeless.GetDlgItem(editId)->SetFocus();
+    CHECK(TypeText("b"));
+    CHECK(TextOf(modeless, editId) == "b");
+    modeless.DestroyWindow();
+}
+
+TEST_CASE("a modal dialog works in a thread that has no object of the library")
+{
+    std::string text;
+    std::thread([&] {
+        CRecorded dialog;
+        Run(dialog, [](CRecorded& self) {
+            ::PostMessage(self.GetDlgItem(editId)->m_hWnd, WM_CHAR, 'a', 0);
+            self.EndAsSoonAs([&] { return TextOf(self, editId) != ""; });
+        });
+        text = dialog.textAtEnd;
+    }).join();
+    CHECK(text == "a");
+}
+
 TEST_CASE("in a modeless dialog OK and Cancel only hide the window")
 {
     const DialogTemplate page = MakeTemplate(DialogTemplate::popup | WS_VISIBLE);
@@ -458,17 +558,10 @@ TEST_CASE("the owner hears that a modal dialog is idle")
 {
     COwnerWindow owner;
     CRecorded dialog;
-    Run(
-        dialog,
-        [](CRecorded& self) {
-            self.later = [](CRecorded& inner) { inner.EndDialog(1); };
-            ::SetTimer(self.m_hWnd, 1, 30, [](HWND window, UINT, UINT_PTR, DWORD) {
-                ::KillTimer(window, 1);
-                ::PostMessage(window, laterMessage, 0, 0);
-            });
-        },
-        &owner);
-    CHECK(owner.idleMessages > 0);
+    CHECK(Run(
+              dialog,
+              [&](CRecorded& self) { self.EndAsSoonAs([&] { return owner.idleMessages > 0; }); },
+              &owner) == IDOK);
 }
 
 TEST_CASE("a handler's result is the sender's result in a dialog, too")
@@ -538,6 +631,26 @@ TEST_CASE("a dialog of the resources whose place is left open is centred over it
     other.GetWindowRect(&place);
     CHECK(abs(place.CenterPoint().x - over.CenterPoint().x) > 1);
     other.DestroyWindow();
+}
+
+TEST_CASE("a dialog that moves itself at its start is not centred any more")
+{
+    COwnerWindow owner;
+    DialogTemplate open(0, 0, 140, 80);
+    open.Edit(editId, "", 5, 5, 60, 12).Edit(secondId, "0", 70, 5, 60, 12);
+    CRect place;
+    const auto show = [&](std::function<void(CRecorded&)> inInit) {
+        CRecorded dialog;
+        dialog.inInit = std::move(inInit);
+        REQUIRE(dialog.CreateIndirect(open.Get(), &owner));
+        dialog.GetWindowRect(&place);
+        dialog.DestroyWindow();
+        return place.TopLeft();
+    };
+    CHECK(show({}) != CPoint(31, 17));
+    CHECK(show([](CRecorded& self) {
+              self.SetWindowPos(NULL, 31, 17, 0, 0, SWP_NOSIZE | SWP_NOZORDER | SWP_NOACTIVATE);
+          }) == CPoint(31, 17));
 }
 
 TEST_CASE("the font of the template is told before the controls are filled")

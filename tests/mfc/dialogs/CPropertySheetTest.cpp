@@ -104,16 +104,34 @@ BEGIN_MESSAGE_MAP(CNumberPage, CPropertyPage)
     ON_MESSAGE(PSM_QUERYSIBLINGS, &CNumberPage::OnSiblingQuestion)
 END_MESSAGE_MAP()
 
+/// A sheet that sees whether its owner is back before its window goes.
+class CWatchedSheet : public CPropertySheet
+{
+public:
+    using CPropertySheet::CPropertySheet;
+    HWND owner = NULL;
+    bool ownerEnabledAtEnd = false;
+    HWND activeAtEnd = NULL;
+
+    BOOL DestroyWindow() override
+    {
+        ownerEnabledAtEnd = ::IsWindowEnabled(owner) != FALSE;
+        activeAtEnd = ::GetActiveWindow();
+        return CPropertySheet::DestroyWindow();
+    }
+};
+
 struct TwoPages
 {
     ControlHost host;
     CNumberPage first{"First"}, second{"Second"};
-    CPropertySheet sheet{"The sheet", &host};
+    CWatchedSheet sheet{"The sheet", &host};
 
     TwoPages()
     {
         sheet.AddPage(&first);
         sheet.AddPage(&second);
+        sheet.owner = host.m_hWnd;
     }
     /// Runs the steps in the open sheet.
     INT_PTR Run(const std::function<void(Page&)>& steps)
@@ -150,6 +168,8 @@ TEST_CASE("a sheet shows its first page, and OK applies what was entered")
     CHECK(result == IDOK);
     CHECK(ownerDisabled);
     CHECK(two.host.IsWindowEnabled());
+    CHECK(two.sheet.ownerEnabledAtEnd);
+    CHECK(two.sheet.activeAtEnd == two.host.m_hWnd);
     CHECK(two.first.number == 8);
     CHECK(two.first.CountOf("create") == 1);
     CHECK(two.first.CountOf("init") == 1);
@@ -157,6 +177,26 @@ TEST_CASE("a sheet shows its first page, and OK applies what was entered")
     CHECK(two.first.CountOf("ok") == 1);
     CHECK(two.first.m_hWnd == NULL);
     CHECK(two.sheet.m_hWnd == NULL);
+}
+
+TEST_CASE("the window above the owner of a sheet is disabled, too, and enabled again")
+{
+    TwoPages two;
+    CWnd popup;
+    REQUIRE(popup.CreateEx(0, AfxRegisterWndClass(0), "owner", WS_POPUP | WS_VISIBLE, 60, 60, 200,
+                           100, two.host.m_hWnd, NULL));
+    CPropertySheet sheet("sheet", &popup);
+    sheet.AddPage(&two.first);
+    bool enabledMeanwhile = true;
+    NextDialog answer([&](HWND box) {
+        enabledMeanwhile = popup.IsWindowEnabled() || two.host.IsWindowEnabled();
+        Page(box).Click(IDCANCEL);
+    });
+    CHECK(sheet.DoModal() == IDCANCEL);
+    CHECK_FALSE(enabledMeanwhile);
+    CHECK(popup.IsWindowEnabled());
+    CHECK(two.host.IsWindowEnabled());
+    popup.DestroyWindow();
 }
 
 TEST_CASE("Cancel resets the pages and leaves the data alone")

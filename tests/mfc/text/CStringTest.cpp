@@ -515,6 +515,16 @@ TEST_CASE("characters of two bytes are never cut in half")
     CHECK(text.Tokenize("\\", position) == CString(katakanaA) + "A");
     text.Tokenize("\\", position);
     CHECK(position == -1);
+    position = 0; // A delimiter of two bytes is left behind whole.
+    const CString three = CString("one") + katakanaA + "two" + hyou + katakanaA + "three";
+    const CString delimiters = CString(hyou) + katakanaA;
+    CHECK(three.Tokenize(delimiters, position) == "one");
+    CHECK(position == 5);
+    CHECK(three.Tokenize(delimiters, position) == "two");
+    CHECK(position == 10);
+    CHECK(three.Tokenize(delimiters, position) == "three");
+    three.Tokenize(delimiters, position);
+    CHECK(position == -1);
     CHECK(CString("A").CompareNoCase("a") == 0);
     CHECK(CString(katakanaA).CompareNoCase(katakanaChi) != 0);
 }

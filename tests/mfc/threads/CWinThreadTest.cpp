@@ -1,9 +1,13 @@
+// Looks inside the class library: whether temporary objects are gone.
+#include "mfc/src/threads/ThreadState.h"
+
 #include <afxwin.h>
 #include <afxres.h>
 
 #include <doctest/doctest.h>
 
 #include "testing/NextDialog.h"
+#include "testing/Pump.h"
 
 #include "tests/mfc/MessageBoxText.h"
 
@@ -101,6 +105,8 @@ class CThrowingWnd : public CWnd
 {
 public:
     bool m_bRefuseCreation = false;
+    bool m_bForeign = false; // Throws what the library does not know.
+    int m_nPaints = 0;
     BOOL MakeIt()
     {
         return CreateEx(0, AfxRegisterWndClass(0), "throwing", WS_POPUP, 0, 0, 50, 50, NULL, NULL);
@@ -113,7 +119,13 @@ protected:
             AfxThrowResourceException();
         return 0;
     }
-    afx_msg void OnPaint() { AfxThrowResourceException(); }
+    afx_msg void OnPaint()
+    {
+        ++m_nPaints;
+        if (m_bForeign)
+            throw 42;
+        AfxThrowResourceException();
+    }
     afx_msg LRESULT OnThrow(WPARAM byUser, LPARAM)
     {
         if (byUser)
@@ -321,9 +333,49 @@ TEST_CASE("temporary objects are gone after the idle time")
     CHECK(probe.m_pSeen->m_hWnd == strange);
     CHECK(CWnd::FromHandlePermanent(strange) == nullptr);
     CHECK(thread->OnIdle(0));
+    CHECK(afxint::CurrentThread().windows.CountTemporaries() > 0);
     CHECK_FALSE(thread->OnIdle(1));
+    CHECK(afxint::CurrentThread().windows.CountTemporaries() == 0);
     CHECK(::IsWindow(strange)); // The object goes, not its window.
     ::DestroyWindow(strange);
+}
+
+TEST_CASE("a loop inside a handler leaves the outer loop its current message")
+{
+    struct CLoop : CWinThread
+    {
+        std::vector<UINT> m_asked;
+        BOOL IsIdleMessage(MSG* message) override
+        {
+            if (message->message >= WM_APP)
+                m_asked.push_back(message->message);
+            return CWinThread::IsIdleMessage(message);
+        }
+    } loop;
+    struct CNesting : CWnd
+    {
+        CWinThread* m_pLoop = nullptr;
+        std::vector<UINT> m_handled;
+        LRESULT WindowProc(UINT message, WPARAM wParam, LPARAM lParam) override
+        {
+            if (message >= WM_APP && message < 0xC000)
+                m_handled.push_back(message);
+            if (message == askNumber) {
+                PostMessage(throwSomething);
+                m_pLoop->PumpMessage();
+                ::PostQuitMessage(8);
+            }
+            return CWnd::WindowProc(message, wParam, lParam);
+        }
+    } window;
+    REQUIRE(window.CreateEx(0, AfxRegisterWndClass(0), "", WS_POPUP, 0, 0, 10, 10, NULL, NULL));
+    umbra::testing::PumpMessages();
+    window.m_pLoop = &loop;
+    window.PostMessage(askNumber);
+    CHECK(loop.Run() == 8);
+    CHECK(window.m_handled == std::vector<UINT>{askNumber, throwSomething});
+    CHECK(loop.m_asked == std::vector<UINT>{askNumber});
+    window.DestroyWindow();
 }
 
 TEST_CASE("mouse moves without a movement and paints start no idle time")
@@ -357,6 +409,20 @@ TEST_CASE("an exception in WM_PAINT validates the window")
     window.ShowWindow(SW_SHOWNA);
     window.Invalidate();
     window.UpdateWindow();
+    CHECK(window.m_nPaints > 0);
+    CHECK_FALSE(::GetUpdateRect(window.m_hWnd, nullptr, FALSE));
+    window.DestroyWindow();
+}
+
+TEST_CASE("an exception of a foreign kind in WM_PAINT validates the window, too")
+{
+    CThrowingWnd window;
+    window.m_bForeign = true;
+    REQUIRE(window.MakeIt());
+    window.ShowWindow(SW_SHOWNA);
+    window.Invalidate();
+    window.UpdateWindow();
+    CHECK(window.m_nPaints > 0);
     CHECK_FALSE(::GetUpdateRect(window.m_hWnd, nullptr, FALSE));
     window.DestroyWindow();
 }

@@ -59,6 +59,27 @@ TEST_CASE("a temporary object outlives the idle times of a loop that its own han
     CHECK(CountTemporaryWindows() == 0);
 }
 
+TEST_CASE("a temporary object belongs to the outermost handler that asked for it")
+{
+    afxint::DropTemporaryObjects();
+    static Acting* inner;
+    Acting window, nested;
+    inner = &nested;
+    nested.m_act = [] { CWnd::FromHandle(::GetDesktopWindow()); };
+    window.m_act = [] {
+        inner->SendMessage(WM_APP + 1);
+        CWnd* desktop = CWnd::FromHandle(::GetDesktopWindow());
+        afxint::DropTemporaryObjects(); // As the loop of a modal dialog does.
+        CHECK(CountTemporaryWindows() == 1);
+        CHECK(CWnd::FromHandle(::GetDesktopWindow()) == desktop);
+    };
+    window.SendMessage(WM_APP + 1);
+    CWnd* desktop = CWnd::FromHandle(::GetDesktopWindow());
+    window.m_act = [] { CWnd::FromHandle(::GetDesktopWindow()); };
+    window.SendMessage(WM_APP + 1);
+    CHECK(CWnd::FromHandle(::GetDesktopWindow()) == desktop);
+}
+
 TEST_CASE("what a nested handler made is gone after the idle time of the loop around it")
 {
     afxint::DropTemporaryObjects();

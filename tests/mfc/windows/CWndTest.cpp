@@ -420,6 +420,18 @@ TEST_CASE("SubclassWindow fails for a window with an object, and for no window")
     CHECK(CWnd::FromHandle(owner.m_hWnd) == &owner);
 }
 
+TEST_CASE("a window that was only attached is forgotten when it is destroyed")
+{
+    const HWND window =
+        ::CreateWindow("Static", "", WS_POPUP, 0, 0, 10, 10, NULL, NULL, NULL, NULL);
+    CWnd object;
+    REQUIRE(object.Attach(window));
+    CHECK(object.DestroyWindow());
+    CHECK_FALSE(::IsWindow(window));
+    CHECK(object.m_hWnd == nullptr);
+    CHECK(CWnd::FromHandlePermanent(window) == nullptr);
+}
+
 TEST_CASE("a subclassed window that is detached keeps working, and may be attached again")
 {
     const HWND stranger = MakeStranger();
