@@ -8,7 +8,7 @@
 
 #include <mbstring.h>
 
-#include <string>
+#include <string_view>
 
 using afxint::CharacterCode;
 using afxint::Contains;
@@ -154,36 +154,36 @@ int CString::Replace(PCXSTR pszOld, PCXSTR pszNew)
 {
     const std::string_view text = ViewOf(*this);
     const std::string_view wanted = ViewOf(pszOld);
+    const std::string_view added = ViewOf(pszNew);
     if (wanted.empty())
         return 0;
-    std::string result;
+    CString result;
     int replaced = 0;
     int copied = 0;
     for (int at = FindText(text, wanted, 0); at >= 0; at = FindText(text, wanted, copied)) {
-        result.append(text, copied, at - copied).append(ViewOf(pszNew));
+        result.Append(text.data() + copied, at - copied);
+        result.Append(added.data(), static_cast<int>(added.size()));
         copied = at + static_cast<int>(wanted.size());
         ++replaced;
     }
     if (replaced == 0)
         return 0;
-    result.append(text, copied);
-    if (result.size() > longest)
-        AfxThrowMemoryException();
-    SetString(result.data(), static_cast<int>(result.size()));
+    result.Append(text.data() + copied, GetLength() - copied);
+    SetString(result, result.GetLength());
     return replaced;
 }
 
 int CString::Remove(XCHAR chRemove)
 {
-    std::string kept;
+    CString kept;
     ForEachCharacter(ViewOf(*this), 0, [&](int, std::string_view character) {
         if (character != std::string_view(&chRemove, 1))
-            kept += character;
+            kept.Append(character.data(), static_cast<int>(character.size()));
         return true;
     });
-    const int removed = GetLength() - static_cast<int>(kept.size());
+    const int removed = GetLength() - kept.GetLength();
     if (removed > 0)
-        SetString(kept.data(), static_cast<int>(kept.size()));
+        SetString(kept, kept.GetLength());
     return removed;
 }
 

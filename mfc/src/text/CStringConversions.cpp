@@ -11,12 +11,14 @@
 using afxint::MakeWritable;
 using afxint::Narrowed;
 
-std::string afxint::Narrowed(std::wstring_view text)
+CString afxint::Narrowed(std::wstring_view text)
 {
     const int length = static_cast<int>(text.size());
-    const int needed = ::WideCharToMultiByte(CP_ACP, 0, text.data(), length, NULL, 0, NULL, NULL);
-    std::string narrow(needed, '\0');
-    ::WideCharToMultiByte(CP_ACP, 0, text.data(), length, narrow.data(), needed, NULL, NULL);
+    const int needed =
+        ::WideCharToMultiByte(CP_ACP, 0, text.data(), length, NULL, 0, NULL, NULL);
+    CString narrow;
+    ::WideCharToMultiByte(CP_ACP, 0, text.data(), length, narrow.GetBufferSetLength(needed), needed,
+                          NULL, NULL);
     return narrow;
 }
 
@@ -24,8 +26,8 @@ CString::CString(PCYSTR pch, int nLength) : CString()
 {
     if (nLength < 0 || (pch == NULL && nLength > 0))
         AfxThrowInvalidArgException();
-    const std::string narrow = Narrowed({pch, static_cast<size_t>(nLength)});
-    SetString(narrow.data(), static_cast<int>(narrow.size()));
+    const CString narrow = Narrowed({pch, static_cast<size_t>(nLength)});
+    SetString(narrow, narrow.GetLength());
 }
 
 BSTR CString::AllocSysString() const
@@ -66,8 +68,8 @@ CString& CString::Assign(PCYSTR text)
     } else if (IS_INTRESOURCE(text)) {
         LoadString(LOWORD(reinterpret_cast<UINT_PTR>(text)));
     } else {
-        const std::string narrow = Narrowed(text);
-        SetString(narrow.data(), static_cast<int>(narrow.size()));
+        const CString narrow = Narrowed(text);
+        SetString(narrow, narrow.GetLength());
     }
     return *this;
 }
@@ -87,8 +89,11 @@ CString& CString::Assign(char ch, int count)
 
 CString& CString::Assign(wchar_t ch, int count)
 {
-    const std::string narrow = Narrowed(std::wstring(max(count, 0), ch));
-    SetString(narrow.data(), static_cast<int>(narrow.size()));
+    const CString narrow = Narrowed({&ch, 1});
+    CString repeated;
+    for (; count > 0; --count)
+        repeated.Append(narrow, narrow.GetLength());
+    SetString(repeated, repeated.GetLength());
     return *this;
 }
 

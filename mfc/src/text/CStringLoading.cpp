@@ -5,7 +5,7 @@
 #include "text/Narrowing.h"
 #include "text/StringResource.h"
 
-#include <string>
+#include <string_view>
 
 using afxint::Narrowed;
 
@@ -16,8 +16,8 @@ bool LoadInto(CString& string, HINSTANCE module, UINT id, const WORD* language)
     const std::wstring_view text = afxint::FindString(module, id, language);
     if (text.empty())
         return false;
-    const std::string narrow = Narrowed(text);
-    string.SetString(narrow.data(), static_cast<int>(narrow.size()));
+    const CString narrow = Narrowed(text);
+    string.SetString(narrow, narrow.GetLength());
     return true;
 }
 

@@ -1,12 +1,13 @@
 // Wide text in the code page of the system.
 #pragma once
 
-#include <string>
+#include <classes/CString.h>
+
 #include <string_view>
 
 namespace afxint {
 
 /// The text in the system's code page; what that lacks becomes the system's substitute.
-std::string Narrowed(std::wstring_view text);
+CString Narrowed(std::wstring_view text);
 
 } // namespace afxint

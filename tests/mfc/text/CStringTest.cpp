@@ -3,6 +3,7 @@
 #include <doctest/doctest.h>
 
 #include "tests/mfc/text/CStringTest.h"
+#include "tests/mfc/LittleMemory.h"
 #include "tests/mfc/Throws.h"
 
 #include <mbctype.h>
@@ -527,6 +528,30 @@ TEST_CASE("characters of two bytes are never cut in half")
     CHECK(position == -1);
     CHECK(CString("A").CompareNoCase("a") == 0);
     CHECK(CString(katakanaA).CompareNoCase(katakanaChi) != 0);
+}
+
+TEST_CASE("a string for which memory does not suffice throws the library's exception and stays")
+{
+    constexpr int much = static_cast<int>(LittleMemory::bigBlock);
+    const CString big('x', much);
+    const std::wstring wide(much, L'w');
+    CString text("before");
+    CString changed = big;
+    const auto lacksMemory = [](auto action) { return Throws<CMemoryException>(action); };
+    const LittleMemory memory;
+    REQUIRE(memory.IsInstalled());
+    CHECK(lacksMemory([&] { text = wide.c_str(); }));
+    CHECK(lacksMemory([&] { CString made(wide.c_str(), much); }));
+    CHECK(lacksMemory([&] { CString made(L'w', much); }));
+    CHECK(lacksMemory([&] { text = CString('c', much); }));
+    CHECK(lacksMemory([&] { text += big; }));
+    CHECK(lacksMemory([&] { text.Replace("before", big); }));
+    CHECK(lacksMemory([&] { text.Insert(3, big); }));
+    CHECK(lacksMemory([&] { text.Format("%s", big); }));
+    CHECK(lacksMemory([&] { changed.Replace("x", "yy"); }));
+    CHECK(lacksMemory([&] { changed.Remove('z'); }));
+    CHECK(text == "before");
+    CHECK(changed == big);
 }
 
 TEST_CASE("letters beyond ASCII change their case as the system's code page says")
