@@ -9,6 +9,7 @@
 
 #include <cstdint>
 #include <new>
+#include <type_traits>
 #include <utility>
 
 /// Copies elements into elements that exist already; may be specialised.
@@ -22,7 +23,8 @@ void AFXAPI CopyElements(TYPE* pDest, const TYPE* pSrc, INT_PTR nCount)
 namespace afxint {
 
 /// Elements in one block that grows. Elements move in memory when it does; those that can be
-/// neither moved nor copied move bit by bit.
+/// neither moved nor copied move bit by bit. An exception out of an element leaves an array of
+/// whole elements.
 template <class TYPE, class ARG_TYPE>
 class ArrayBase : public CObject
 {
@@ -66,11 +68,21 @@ private:
             AfxThrowInvalidArgException();
         return index;
     }
+    INT_PTR CapacityFor(INT_PTR size) const;
     void Reserve(INT_PTR capacity);
     void Reallocate(INT_PTR capacity);
+    static TYPE* Allocate(INT_PTR capacity);
+    static void Free(TYPE* block);
+    void Rebuild(INT_PTR capacity, INT_PTR gap, INT_PTR count);
     void OpenGap(INT_PTR index, INT_PTR count);
     void FreeAll();
     static void Relocate(TYPE* to, TYPE* from, INT_PTR count);
+
+    // Whether elements change their place without the risk of an exception half way.
+    static constexpr bool movesBits =
+        std::is_trivially_copyable_v<TYPE> || !std::is_move_constructible_v<TYPE>;
+    static constexpr bool movesSafely =
+        movesBits || std::is_nothrow_move_constructible_v<TYPE> || !std::is_move_assignable_v<TYPE>;
 
     TYPE* data_ = NULL;
     INT_PTR size_ = 0;
@@ -177,24 +189,53 @@ void ArrayBase<TYPE, ARG_TYPE>::RemoveAt(INT_PTR nIndex, INT_PTR nCount)
 {
     if (nIndex < 0 || nCount < 0 || nIndex > size_ || nCount > size_ - nIndex)
         AfxThrowInvalidArgException();
-    for (INT_PTR i = nIndex; i < nIndex + nCount; ++i)
-        data_[i].~TYPE();
-    Relocate(data_ + nIndex, data_ + nIndex + nCount, size_ - nIndex - nCount);
-    size_ -= nCount;
+    if constexpr (movesSafely) {
+        for (INT_PTR i = nIndex; i < nIndex + nCount; ++i)
+            data_[i].~TYPE();
+        Relocate(data_ + nIndex, data_ + nIndex + nCount, size_ - nIndex - nCount);
+        size_ -= nCount;
+    } else {
+        for (INT_PTR i = nIndex; i < size_ - nCount; ++i)
+            data_[i] = std::move(data_[i + nCount]);
+        for (; nCount > 0; --nCount)
+            data_[--size_].~TYPE();
+    }
+}
+
+/// The capacity after growing to a size, if need be.
+template <class TYPE, class ARG_TYPE>
+INT_PTR ArrayBase<TYPE, ARG_TYPE>::CapacityFor(INT_PTR size) const
+{
+    if (size <= capacity_)
+        return capacity_;
+    const INT_PTR step = growBy_ > 0 ? growBy_ : max(size_ / 2, 4);
+    // The first block is exact: most arrays get their size once.
+    return capacity_ == 0 ? max(size, growBy_) : max(size, capacity_ + step);
 }
 
 template <class TYPE, class ARG_TYPE>
 void ArrayBase<TYPE, ARG_TYPE>::Reserve(INT_PTR capacity)
 {
-    if (capacity <= capacity_)
-        return;
-    const INT_PTR step = growBy_ > 0 ? growBy_ : max(size_ / 2, 4);
-    // The first block is exact: most arrays get their size once.
-    Reallocate(capacity_ == 0 ? max(capacity, growBy_) : max(capacity, capacity_ + step));
+    if (capacity > capacity_)
+        Reallocate(CapacityFor(capacity));
 }
 
 template <class TYPE, class ARG_TYPE>
 void ArrayBase<TYPE, ARG_TYPE>::Reallocate(INT_PTR capacity)
+{
+    if constexpr (movesSafely) {
+        TYPE* block = Allocate(capacity);
+        Relocate(block, data_, size_);
+        Free(data_);
+        data_ = block;
+        capacity_ = capacity;
+    } else {
+        Rebuild(capacity, size_, 0);
+    }
+}
+
+template <class TYPE, class ARG_TYPE>
+TYPE* ArrayBase<TYPE, ARG_TYPE>::Allocate(INT_PTR capacity)
 {
     if (capacity > PTRDIFF_MAX / static_cast<INT_PTR>(sizeof(TYPE)))
         AfxThrowMemoryException();
@@ -202,9 +243,40 @@ void ArrayBase<TYPE, ARG_TYPE>::Reallocate(INT_PTR capacity)
                                   std::align_val_t{alignof(TYPE)}, std::nothrow);
     if (block == NULL)
         AfxThrowMemoryException();
-    Relocate(static_cast<TYPE*>(block), data_, size_);
-    ::operator delete (data_, std::align_val_t{alignof(TYPE)});
-    data_ = static_cast<TYPE*>(block);
+    return static_cast<TYPE*>(block);
+}
+
+template <class TYPE, class ARG_TYPE>
+void ArrayBase<TYPE, ARG_TYPE>::Free(TYPE* block)
+{
+    ::operator delete (static_cast<void*>(block), std::align_val_t{alignof(TYPE)});
+}
+
+/// Puts the elements into a new block, with `count` fresh ones at `gap`. The old block stays as it
+/// was until all of them are there.
+template <class TYPE, class ARG_TYPE>
+void ArrayBase<TYPE, ARG_TYPE>::Rebuild(INT_PTR capacity, INT_PTR gap, INT_PTR count)
+{
+    TYPE* block = Allocate(capacity);
+    INT_PTR built = 0;
+    try {
+        for (; built < size_ + count; ++built) {
+            void* place = block + built;
+            if (built >= gap && built < gap + count)
+                ::new (place) TYPE();
+            else
+                ::new (place)
+                    TYPE(std::move_if_noexcept(data_[built < gap ? built : built - count]));
+        }
+    } catch (...) {
+        while (built > 0)
+            block[--built].~TYPE();
+        Free(block);
+        throw;
+    }
+    FreeAll();
+    data_ = block;
+    size_ = built;
     capacity_ = capacity;
 }
 
@@ -216,11 +288,23 @@ void ArrayBase<TYPE, ARG_TYPE>::OpenGap(INT_PTR index, INT_PTR count)
         SetSize(index + count);
         return;
     }
-    Reserve(size_ + count);
-    Relocate(data_ + index + count, data_ + index, size_ - index);
-    for (INT_PTR i = 0; i < count; ++i)
-        ::new (static_cast<void*>(data_ + index + i)) TYPE();
-    size_ += count;
+    if constexpr (movesSafely) {
+        Reserve(size_ + count);
+        Relocate(data_ + index + count, data_ + index, size_ - index);
+        INT_PTR built = 0;
+        try {
+            for (; built < count; ++built)
+                ::new (static_cast<void*>(data_ + index + built)) TYPE();
+        } catch (...) {
+            while (built > 0)
+                data_[index + --built].~TYPE();
+            Relocate(data_ + index, data_ + index + count, size_ - index);
+            throw;
+        }
+        size_ += count;
+    } else {
+        Rebuild(CapacityFor(size_ + count), index, count);
+    }
 }
 
 template <class TYPE, class ARG_TYPE>
@@ -230,7 +314,7 @@ void ArrayBase<TYPE, ARG_TYPE>::FreeAll()
         --size_;
         data_[size_].~TYPE();
     }
-    ::operator delete (data_, std::align_val_t{alignof(TYPE)});
+    Free(data_);
     data_ = NULL;
     capacity_ = 0;
 }
@@ -241,7 +325,7 @@ void ArrayBase<TYPE, ARG_TYPE>::Relocate(TYPE* to, TYPE* from, INT_PTR count)
 {
     if (count <= 0 || to == from)
         return;
-    if constexpr (std::is_trivially_copyable_v<TYPE> || !std::is_move_constructible_v<TYPE>) {
+    if constexpr (movesBits) {
         memmove(static_cast<void*>(to), static_cast<const void*>(from), count * sizeof(TYPE));
     } else {
         const bool backwards = to > from;

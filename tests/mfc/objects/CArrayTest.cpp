@@ -4,6 +4,7 @@
 
 #include "tests/mfc/Throws.h"
 
+#include <climits>
 #include <string>
 
 namespace {
@@ -45,6 +46,65 @@ public:
 private:
     const Counted* self_;
 };
+
+/// Throws when too many instances are made, in either way of moving in memory.
+template <bool movesSafely>
+class Limited : public Counted
+{
+public:
+    Limited(int number = 0) : Counted(number) { Count(); }
+    Limited(const Limited& other) : Counted(other) { Count(); }
+    Limited(Limited&& other) noexcept(movesSafely) : Counted(other)
+    {
+        if (!movesSafely)
+            Count();
+    }
+    Limited& operator=(const Limited&) = default;
+    static inline int allowed = INT_MAX; ///< So many more may be made.
+
+private:
+    static void Count()
+    {
+        if (allowed == 0)
+            throw 42;
+        --allowed;
+    }
+};
+
+/// Lets each construction in the middle of an insertion fail once, and looks at the array after it.
+template <class Element>
+void CheckFailingInsertion()
+{
+    Counted::misused = 0;
+    for (int allowed = 0;; ++allowed) {
+        CAPTURE(allowed);
+        CArray<Element> array;
+        array.SetSize(0, 20);
+        for (int i = 0; i < 5; ++i)
+            array.Add(Element(i));
+        if (allowed % 2 != 0)
+            array.FreeExtra(); // The insertion needs a new block then.
+        bool failed = false;
+        Element added(9);
+        Element::allowed = allowed / 2;
+        try {
+            array.InsertAt(2, added, 3);
+        } catch (int) {
+            failed = true;
+        }
+        Element::allowed = INT_MAX;
+        CHECK(Counted::alive == array.GetSize() + 1);
+        CHECK(array[0].value == 0);
+        CHECK(array[1].value == 1);
+        CHECK(array[array.GetUpperBound()].value == 4);
+        if (failed)
+            CHECK(array.GetSize() == 5);
+        else if (allowed % 2 != 0)
+            break;
+    }
+    CHECK(Counted::alive == 0);
+    CHECK(Counted::misused == 0);
+}
 
 /// Can be neither copied nor moved, like windows and files.
 class Uncopyable : public CObject
@@ -185,6 +245,12 @@ TEST_CASE("every element is made once, moved properly and destroyed once")
     }
     CHECK(Counted::alive == 0);
     CHECK(Counted::misused == 0);
+}
+
+TEST_CASE("an insertion whose elements cannot be made leaves the array as it was")
+{
+    CheckFailingInsertion<Limited<true>>();
+    CheckFailingInsertion<Limited<false>>();
 }
 
 TEST_CASE("an array holds objects that cannot be copied")
