@@ -21,7 +21,8 @@ public:
 
     void Delete();
     /// Copies the text that explains the exception; FALSE, and an empty text, when there is none.
-    virtual BOOL GetErrorMessage(LPTSTR lpszError, UINT nMaxError, PUINT pnHelpContext = NULL);
+    virtual BOOL GetErrorMessage(LPTSTR lpszError, UINT nMaxError,
+                                 PUINT pnHelpContext = NULL) const;
     /// Shows the text of the exception, else string nMessageID, and returns the button.
     virtual int ReportError(UINT nType = MB_OK, UINT nMessageID = 0);
 
@@ -37,7 +38,8 @@ class CSimpleException : public CException
 public:
     CSimpleException();
     explicit CSimpleException(BOOL bAutoDelete);
-    BOOL GetErrorMessage(LPTSTR lpszError, UINT nMaxError, PUINT pnHelpContext = NULL) override;
+    BOOL GetErrorMessage(LPTSTR lpszError, UINT nMaxError,
+                         PUINT pnHelpContext = NULL) const override;
 
 private:
     friend class CMemoryException;

@@ -38,7 +38,8 @@ public:
     static void PASCAL ThrowOsError(LONG lOsError, LPCTSTR lpszFileName = NULL);
     static void PASCAL ThrowErrno(int nErrno, LPCTSTR lpszFileName = NULL);
 
-    BOOL GetErrorMessage(LPTSTR lpszError, UINT nMaxError, PUINT pnHelpContext = NULL) override;
+    BOOL GetErrorMessage(LPTSTR lpszError, UINT nMaxError,
+                         PUINT pnHelpContext = NULL) const override;
 
     int m_cause;           ///< One of the causes above.
     LONG m_lOsError;       ///< The system's error code; -1 when there is none.

@@ -115,7 +115,7 @@ void PASCAL CFileException::ThrowErrno(int nErrno, LPCTSTR lpszFileName)
         AfxThrowFileException(ErrnoToException(nErrno), -1, lpszFileName);
 }
 
-BOOL CFileException::GetErrorMessage(LPTSTR lpszError, UINT nMaxError, PUINT pnHelpContext)
+BOOL CFileException::GetErrorMessage(LPTSTR lpszError, UINT nMaxError, PUINT pnHelpContext) const
 {
     if (lpszError == NULL || nMaxError == 0)
         return FALSE;

@@ -21,7 +21,7 @@ void CException::Delete()
         delete this;
 }
 
-BOOL CException::GetErrorMessage(LPTSTR lpszError, UINT nMaxError, PUINT pnHelpContext)
+BOOL CException::GetErrorMessage(LPTSTR lpszError, UINT nMaxError, PUINT pnHelpContext) const
 {
     if (pnHelpContext != NULL)
         *pnHelpContext = 0;
@@ -51,7 +51,7 @@ CSimpleException::CSimpleException(BOOL bAutoDelete, UINT nMessageID)
 {
 }
 
-BOOL CSimpleException::GetErrorMessage(LPTSTR lpszError, UINT nMaxError, PUINT pnHelpContext)
+BOOL CSimpleException::GetErrorMessage(LPTSTR lpszError, UINT nMaxError, PUINT pnHelpContext) const
 {
     CException::GetErrorMessage(lpszError, nMaxError, pnHelpContext);
     if (messageId_ == 0 || lpszError == NULL || nMaxError == 0)

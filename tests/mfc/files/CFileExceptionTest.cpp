@@ -101,7 +101,7 @@ TEST_CASE("a thrown file exception carries the error and the file")
 
 TEST_CASE("a file exception names the file and the system's reason")
 {
-    CFileException error(CFileException::fileNotFound, ERROR_FILE_NOT_FOUND, "the file");
+    const CFileException error(CFileException::fileNotFound, ERROR_FILE_NOT_FOUND, "the file");
     const CString text = MessageOf(error);
     CHECK(text.Find("the file: ") == 0);
     CHECK(text.GetLength() > 12);
@@ -121,7 +121,7 @@ TEST_CASE("without a reason of the system the cause is named by its number")
 
 TEST_CASE("a message that is too long is cut, and one without room is refused")
 {
-    CFileException error(CFileException::fileNotFound, ERROR_FILE_NOT_FOUND, "the file");
+    const CFileException error(CFileException::fileNotFound, ERROR_FILE_NOT_FOUND, "the file");
     CHECK(MessageOf(error, 5) == "the ");
     CHECK_FALSE(error.GetErrorMessage(NULL, 0));
 }
