@@ -136,7 +136,9 @@ HINSTANCE AFXAPI AfxGetResourceHandle()
 
 void AFXAPI AfxSetResourceHandle(HINSTANCE hInstResource)
 {
-    afxint::Module().resource = hInstResource;
+    // The program is meant by NULL, here and in the system's own functions.
+    AFX_MODULE_STATE& state = afxint::Module();
+    state.resource = hInstResource == NULL ? state.instance : hInstResource;
 }
 
 HINSTANCE AFXAPI AfxFindResourceHandle(LPCTSTR lpszName, LPCTSTR lpszType)

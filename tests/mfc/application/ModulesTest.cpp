@@ -5,6 +5,7 @@
 
 #include <doctest/doctest.h>
 
+#include "tests/mfc/Resources.h"
 #include "tests/mfc/programs/Extension/ExtensionResource.h"
 
 namespace {
@@ -233,6 +234,16 @@ TEST_CASE("the resource module can be another one than the program")
     CHECK(LoadOne(EXT_STRING_OF_BOTH) == "from the extension, too");
     CHECK(LoadOne(EXT_STRING_OF_PROGRAM) == "");
     CHECK(AfxGetInstanceHandle() == program);
+    AfxSetResourceHandle(program);
+}
+
+TEST_CASE("NULL as the resource module means the program")
+{
+    const HINSTANCE program = AfxGetResourceHandle();
+    AfxSetResourceHandle(NULL);
+    CHECK(AfxGetResourceHandle() == program);
+    CHECK(LoadOne(EXT_STRING_OF_PROGRAM) == "only in the program");
+    CHECK(AfxFindResourceHandle(MAKEINTRESOURCE(IDR_FRAME), RT_MENU) == program);
     AfxSetResourceHandle(program);
 }
 
