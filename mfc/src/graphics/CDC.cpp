@@ -57,7 +57,7 @@ CDC* PASCAL CDC::FromHandle(HDC hDC)
 
 void PASCAL CDC::DeleteTempMap()
 {
-    CurrentThread().dcs.DropTemporaries(-1);
+    CurrentThread().dcs.DropTemporaries(afxint::DepthOfIdleTime());
 }
 
 BOOL CDC::Attach(HDC hDC)

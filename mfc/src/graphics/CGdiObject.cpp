@@ -74,7 +74,7 @@ CGdiObject* PASCAL CGdiObject::FromHandle(HGDIOBJ hObject)
 
 void PASCAL CGdiObject::DeleteTempMap()
 {
-    CurrentThread().gdiObjects.DropTemporaries(-1);
+    CurrentThread().gdiObjects.DropTemporaries(afxint::DepthOfIdleTime());
 }
 
 BOOL CGdiObject::Attach(HGDIOBJ hObject)

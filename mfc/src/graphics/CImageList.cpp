@@ -56,7 +56,7 @@ CImageList* PASCAL CImageList::FromHandlePermanent(HIMAGELIST hImageList)
 
 void PASCAL CImageList::DeleteTempMap()
 {
-    CurrentThread().imageLists.DropTemporaries(-1);
+    CurrentThread().imageLists.DropTemporaries(afxint::DepthOfIdleTime());
 }
 
 BOOL CImageList::Attach(HIMAGELIST hImageList)

@@ -51,11 +51,16 @@ int HandlerDepth()
     return CurrentThread().handlerDepth;
 }
 
+int DepthOfIdleTime()
+{
+    // What was made outside of handlers lives until the next idle time of any loop.
+    const int depth = HandlerDepth();
+    return depth == 0 ? -1 : depth;
+}
+
 void DropTemporaryObjects()
 {
-    ThreadState& thread = CurrentThread();
-    // What was made outside of handlers lives until the next idle time of any loop.
-    DropTemporaries(thread, thread.handlerDepth == 0 ? -1 : thread.handlerDepth);
+    DropTemporaries(CurrentThread(), DepthOfIdleTime());
 }
 
 } // namespace afxint

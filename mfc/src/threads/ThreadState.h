@@ -69,6 +69,10 @@ struct ThreadState
 /// The state of the calling thread, made on first use and freed when the thread ends.
 ThreadState& CurrentThread();
 
+/// The depth in handlers up to which temporary objects outlive an idle time of the calling thread:
+/// running handlers may still hold those.
+int DepthOfIdleTime();
+
 /// Deletes the temporary objects of the calling thread that no running handler can still hold.
 void DropTemporaryObjects();
 

@@ -69,7 +69,7 @@ CMenu* PASCAL CMenu::FromHandle(HMENU hMenu)
 
 void PASCAL CMenu::DeleteTempMap()
 {
-    CurrentThread().menus.DropTemporaries(-1);
+    CurrentThread().menus.DropTemporaries(afxint::DepthOfIdleTime());
 }
 
 BOOL CMenu::Attach(HMENU hMenu)

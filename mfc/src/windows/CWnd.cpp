@@ -77,7 +77,7 @@ CWnd* PASCAL CWnd::FromHandlePermanent(HWND hWnd)
 
 void PASCAL CWnd::DeleteTempMap()
 {
-    CurrentThread().windows.DropTemporaries(CurrentThread().handlerDepth);
+    CurrentThread().windows.DropTemporaries(afxint::DepthOfIdleTime());
 }
 
 BOOL CWnd::Attach(HWND hWndNew)

@@ -1,9 +1,11 @@
 // Looks inside the class library: how long temporary objects live.
 #include "mfc/src/threads/ThreadState.h"
 
-#include <afxwin.h>
+#include <afxcmn.h>
 
 #include <doctest/doctest.h>
+
+#include <vector>
 
 using afxint::CurrentThread;
 
@@ -78,6 +80,55 @@ TEST_CASE("a temporary object belongs to the outermost handler that asked for it
     window.m_act = [] { CWnd::FromHandle(::GetDesktopWindow()); };
     window.SendMessage(WM_APP + 1);
     CHECK(CWnd::FromHandle(::GetDesktopWindow()) == desktop);
+}
+
+TEST_CASE("DeleteTempMap takes all that no running handler holds, of each kind alike")
+{
+    afxint::DropTemporaryObjects();
+    const auto count = [] {
+        const auto& state = CurrentThread();
+        return std::vector<size_t>{state.windows.CountTemporaries(),
+                                   state.gdiObjects.CountTemporaries(),
+                                   state.dcs.CountTemporaries(), state.menus.CountTemporaries(),
+                                   state.imageLists.CountTemporaries()};
+    };
+    static const HDC dc = ::CreateCompatibleDC(NULL);
+    static const HMENU menu = ::CreateMenu();
+    static const HIMAGELIST images = ::ImageList_Create(4, 4, ILC_COLOR, 1, 1);
+    static const auto make = [] {
+        CWnd::FromHandle(::GetDesktopWindow());
+        CGdiObject::FromHandle(::GetStockObject(WHITE_BRUSH));
+        CDC::FromHandle(dc);
+        CMenu::FromHandle(menu);
+        CImageList::FromHandle(images);
+    };
+    static const auto drop = [] {
+        CWnd::DeleteTempMap();
+        CGdiObject::DeleteTempMap();
+        CDC::DeleteTempMap();
+        CMenu::DeleteTempMap();
+        CImageList::DeleteTempMap();
+    };
+    const std::vector<size_t> none(5, 0);
+    const std::vector<size_t> one(5, 1);
+    make();
+    CHECK(count() == one);
+    drop();
+    CHECK(count() == none);
+
+    Acting window;
+    afxint::DropTemporaryObjects();
+    window.m_act = [] {
+        make();
+        drop();
+    };
+    window.SendMessage(WM_APP + 1);
+    CHECK(count() == one); // The handler ran.
+    drop();
+    CHECK(count() == none);
+    ::ImageList_Destroy(images);
+    ::DestroyMenu(menu);
+    ::DeleteDC(dc);
 }
 
 TEST_CASE("what a nested handler made is gone after the idle time of the loop around it")
