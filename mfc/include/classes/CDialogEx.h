@@ -35,9 +35,10 @@ public:
 protected:
     DECLARE_MESSAGE_MAP()
 
-private:
     afx_msg BOOL OnEraseBkgnd(CDC* pDC);
     afx_msg HBRUSH OnCtlColor(CDC* pDC, CWnd* pWnd, UINT nCtlColor);
+
+private:
     void DropImage();
 
     HBITMAP image_ = NULL;

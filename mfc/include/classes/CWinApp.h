@@ -111,6 +111,8 @@ public:
     afx_msg void OnHelpIndex();
     afx_msg void OnHelpUsing();
     afx_msg void OnContextHelp();
+    /// Closes the main window; in the map of the base under ID_APP_EXIT.
+    afx_msg void OnAppExit();
 
 protected:
     void SetRegistryKey(LPCTSTR lpszRegistryKey);
@@ -129,7 +131,6 @@ protected:
 private:
     friend BOOL AFXAPI AfxWinInit(HINSTANCE hInstance, HINSTANCE hPrevInstance, LPTSTR lpCmdLine,
                                   int nCmdShow);
-    afx_msg void OnAppExit();
     void SetNames();
     void GiveHelp(DWORD_PTR data, UINT winHelpCommand, UINT htmlHelpCommand);
     bool TakeSwitch(LPCTSTR name);

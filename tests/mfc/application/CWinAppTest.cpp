@@ -219,3 +219,32 @@ TEST_CASE("the main window owns message boxes, and a dialog over it before that"
     thread->m_pMainWnd = NULL;
     frame.DestroyWindow();
 }
+
+namespace {
+
+/// Names the handler of the base in its map and calls it from a handler of its own.
+class CLeavingApp : public CWinApp
+{
+public:
+    void OnLeave() { CWinApp::OnAppExit(); }
+    DECLARE_MESSAGE_MAP()
+};
+BEGIN_MESSAGE_MAP(CLeavingApp, CWinApp)
+    ON_COMMAND(ID_APP_EXIT, &CWinApp::OnAppExit)
+    ON_COMMAND(ID_APP_ABOUT, &CLeavingApp::OnLeave)
+END_MESSAGE_MAP()
+
+} // namespace
+
+TEST_CASE("a derived application may name the standard command that ends it")
+{
+    for (const UINT command : {ID_APP_EXIT, ID_APP_ABOUT}) {
+        CAPTURE(command);
+        CLeavingApp app;
+        CWnd window;
+        REQUIRE(window.CreateEx(0, AfxRegisterWndClass(0), "", WS_POPUP, 0, 0, 9, 9, NULL, NULL));
+        app.m_pMainWnd = &window;
+        CHECK(app.OnCmdMsg(command, CN_COMMAND, NULL, NULL));
+        CHECK(window.m_hWnd == NULL);
+    }
+}

@@ -64,3 +64,39 @@ TEST_CASE("a dialog shows its background image in a corner or all over")
     CHECK(page.Show().CountOf(red) == 0);
     CHECK_FALSE(dialog.SetBackgroundImage(9199u));
 }
+
+TEST_CASE("a derived dialog may name the handlers of the base")
+{
+    class CDerived : public CDialogEx
+    {
+    public:
+        CDerived() : CDialogEx(0u) {}
+        int erased = 0;
+        int coloured = 0;
+
+    protected:
+        LRESULT WindowProc(UINT message, WPARAM wParam, LPARAM lParam) override
+        {
+            CDC* dc = message == WM_ERASEBKGND || message == WM_CTLCOLORSTATIC
+                          ? CDC::FromHandle(reinterpret_cast<HDC>(wParam))
+                          : NULL;
+            if (message == WM_ERASEBKGND) {
+                ++erased;
+                return CDialogEx::OnEraseBkgnd(dc);
+            }
+            if (message == WM_CTLCOLORSTATIC) {
+                ++coloured;
+                CWnd* label = CWnd::FromHandle(reinterpret_cast<HWND>(lParam));
+                return reinterpret_cast<LRESULT>(CDialogEx::OnCtlColor(dc, label, CTLCOLOR_STATIC));
+            }
+            return CDialogEx::WindowProc(message, wParam, lParam);
+        }
+    } dialog;
+    dialog.SetBackgroundColor(ownColor, FALSE);
+    Page page(dialog, Template());
+    REQUIRE(page.IsOpen());
+    const Picture picture = page.Show();
+    CHECK(picture.CountOf(ownColor) == picture.Width() * picture.Height());
+    CHECK(dialog.erased > 0);
+    CHECK(dialog.coloured > 0);
+}
