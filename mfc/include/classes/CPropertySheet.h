@@ -41,6 +41,7 @@ public:
     void RemovePage(CPropertyPage* pPage);
     void RemovePage(int nPage);
     int GetPageCount() const;
+    /// NULL when there is no such page.
     CPropertyPage* GetPage(int nPage) const;
     /// -1 when the page is not of this sheet.
     int GetPageIndex(CPropertyPage* pPage);
@@ -68,13 +69,14 @@ protected:
     DECLARE_MESSAGE_MAP()
 
     BOOL OnCommand(WPARAM wParam, LPARAM lParam) override;
+    afx_msg void OnClose();
 
 private:
     friend struct afxint::PropertySheetHook;
 
     LRESULT OnInitDialogMessage(WPARAM wParam, LPARAM lParam);
     LRESULT OnPressButtonMessage(WPARAM wParam, LPARAM lParam);
-    afx_msg void OnClose();
+    bool HasPage(int index) const;
     bool ShowSheet(HWND owner);
     void HideButtons();
 

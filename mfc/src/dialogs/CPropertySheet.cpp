@@ -140,6 +140,8 @@ void CPropertySheet::RemovePage(CPropertyPage* pPage)
 
 void CPropertySheet::RemovePage(int nPage)
 {
+    if (!HasPage(nPage))
+        return;
     if (m_hWnd != NULL)
         Ask(m_hWnd, PSM_REMOVEPAGE, nPage);
     pages_.erase(pages_.begin() + nPage);
@@ -152,7 +154,7 @@ int CPropertySheet::GetPageCount() const
 
 CPropertyPage* CPropertySheet::GetPage(int nPage) const
 {
-    return pages_[nPage];
+    return HasPage(nPage) ? pages_[nPage] : NULL;
 }
 
 int CPropertySheet::GetPageIndex(CPropertyPage* pPage)
@@ -174,6 +176,8 @@ int CPropertySheet::GetActiveIndex() const
 
 BOOL CPropertySheet::SetActivePage(int nPage)
 {
+    if (!HasPage(nPage))
+        return FALSE;
     if (m_hWnd != NULL)
         return Ask(m_hWnd, PSM_SETCURSEL, nPage);
     m_psh.nStartPage = nPage;
@@ -297,6 +301,11 @@ void CPropertySheet::OnClose()
         PressButton(PSBTN_CANCEL);
     else
         DestroyWindow();
+}
+
+bool CPropertySheet::HasPage(int index) const
+{
+    return index >= 0 && index < GetPageCount();
 }
 
 bool CPropertySheet::ShowSheet(HWND owner)

@@ -332,6 +332,51 @@ TEST_CASE("pages are added and removed while the sheet is open")
     });
 }
 
+TEST_CASE("a page that there is not is neither given, shown nor removed")
+{
+    TwoPages two;
+    const auto check = [&] {
+        for (const int index : {-1, 2, INT_MAX}) {
+            CAPTURE(index);
+            CHECK(two.sheet.GetPage(index) == NULL);
+            CHECK_FALSE(two.sheet.SetActivePage(index));
+            two.sheet.RemovePage(index);
+            CHECK(two.sheet.GetPageCount() == 2);
+            CHECK(two.sheet.GetActivePage() == &two.first);
+        }
+    };
+    check();
+    two.Run([&](Page& box) {
+        check();
+        box.Click(IDCANCEL);
+    });
+}
+
+TEST_CASE("a derived sheet may leave closing to the base")
+{
+    class CAsking : public CPropertySheet
+    {
+    public:
+        using CPropertySheet::CPropertySheet;
+        int closings = 0;
+        LRESULT WindowProc(UINT message, WPARAM wParam, LPARAM lParam) override
+        {
+            if (message != WM_CLOSE)
+                return CPropertySheet::WindowProc(message, wParam, lParam);
+            ++closings;
+            CPropertySheet::OnClose();
+            return 0;
+        }
+    };
+    ControlHost host;
+    CNumberPage page("page");
+    CAsking sheet("sheet", &host);
+    sheet.AddPage(&page);
+    NextDialog answer([](HWND box) { ::SendMessage(box, WM_CLOSE, 0, 0); });
+    CHECK(sheet.DoModal() == IDCANCEL);
+    CHECK(sheet.closings == 1);
+}
+
 TEST_CASE("EndDialog and PressButton end a sheet")
 {
     TwoPages two;
