@@ -10,9 +10,12 @@ namespace afxint {
 
 namespace {
 
-/// The system makes a window for input methods before the first window of a thread.
-bool IsInputMethodWindow(const CREATESTRUCT& create)
+/// The system makes windows for input methods while it makes the first window of a thread.
+bool IsInputMethodWindow(HWND window, const CREATESTRUCT& create)
 {
+    if ((GetClassLongPtr(window, GCL_STYLE) & CS_IME) != 0)
+        return true;
+    // Not every system marks the class of its own.
     return !IS_INTRESOURCE(create.lpszClass) && lstrcmpi(create.lpszClass, "IME") == 0;
 }
 
@@ -49,7 +52,7 @@ LRESULT CALLBACK WindowCreation::OnHook(int code, WPARAM wParam, LPARAM lParam)
     if (code != HCBT_CREATEWND || creation == NULL)
         return CallNextHookEx(NULL, code, wParam, lParam);
     const auto* details = reinterpret_cast<CBT_CREATEWND*>(lParam);
-    if (IsInputMethodWindow(*details->lpcs))
+    if (IsInputMethodWindow(reinterpret_cast<HWND>(wParam), *details->lpcs))
         return CallNextHookEx(NULL, code, wParam, lParam);
 
     creation->window_ = reinterpret_cast<HWND>(wParam);

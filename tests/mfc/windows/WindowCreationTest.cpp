@@ -3,6 +3,7 @@
 #include <doctest/doctest.h>
 
 #include "testing/DialogTemplate.h"
+#include "testing/ImportHook.h"
 
 #include <algorithm>
 #include <string>
@@ -133,6 +134,48 @@ class CThrowing : public CWnd
 {
 public:
     void PreSubclassWindow() override { AfxThrowUserException(); }
+};
+
+/// Makes a window for input methods before each window that the library makes, as the
+/// system does before the first one of a thread.
+class InputMethod
+{
+public:
+    /// A class of that name, or the system's own.
+    explicit InputMethod(LPCSTR name)
+    {
+        className = name;
+        WNDCLASS windowClass{};
+        windowClass.style = CS_IME;
+        windowClass.lpfnWndProc = ::DefWindowProc;
+        windowClass.lpszClassName = className;
+        if (!::GetClassInfo(NULL, className, &windowClass))
+            ::RegisterClass(&windowClass);
+        original = hook_.OriginalAs<Create>();
+    }
+    ~InputMethod()
+    {
+        ::DestroyWindow(made);
+        ::UnregisterClass(className, NULL);
+    }
+    bool IsInstalled() const { return hook_.IsInstalled(); }
+    static inline HWND made = NULL;
+
+private:
+    using Create = decltype(::CreateWindowExA);
+    static inline LPCSTR className = NULL;
+    static inline Create* original = nullptr;
+
+    static HWND WINAPI MakeBoth(DWORD exStyle, LPCSTR name, LPCSTR title, DWORD style, int x, int y,
+                                int width, int height, HWND parent, HMENU menu, HINSTANCE instance,
+                                LPVOID parameter)
+    {
+        made = original(0, className, "", WS_POPUP, 0, 0, 5, 5, NULL, NULL, NULL, NULL);
+        return original(exStyle, name, title, style, x, y, width, height, parent, menu, instance,
+                        parameter);
+    }
+    umbra::testing::ImportHook hook_{umbra::testing::FindModule("umbra-mfc.dll"), "user32.dll",
+                                     "CreateWindowExA", MakeBoth};
 };
 
 std::string ClassOf(HWND window)
@@ -275,6 +318,22 @@ TEST_CASE("an exception in PreSubclassWindow fails the creation")
     CThrowing window;
     CHECK(window.CreateEx(0, "Static", "", WS_POPUP, CRect(0, 0, 9, 9), NULL, 0) == FALSE);
     CHECK(window.m_hWnd == NULL);
+}
+
+TEST_CASE("a window for input methods that comes first is left alone, whatever its class is called")
+{
+    for (const LPCSTR className : {"IME", "Method of input"}) {
+        CAPTURE(className);
+        const InputMethod method(className);
+        REQUIRE(method.IsInstalled());
+        CWitness window;
+        REQUIRE(Make(window));
+        CHECK(::IsWindow(method.made));
+        CHECK(CWnd::FromHandlePermanent(method.made) == NULL);
+        CHECK(window.m_hWnd != NULL);
+        CHECK(window.events ==
+              Events{"PreCreateWindow", "PreSubclassWindow", "OnNcCreate", "OnCreate"});
+    }
 }
 
 TEST_CASE("a dialog sees its own WM_CREATE, modeless and modal")
