@@ -122,6 +122,10 @@ bool WindowMessages::TakeOver(CWnd* object, HWND window)
     if (!object->Attach(window))
         return false;
     object->PreSubclassWindow();
+    // A kept procedure tells that ours never left the window; a second time in the same chain, it
+    // would call itself for ever.
+    if (object->superProc_ != NULL)
+        return true;
     const auto former = reinterpret_cast<WNDPROC>(
         SetWindowLongPtr(window, GWLP_WNDPROC, reinterpret_cast<LONG_PTR>(&Procedure)));
     if (former == NULL) {
@@ -138,6 +142,8 @@ void WindowMessages::GiveBack(HWND window, WNDPROC former)
     const auto current = reinterpret_cast<WNDPROC>(GetWindowLongPtr(window, GWLP_WNDPROC));
     if (former != NULL && current == &Procedure)
         SetWindowLongPtr(window, GWLP_WNDPROC, reinterpret_cast<LONG_PTR>(former));
+    else
+        KeepFormer(window, former); // Somebody else in front still calls this procedure.
 }
 
 void WindowMessages::KeepFormer(HWND window, WNDPROC former)

@@ -408,6 +408,29 @@ TEST_CASE("SubclassWindow routes messages to the object and the rest to the prev
     ::DestroyWindow(stranger);
 }
 
+TEST_CASE("a window that somebody else has subclassed on top keeps working without its object")
+{
+    static WNDPROC inFrontOf;
+    const HWND stranger = MakeStranger();
+    CCountingEdit edit;
+    REQUIRE(edit.SubclassWindow(stranger));
+    edit.SetLimitText(10);
+    const WNDPROC front = [](HWND window, UINT message, WPARAM wParam, LPARAM lParam) {
+        return ::CallWindowProc(inFrontOf, window, message, wParam, lParam);
+    };
+    inFrontOf = reinterpret_cast<WNDPROC>(
+        ::SetWindowLongPtr(stranger, GWLP_WNDPROC, reinterpret_cast<LONG_PTR>(front)));
+
+    CHECK(edit.UnsubclassWindow() == stranger);
+    CHECK(TextOf(stranger) == "stranger");
+    ::SendMessage(stranger, WM_CHAR, 'x', 0);
+    CHECK(TextOf(stranger) == "xstranger");
+    CHECK(::SendMessage(stranger, EM_GETLIMITTEXT, 0, 0) == 10);
+    REQUIRE(edit.SubclassWindow(stranger));
+    CHECK(edit.SendMessage(countedMessage) == 8);
+    edit.DestroyWindow();
+}
+
 TEST_CASE("SubclassWindow fails for a window with an object, and for no window")
 {
     CPlain owner;
