@@ -11,6 +11,8 @@
 
 #include <process.h>
 
+#include <memory>
+
 IMPLEMENT_DYNAMIC(CWinThread, CCmdTarget)
 
 namespace {
@@ -53,15 +55,18 @@ struct CWinThread::Start
     }
     ~Start()
     {
-        CloseHandle(ready);
-        CloseHandle(go);
+        for (const HANDLE event : {ready, go}) {
+            if (event != NULL)
+                CloseHandle(event);
+        }
     }
     Start(const Start&) = delete;
     Start& operator=(const Start&) = delete;
+    bool IsComplete() const { return ready != NULL && go != NULL; }
 
     CWinThread* thread;
-    HANDLE ready; ///< The thread can be sent messages.
-    HANDLE go;    ///< The creator has finished; the block may be deleted by the thread.
+    HANDLE ready;                                     ///< The thread can be sent messages.
+    HANDLE go; ///< The creator has finished; the block may be deleted by the thread.
 };
 
 CWinThread::CWinThread()
@@ -82,16 +87,18 @@ CWinThread::~CWinThread()
 BOOL CWinThread::CreateThread(DWORD dwCreateFlags, UINT nStackSize,
                               LPSECURITY_ATTRIBUTES lpSecurityAttrs)
 {
-    auto* start = new Start(this);
+    auto made = std::make_unique<Start>(this);
+    if (!made->IsComplete())
+        return FALSE;
+    Start* start = made.get();
     // The thread always runs up to the point where it has a message queue.
     const DWORD flags = dwCreateFlags & ~CREATE_SUSPENDED;
     unsigned id = 0;
     const uintptr_t handle =
         _beginthreadex(lpSecurityAttrs, nStackSize, &CWinThread::Enter, start, flags, &id);
-    if (handle == 0) {
-        delete start;
+    if (handle == 0)
         return FALSE;
-    }
+    made.release(); // The thread deletes it.
     m_hThread = reinterpret_cast<HANDLE>(handle);
     m_nThreadID = id;
     WaitForSingleObject(start->ready, INFINITE);

@@ -6,6 +6,7 @@
 
 #include <doctest/doctest.h>
 
+#include "testing/CallFault.h"
 #include "testing/NextDialog.h"
 #include "testing/Pump.h"
 
@@ -442,6 +443,21 @@ TEST_CASE("an exception in any other handler is told to the user, and the result
     expected.LoadString(AFX_IDS_NOT_SUPPORTED_EXCEPTION);
     CHECK(text == expected.GetString());
     window.DestroyWindow();
+}
+
+TEST_CASE("a thread does not start without the events that it begins with")
+{
+    for (const int call : {1, 2}) {
+        CAPTURE(call);
+        WorkerData data;
+        ::SetEvent(data.gate);
+        const umbra::testing::FailNth fault(umbra::testing::FindModule("umbra-mfc.dll"),
+                                            "kernel32.dll", "CreateEventA", call);
+        REQUIRE(fault.IsInstalled());
+        CHECK(AfxBeginThread(&Work, &data) == nullptr);
+        CHECK(fault.Failed() == 1);
+        CHECK(data.id == 0);
+    }
 }
 
 TEST_CASE("a user exception is not told again")
