@@ -12,6 +12,7 @@
 #include <process.h>
 
 #include <memory>
+#include <utility>
 
 IMPLEMENT_DYNAMIC(CWinThread, CCmdTarget)
 
@@ -26,6 +27,32 @@ LRESULT CALLBACK WatchSystemLoop(int code, WPARAM wParam, LPARAM lParam)
         thread->ProcessMessageFilter(code, reinterpret_cast<LPMSG>(lParam)))
         return 1;
     return CallNextHookEx(NULL, code, wParam, lParam);
+}
+
+/// Gives a worker thread the main window of its creator, under an object of the thread's own:
+/// objects belong to one thread each.
+void InheritMainWindow(CWinThread& thread, HWND window)
+{
+    if (window == NULL || thread.m_pMainWnd != NULL)
+        return;
+    thread.m_pMainWnd = new CWnd;
+    thread.m_pMainWnd->m_hWnd = window;
+    afxint::CurrentThread().inheritedMainWindow = thread.m_pMainWnd;
+    afxint::CurrentThread().windows.Add(window, thread.m_pMainWnd);
+}
+
+/// At the end of the thread; the window itself stays.
+void DropInheritedMainWindow()
+{
+    CWnd* object = std::exchange(afxint::CurrentThread().inheritedMainWindow, nullptr);
+    if (object == NULL)
+        return;
+    CWinThread* thread = AfxGetThread();
+    if (thread != NULL && thread->m_pMainWnd == object)
+        thread->m_pMainWnd = NULL;
+    afxint::CurrentThread().windows.Remove(object->m_hWnd);
+    object->m_hWnd = NULL;
+    delete object;
 }
 
 /// Starts the thread of a new object; deletes the object when that fails.
@@ -65,6 +92,7 @@ struct CWinThread::Start
     bool IsComplete() const { return ready != NULL && go != NULL; }
 
     CWinThread* thread;
+    HWND mainWindow = AfxGetMainWnd()->GetSafeHwnd(); ///< Of the creator.
     HANDLE ready;                                     ///< The thread can be sent messages.
     HANDLE go; ///< The creator has finished; the block may be deleted by the thread.
 };
@@ -250,6 +278,8 @@ unsigned __stdcall CWinThread::Enter(void* start)
     MSG message;
     PeekMessage(&message, NULL, WM_USER, WM_USER, PM_NOREMOVE); // Makes the message queue.
     afxint::WatchSystemLoops();
+    if (thread->m_pfnThreadProc != NULL)
+        InheritMainWindow(*thread, handover->mainWindow);
     SetEvent(handover->ready);
     WaitForSingleObject(handover->go, INFINITE);
     delete handover;
@@ -293,6 +323,7 @@ void AFXAPI AfxEndThread(UINT nExitCode, BOOL bDelete)
 {
     afxint::DropTemporaryObjects();
     CWinThread* thread = afxint::CurrentThread().thread;
+    DropInheritedMainWindow();
     if (thread != NULL && bDelete)
         thread->Delete();
     afxint::CurrentThread().thread = NULL;

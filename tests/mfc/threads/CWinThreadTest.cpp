@@ -460,6 +460,40 @@ TEST_CASE("a thread does not start without the events that it begins with")
     }
 }
 
+TEST_CASE("a worker thread has the main window of its creator, under an object of its own")
+{
+    CWnd main;
+    REQUIRE(main.CreateEx(0, AfxRegisterWndClass(0), "main", WS_POPUP, 0, 0, 10, 10, NULL, NULL));
+    struct Seen
+    {
+        CWnd* creators;
+        CWnd* object = nullptr;
+        HWND window = NULL;
+        bool found = false;
+    } seen{&main};
+    AfxGetThread()->m_pMainWnd = &main;
+    const auto look = [](LPVOID parameter) -> UINT {
+        auto* result = static_cast<Seen*>(parameter);
+        result->object = AfxGetMainWnd();
+        result->window = result->object->GetSafeHwnd();
+        result->found = CWnd::FromHandle(result->window) == result->object;
+        return 3;
+    };
+    CWinThread* thread = AfxBeginThread(look, &seen, THREAD_PRIORITY_NORMAL, 0, CREATE_SUSPENDED);
+    REQUIRE(thread != nullptr);
+    thread->m_bAutoDelete = FALSE;
+    thread->ResumeThread();
+    CHECK(ExitCodeAfterEnd(thread->m_hThread) == 3);
+    CHECK(seen.window == main.m_hWnd);
+    CHECK(seen.object != &main);
+    CHECK(seen.found);
+    CHECK(thread->m_pMainWnd == nullptr); // The object went with the thread.
+    CHECK(::IsWindow(main.m_hWnd));
+    delete thread;
+    AfxGetThread()->m_pMainWnd = nullptr;
+    main.DestroyWindow();
+}
+
 TEST_CASE("a user exception is not told again")
 {
     CThrowingWnd window;
