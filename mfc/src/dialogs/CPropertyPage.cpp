@@ -3,6 +3,7 @@
 #include <classes/Modules.h>
 
 #include "controls/ControlMessages.h"
+#include "threads/SystemCall.h"
 #include "windows/WindowCreation.h"
 
 using afxint::Ask;
@@ -13,11 +14,16 @@ struct afxint::PropertyPageHook
     static UINT CALLBACK Procedure(HWND, UINT message, PROPSHEETPAGE* systemPage)
     {
         auto* page = reinterpret_cast<CPropertyPage*>(systemPage->lParam);
-        if (message == PSPCB_CREATE)
-            page->creation_ = std::make_unique<WindowCreation>(page);
-        else if (message == PSPCB_RELEASE)
+        if (message == PSPCB_RELEASE)
             page->creation_.reset();
-        return TRUE;
+        if (message != PSPCB_CREATE)
+            return TRUE;
+        MSG creation{};
+        creation.message = WM_CREATE;
+        return CalledBySystem(creation, UINT{FALSE}, [page]() -> UINT { // FALSE: no such page.
+            page->creation_ = std::make_unique<WindowCreation>(page);
+            return TRUE;
+        });
     }
 };
 

@@ -7,6 +7,7 @@
 
 #include "windows/MessageMap.h"
 #include "application/ModuleState.h"
+#include "threads/SystemCall.h"
 #include "threads/ThreadState.h"
 
 #include <process.h>
@@ -23,8 +24,10 @@ constexpr UINT caretBlink = 0x0118; // WM_SYSTIMER, which has no name in the Win
 LRESULT CALLBACK WatchSystemLoop(int code, WPARAM wParam, LPARAM lParam)
 {
     CWinThread* thread = AfxGetThread();
-    if (code >= 0 && thread != NULL &&
-        thread->ProcessMessageFilter(code, reinterpret_cast<LPMSG>(lParam)))
+    auto* message = reinterpret_cast<LPMSG>(lParam);
+    if (code >= 0 && thread != NULL && afxint::CalledBySystem(*message, FALSE, [&] {
+            return thread->ProcessMessageFilter(code, message);
+        }))
         return 1;
     return CallNextHookEx(NULL, code, wParam, lParam);
 }

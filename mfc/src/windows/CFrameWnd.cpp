@@ -6,7 +6,11 @@
 
 #include <afxres.h>
 
+#include "threads/SystemCall.h"
 #include "windows/WindowCreation.h"
+
+#include <utility>
+#include <vector>
 
 IMPLEMENT_DYNCREATE(CFrameWnd, CWnd)
 
@@ -40,30 +44,27 @@ LPCTSTR RegisterFrameClass(HICON icon)
                                reinterpret_cast<HBRUSH>(COLOR_WINDOW + 1), icon);
 }
 
-/// Calls the function for each top-level window of the thread that the owner owns, directly or
-/// through others.
-template <class Function>
-void ForEachOwned(HWND owner, Function function)
+bool IsOwnedBy(HWND window, HWND owner)
 {
-    struct Search
-    {
-        HWND owner;
-        Function& function;
-    } search{owner, function};
-    EnumThreadWindows(
-        GetCurrentThreadId(),
-        [](HWND window, LPARAM parameter) -> BOOL {
-            auto& found = *reinterpret_cast<Search*>(parameter);
-            for (HWND outer = ::GetWindow(window, GW_OWNER); outer != NULL;
-                 outer = ::GetWindow(outer, GW_OWNER)) {
-                if (outer == found.owner) {
-                    found.function(window);
-                    break;
-                }
-            }
+    while (window != NULL && window != owner)
+        window = ::GetWindow(window, GW_OWNER);
+    return window == owner;
+}
+
+/// The top-level windows of the thread that the owner owns, directly or through others.
+std::vector<HWND> FindOwned(HWND owner)
+{
+    std::vector<HWND> windows;
+    const auto collect = [](HWND window, LPARAM found) -> BOOL {
+        return afxint::CalledBySystem(MSG{}, FALSE, [&] {
+            reinterpret_cast<std::vector<HWND>*>(found)->push_back(window);
             return TRUE;
-        },
-        reinterpret_cast<LPARAM>(&search));
+        });
+    };
+    EnumThreadWindows(GetCurrentThreadId(), collect, reinterpret_cast<LPARAM>(&windows));
+    std::erase_if(windows,
+                  [owner](HWND window) { return window == owner || !IsOwnedBy(window, owner); });
+    return windows;
 }
 
 } // namespace
@@ -190,16 +191,15 @@ void CFrameWnd::RecalcLayout(BOOL)
 
 void CFrameWnd::BeginModalState()
 {
-    if (++modalDepth_ > 1)
-        return;
-    const auto disable = [this](HWND window) {
-        if (!::IsWindowEnabled(window))
-            return;
-        ::EnableWindow(window, FALSE);
-        disabled_.push_back(window);
-    };
-    disable(m_hWnd);
-    ForEachOwned(m_hWnd, disable);
+    if (modalDepth_ == 0) {
+        std::vector<HWND> windows = FindOwned(m_hWnd);
+        windows.insert(windows.begin(), m_hWnd);
+        std::erase_if(windows, [](HWND window) { return !::IsWindowEnabled(window); });
+        disabled_ = std::move(windows);
+        for (const HWND window : disabled_)
+            ::EnableWindow(window, FALSE);
+    }
+    ++modalDepth_;
 }
 
 void CFrameWnd::EndModalState()
@@ -224,12 +224,12 @@ void CFrameWnd::ShowOwnedWindows(BOOL bShow)
         hidden_.clear();
         return;
     }
-    ForEachOwned(m_hWnd, [this](HWND window) {
+    for (const HWND window : FindOwned(m_hWnd)) {
         if (!::IsWindowVisible(window))
-            return;
-        ::ShowWindow(window, SW_HIDE);
+            continue;
         hidden_.push_back(window);
-    });
+        ::ShowWindow(window, SW_HIDE);
+    }
 }
 
 BOOL CFrameWnd::PreCreateWindow(CREATESTRUCT& cs)

@@ -86,8 +86,8 @@ BOOL CWnd::Attach(HWND hWndNew)
     ASSERT(FromHandlePermanent(hWndNew) == NULL);
     if (hWndNew == NULL)
         return FALSE;
-    m_hWnd = hWndNew;
     CurrentThread().windows.Add(hWndNew, this);
+    m_hWnd = hWndNew;
     superProc_ = WindowMessages::TakeKeptFormer(hWndNew);
     return TRUE;
 }

@@ -3,9 +3,9 @@
 
 #include <classes/Application.h>
 #include <classes/CCmdUI.h>
-#include <classes/CException.h>
 
 #include "windows/MessageMap.h"
+#include "threads/SystemCall.h"
 #include "threads/ThreadState.h"
 #include "windows/WindowMessages.h"
 
@@ -35,23 +35,6 @@ private:
     afxint::ThreadState& thread_;
     MSG outer_;
 };
-
-/// The answer to a message whose handler failed, where no thread object can give it.
-LRESULT AnswerFailure(const MSG& message)
-{
-    if (message.message == WM_PAINT)
-        ValidateRect(message.hwnd, NULL);
-    return message.message == WM_CREATE ? -1 : 0;
-}
-
-LRESULT AnswerException(CException* e, const MSG& message)
-{
-    CWinThread* thread = AfxGetThread();
-    const LRESULT answer =
-        thread == NULL ? AnswerFailure(message) : thread->ProcessWndProcException(e, &message);
-    e->Delete();
-    return answer;
-}
 
 MSG MakeMessage(HWND window, UINT message, WPARAM wParam, LPARAM lParam)
 {
@@ -103,12 +86,8 @@ LRESULT CALLBACK WindowMessages::Procedure(HWND window, UINT message, WPARAM wPa
     LRESULT result = 0;
     try {
         result = object->WindowProc(message, wParam, lParam);
-    } catch (CException* e) {
-        result = AnswerException(e, current);
     } catch (...) {
-        // The system's code above this procedure cannot be unwound.
-        TRACE("Message 0x%04X: the handler failed with a foreign exception.\n", message);
-        result = AnswerFailure(current);
+        result = AnswerException(current);
     }
     // A handler of WM_NCDESTROY that did not call the base leaves the object without a window all
     // the same.
@@ -121,7 +100,12 @@ bool WindowMessages::TakeOver(CWnd* object, HWND window)
 {
     if (!object->Attach(window))
         return false;
-    object->PreSubclassWindow();
+    try {
+        object->PreSubclassWindow();
+    } catch (...) {
+        object->Detach(); // It would stay attached and see no message.
+        throw;
+    }
     // A kept procedure tells that ours never left the window; a second time in the same chain, it
     // would call itself for ever.
     if (object->superProc_ != NULL)

@@ -1,9 +1,9 @@
 #include "windows/WindowCreation.h"
 
+#include "threads/SystemCall.h"
 #include "threads/ThreadState.h"
 #include "windows/WindowMessages.h"
 
-#include <classes/CException.h>
 #include <classes/CWnd.h>
 
 namespace afxint {
@@ -52,21 +52,18 @@ LRESULT CALLBACK WindowCreation::OnHook(int code, WPARAM wParam, LPARAM lParam)
     if (code != HCBT_CREATEWND || creation == NULL)
         return CallNextHookEx(NULL, code, wParam, lParam);
     const auto* details = reinterpret_cast<CBT_CREATEWND*>(lParam);
-    if (IsInputMethodWindow(reinterpret_cast<HWND>(wParam), *details->lpcs))
+    const HWND window = reinterpret_cast<HWND>(wParam);
+    if (IsInputMethodWindow(window, *details->lpcs))
         return CallNextHookEx(NULL, code, wParam, lParam);
 
-    creation->window_ = reinterpret_cast<HWND>(wParam);
     CWnd* object = creation->object_;
     creation->StopWaiting();
-    try {
-        if (!WindowMessages::TakeOver(object, creation->window_)) {
-            creation->window_ = NULL;
-            return 1; // No window.
-        }
-    } catch (CException* e) {
-        e->Delete();
-        return 1;
-    }
+    MSG message{};
+    message.hwnd = window;
+    message.message = WM_CREATE; // An exception fails the creation, as one in that handler does.
+    if (!CalledBySystem(message, false, [&] { return WindowMessages::TakeOver(object, window); }))
+        return 1; // No window.
+    creation->window_ = window;
     return CallNextHookEx(NULL, code, wParam, lParam);
 }
 

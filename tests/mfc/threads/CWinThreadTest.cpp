@@ -10,6 +10,7 @@
 #include "testing/NextDialog.h"
 #include "testing/Pump.h"
 
+#include "tests/mfc/FailureCount.h"
 #include "tests/mfc/MessageBoxText.h"
 
 #include <string>
@@ -129,6 +130,8 @@ protected:
     }
     afx_msg LRESULT OnThrow(WPARAM byUser, LPARAM)
     {
+        if (m_bForeign)
+            throw 42;
         if (byUser)
             AfxThrowUserException();
         AfxThrowNotSupportedException();
@@ -443,6 +446,47 @@ TEST_CASE("an exception in any other handler is told to the user, and the result
     expected.LoadString(AFX_IDS_NOT_SUPPORTED_EXCEPTION);
     CHECK(text == expected.GetString());
     window.DestroyWindow();
+}
+
+TEST_CASE("an exception of a foreign kind is told to the user, too, and the program goes on")
+{
+    CThrowingWnd window;
+    REQUIRE(window.MakeIt());
+    window.m_bForeign = true;
+    std::string text;
+    NextDialog answer([&](HWND box) {
+        text = MessageBoxText(box);
+        ::PostMessage(box, WM_COMMAND, IDOK, 0);
+    });
+    CHECK(window.SendMessage(throwSomething, FALSE) == 0);
+    CHECK(answer.HasRun());
+    CString expected;
+    expected.LoadString(AFX_IDP_INTERNAL_FAILURE);
+    CHECK(text == expected.GetString());
+    CHECK(::IsWindow(window.m_hWnd));
+    window.DestroyWindow();
+}
+
+TEST_CASE("an exception in the message filter does not go through the system's loop")
+{
+    struct CFilter : FailureCount
+    {
+        bool m_bForeign = false;
+        BOOL ProcessMessageFilter(int, LPMSG) override
+        {
+            if (m_bForeign)
+                throw 42;
+            AfxThrowResourceException();
+        }
+    } filter;
+    MSG message{};
+    message.message = askNumber;
+    CHECK_FALSE(::CallMsgFilter(&message, MSGF_DIALOGBOX));
+    CHECK(filter.failures == 1);
+    CHECK(filter.lastMessage == askNumber);
+    filter.m_bForeign = true;
+    CHECK_FALSE(::CallMsgFilter(&message, MSGF_DIALOGBOX));
+    CHECK(filter.failures == 2);
 }
 
 TEST_CASE("a thread does not start without the events that it begins with")

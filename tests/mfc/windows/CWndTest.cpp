@@ -11,7 +11,9 @@
 #include <stdexcept>
 #include <string>
 
+#include "tests/mfc/FailureCount.h"
 #include "tests/mfc/Resources.h"
+#include "tests/mfc/Throws.h"
 
 using namespace umbra::testing;
 
@@ -268,7 +270,12 @@ TEST_CASE("an exception does not leave the window procedure")
     CFailing window;
     REQUIRE(window.Make());
     CHECK(window.SendMessage(failingMessage, 0) == 0);
-    CHECK(window.SendMessage(failingMessage, 1) == 0);
+    {
+        const FailureCount count;
+        CHECK(window.SendMessage(failingMessage, 1) == 0);
+        CHECK(count.failures == 1); // The thread's object is asked about a foreign exception, too.
+        CHECK(count.lastMessage == failingMessage);
+    }
     CHECK(window.foreign == 1);
 
     window.ShowWindow(SW_SHOWNA);
@@ -429,6 +436,23 @@ TEST_CASE("a window that somebody else has subclassed on top keeps working witho
     REQUIRE(edit.SubclassWindow(stranger));
     CHECK(edit.SendMessage(countedMessage) == 8);
     edit.DestroyWindow();
+}
+
+TEST_CASE("an exception in PreSubclassWindow leaves window and object apart")
+{
+    struct CRefusing : CEdit
+    {
+        void PreSubclassWindow() override { AfxThrowResourceException(); }
+    } edit;
+    const HWND stranger = MakeStranger();
+    CHECK(Throws<CResourceException>([&] { edit.SubclassWindow(stranger); }));
+    CHECK(edit.m_hWnd == NULL);
+    CHECK(CWnd::FromHandlePermanent(stranger) == NULL);
+    CCountingEdit other;
+    REQUIRE(other.SubclassWindow(stranger));
+    ::SendMessage(stranger, WM_CHAR, 'x', 0);
+    CHECK(TextOf(stranger) == "xstranger");
+    other.DestroyWindow();
 }
 
 TEST_CASE("SubclassWindow fails for a window with an object, and for no window")

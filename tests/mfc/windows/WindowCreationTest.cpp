@@ -133,7 +133,13 @@ END_MESSAGE_MAP()
 class CThrowing : public CWnd
 {
 public:
-    void PreSubclassWindow() override { AfxThrowUserException(); }
+    bool foreign = false;
+    void PreSubclassWindow() override
+    {
+        if (foreign)
+            throw 42;
+        AfxThrowUserException();
+    }
 };
 
 /// Makes a window for input methods before each window that the library makes, as the
@@ -316,8 +322,14 @@ TEST_CASE("after a creation no other window of the thread is attached by mistake
 TEST_CASE("an exception in PreSubclassWindow fails the creation")
 {
     CThrowing window;
-    CHECK(window.CreateEx(0, "Static", "", WS_POPUP, CRect(0, 0, 9, 9), NULL, 0) == FALSE);
-    CHECK(window.m_hWnd == NULL);
+    for (const bool foreign : {false, true}) {
+        CAPTURE(foreign);
+        window.foreign = foreign;
+        CHECK(window.CreateEx(0, "Static", "", WS_POPUP, CRect(0, 0, 9, 9), NULL, 0) == FALSE);
+        CHECK(window.m_hWnd == NULL);
+    }
+    CWitness other; // The next creation is not disturbed.
+    CHECK(Make(other));
 }
 
 TEST_CASE("a window for input methods that comes first is left alone, whatever its class is called")
