@@ -64,9 +64,6 @@ private:
     friend class CPropertySheet;
 
     BOOL CreateFromTemplate(LPCDLGTEMPLATE dialogTemplate, CWnd* parent, HINSTANCE module);
-    /// Disables what a modal dialog covers and returns its owner; PostModal undoes it.
-    HWND PreModal();
-    void PostModal();
 
     LRESULT OnInitDialogMessage(WPARAM wParam, LPARAM lParam);
     LRESULT OnSetFontMessage(WPARAM wParam, LPARAM lParam);
@@ -77,7 +74,6 @@ private:
     HGLOBAL dialogTemplateMemory_ = NULL;  ///< Of InitModalIndirect.
     void* dialogInit_ = NULL;              ///< DLGINIT data that comes with a template in memory.
     CWnd* parent_ = NULL;                  ///< The constructor's; may be NULL.
-    HWND disabledTop_ = NULL;              ///< Disabled by PreModal besides the owner.
     UINT helpId_ = 0;
     bool centred_ = false; ///< The template leaves the place open.
 };

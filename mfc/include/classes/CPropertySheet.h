@@ -86,6 +86,5 @@ private:
     DWORD style_ = (DWORD)-1; ///< Of a modeless sheet; all bits set leave it to the system.
     DWORD exStyle_ = 0;
     int lastButton_ = IDCANCEL; ///< What a modal sheet answers when it has ended.
-    bool modal_ = false;
     bool stacked_ = true;
 };

@@ -18,6 +18,7 @@ struct CCreateContext;
 
 namespace afxint {
 struct WindowTraits;
+class ModalState;
 class WindowMessages;
 } // namespace afxint
 
@@ -515,7 +516,7 @@ protected:
     DECLARE_MESSAGE_MAP()
 
 private:
-    friend class CDialog;
+    friend class afxint::ModalState;
     friend struct afxint::WindowTraits;
     friend class afxint::WindowMessages;
 

@@ -4,6 +4,8 @@
 #include <classes/CFileDialog.h>
 
 #include "dialogs/CommonDialogHook.h"
+#include "threads/SystemCall.h"
+#include "windows/ModalScope.h"
 
 #include <utility>
 
@@ -12,28 +14,50 @@ namespace {
 /// The object whose window is still to come.
 thread_local CCommonDialog* awaitingWindow = NULL;
 
+/// Makes an object the one whose window is still to come.
+class ScopedAwaiting
+{
+public:
+    explicit ScopedAwaiting(CCommonDialog* dialog) { awaitingWindow = dialog; }
+    // A dialog that failed, or whose hook was taken out, left it there.
+    ~ScopedAwaiting() { awaitingWindow = NULL; }
+    ScopedAwaiting(const ScopedAwaiting&) = delete;
+    ScopedAwaiting& operator=(const ScopedAwaiting&) = delete;
+};
+
 } // namespace
 
 UINT_PTR CALLBACK afxint::CommonDialogHook::Procedure(HWND window, UINT message, WPARAM wParam,
                                                       LPARAM lParam)
 {
+    MSG current{};
+    current.hwnd = window;
+    current.message = message;
+    current.wParam = wParam;
+    current.lParam = lParam;
+    return CalledBySystem(current, UINT_PTR{0}, [&] { return Handle(current); });
+}
+
+UINT_PTR afxint::CommonDialogHook::Handle(const MSG& message)
+{
     static const UINT colorOk = ::RegisterWindowMessage(COLOROKSTRING);
     static const UINT listSelection = ::RegisterWindowMessage(LBSELCHSTRING);
 
-    if (message == WM_INITDIALOG) {
+    if (message.message == WM_INITDIALOG) {
         CCommonDialog* dialog = std::exchange(awaitingWindow, nullptr);
-        if (dialog == NULL || !dialog->SubclassWindow(window))
+        if (dialog == NULL || !dialog->SubclassWindow(message.hwnd))
             return FALSE;
         return dialog->OnInitDialog();
     }
-    CWnd* object = CWnd::FromHandlePermanent(window);
-    if (message == colorOk) {
+    CWnd* object = CWnd::FromHandlePermanent(message.hwnd);
+    if (message.message == colorOk) {
         CColorDialog* dialog = DYNAMIC_DOWNCAST(CColorDialog, object);
         return dialog != NULL && dialog->OnColorOK();
     }
-    if (message == listSelection) {
+    if (message.message == listSelection) {
         if (CFileDialog* dialog = DYNAMIC_DOWNCAST(CFileDialog, object))
-            dialog->OnLBSelChangedNotify(wParam, LOWORD(lParam), HIWORD(lParam));
+            dialog->OnLBSelChangedNotify(message.wParam, LOWORD(message.lParam),
+                                         HIWORD(message.lParam));
     }
     return FALSE;
 }
@@ -56,10 +80,8 @@ void CCommonDialog::OnCancel()
 
 INT_PTR CCommonDialog::ShowSystemDialog(BOOL (*show)(CCommonDialog* dialog, HWND owner))
 {
-    const HWND owner = PreModal();
-    awaitingWindow = this;
-    const BOOL confirmed = show(this, owner);
-    awaitingWindow = NULL; // A dialog that failed, or whose hook was taken out, left it there.
-    PostModal();
-    return confirmed ? IDOK : IDCANCEL;
+    afxint::DisabledWindow top;
+    const HWND owner = GetSafeOwner(parent_, top.Receive())->GetSafeHwnd();
+    const ScopedAwaiting awaiting(this);
+    return show(this, owner) ? IDOK : IDCANCEL;
 }

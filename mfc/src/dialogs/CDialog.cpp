@@ -6,6 +6,7 @@
 #include <classes/CRect.h>
 
 #include "dialogs/DialogTemplate.h"
+#include "windows/ModalScope.h"
 #include "windows/WindowCreation.h"
 
 IMPLEMENT_DYNAMIC(CDialog, CWnd)
@@ -165,43 +166,21 @@ INT_PTR CDialog::DoModal()
     if (found == NULL)
         return -1;
 
-    const HWND owner = PreModal();
-    const bool disable = owner != NULL && owner != ::GetDesktopWindow() && ::IsWindowEnabled(owner);
-    if (disable)
-        ::EnableWindow(owner, FALSE);
-
-    modalResult_ = IDABORT;
-    Set(modalLoop, true);
-    Set(continueModal, true);
+    const afxint::ModalScope modal(*this, parent_);
     // Hidden at first, so that a dialog that OnInitDialog ends is never seen.
     const std::vector<BYTE> hidden = afxint::DialogTemplate(found).CopyHidden();
-    const bool made = CreateFromTemplate(reinterpret_cast<LPCDLGTEMPLATE>(hidden.data()),
-                                         CWnd::FromHandle(owner), module) != FALSE;
-    if (made && Has(continueModal)) {
-        const bool quiet = (GetStyle() & DS_NOIDLEMSG) != 0;
-        RunModalLoop(quiet ? MLF_SHOWONIDLE | MLF_NOIDLEMSG : MLF_SHOWONIDLE);
-    }
-    Set(modalLoop, false);
-    Set(continueModal, false);
-
-    if (m_hWnd != NULL) {
-        SetWindowPos(NULL, 0, 0, 0, 0,
-                     SWP_HIDEWINDOW | SWP_NOSIZE | SWP_NOMOVE | SWP_NOACTIVATE | SWP_NOZORDER);
-    }
-    // The owner comes first: a window that goes while its owner is disabled leaves the activation
-    // to another program.
-    if (disable)
-        ::EnableWindow(owner, TRUE);
-    if (disable && ::GetActiveWindow() == m_hWnd)
-        ::SetActiveWindow(owner);
-    DestroyWindow();
-    PostModal();
-    return made ? modalResult_ : -1;
+    if (!CreateFromTemplate(reinterpret_cast<LPCDLGTEMPLATE>(hidden.data()),
+                            CWnd::FromHandle(modal.Owner()), module))
+        return -1;
+    if (!afxint::ModalState::MayGoOn(*this))
+        return modal.Result();
+    const bool quiet = (GetStyle() & DS_NOIDLEMSG) != 0;
+    return RunModalLoop(quiet ? MLF_SHOWONIDLE | MLF_NOIDLEMSG : MLF_SHOWONIDLE);
 }
 
 void CDialog::EndDialog(int nResult)
 {
-    if (Has(modalLoop))
+    if (afxint::ModalState::IsRunning(*this))
         EndModalLoop(nResult);
     ::EndDialog(m_hWnd, nResult);
 }
@@ -294,7 +273,7 @@ BOOL CDialog::CreateFromTemplate(LPCDLGTEMPLATE dialogTemplate, CWnd* parent, HI
 {
     centred_ = LeavesPlaceOpen(afxint::DialogTemplate(dialogTemplate));
     // Without a parent the main window owns the dialog, unless that is this very object.
-    if (parent == NULL && !Has(modalLoop))
+    if (parent == NULL && !afxint::ModalState::IsRunning(*this))
         parent = AfxGetMainWnd();
     const HWND owner = parent == this ? NULL : parent->GetSafeHwnd();
 
@@ -309,18 +288,6 @@ BOOL CDialog::CreateFromTemplate(LPCDLGTEMPLATE dialogTemplate, CWnd* parent, HI
     if (!creation.Finish(window))
         PostNcDestroy();
     return window != NULL;
-}
-
-HWND CDialog::PreModal()
-{
-    return CWnd::GetSafeOwner(parent_, &disabledTop_)->GetSafeHwnd();
-}
-
-void CDialog::PostModal()
-{
-    if (disabledTop_ != NULL)
-        ::EnableWindow(disabledTop_, TRUE);
-    disabledTop_ = NULL;
 }
 
 LRESULT CDialog::OnInitDialogMessage(WPARAM, LPARAM)

@@ -4,6 +4,7 @@
 #include <classes/CTabCtrl.h>
 
 #include "controls/ControlMessages.h"
+#include "windows/ModalScope.h"
 #include "windows/WindowCreation.h"
 
 #include <algorithm>
@@ -18,12 +19,27 @@ constexpr DWORD systemStyle = static_cast<DWORD>(-1); ///< Leaves the styles to 
 /// The sheet whose window is being made.
 thread_local CPropertySheet* sheetInCreation = NULL;
 
+/// Names the sheet while its window is being made.
+class ScopedCreation
+{
+public:
+    explicit ScopedCreation(CPropertySheet* sheet) { sheetInCreation = sheet; }
+    ~ScopedCreation() { sheetInCreation = NULL; }
+    ScopedCreation(const ScopedCreation&) = delete;
+    ScopedCreation& operator=(const ScopedCreation&) = delete;
+};
+
+bool IsModal(const CPropertySheet& sheet)
+{
+    return afxint::ModalState::IsRunning(sheet);
+}
+
 } // namespace
 
 /// What the system calls while it makes the window of a sheet.
 struct afxint::PropertySheetHook
 {
-    static int CALLBACK Procedure(HWND, UINT message, LPARAM lParam)
+    static int CALLBACK Procedure(HWND, UINT message, LPARAM lParam) noexcept
     {
         const CPropertySheet* sheet = sheetInCreation;
         if (message != PSCB_PRECREATE || sheet == NULL || sheet->style_ == systemStyle)
@@ -87,33 +103,12 @@ void CPropertySheet::Construct(LPCTSTR pszCaption, CWnd* pParentWnd, UINT iSelec
 
 INT_PTR CPropertySheet::DoModal()
 {
-    HWND disabledTop = NULL;
-    CWnd* owner = CWnd::GetSafeOwner(parent_, &disabledTop);
-    const HWND ownerWindow = owner->GetSafeHwnd();
-    const bool disabledOwner = ownerWindow != NULL && ::IsWindowEnabled(ownerWindow);
-    if (disabledOwner)
-        ::EnableWindow(ownerWindow, FALSE);
-
     // The system's own modal loop knows no PreTranslateMessage, so the sheet runs modeless to the
     // system, inside a loop of the library.
-    modal_ = true;
+    const afxint::ModalScope modal(*this, parent_);
     lastButton_ = IDCANCEL;
     style_ = systemStyle;
-    INT_PTR result = -1;
-    if (ShowSheet(ownerWindow))
-        result = RunModalLoop();
-    modal_ = false;
-
-    if (disabledOwner)
-        ::EnableWindow(ownerWindow, TRUE);
-    if (disabledTop != NULL)
-        ::EnableWindow(disabledTop, TRUE);
-    if (m_hWnd != NULL) {
-        if (ownerWindow != NULL && ::GetActiveWindow() == m_hWnd)
-            ::SetActiveWindow(ownerWindow);
-        DestroyWindow();
-    }
-    return result;
+    return ShowSheet(modal.Owner()) ? RunModalLoop() : -1;
 }
 
 BOOL CPropertySheet::Create(CWnd* pParentWnd, DWORD dwStyle, DWORD dwExStyle)
@@ -165,8 +160,7 @@ int CPropertySheet::GetPageIndex(CPropertyPage* pPage)
 
 CPropertyPage* CPropertySheet::GetActivePage() const
 {
-    const int index = GetActiveIndex();
-    return index >= 0 && index < GetPageCount() ? pages_[index] : NULL;
+    return GetPage(GetActiveIndex());
 }
 
 int CPropertySheet::GetActiveIndex() const
@@ -234,7 +228,7 @@ void CPropertySheet::PressButton(int nButton)
 
 void CPropertySheet::EndDialog(int nEndID)
 {
-    if (modal_)
+    if (IsModal(*this))
         EndModalLoop(nEndID);
     else
         DestroyWindow();
@@ -250,7 +244,7 @@ BOOL CPropertySheet::OnInitDialog()
     const BOOL systemSetsFocus = Default(); // The system makes the tabs and the first page.
     if (!stacked_)
         GetTabControl()->ModifyStyle(TCS_MULTILINE, TCS_SINGLELINE);
-    if (!modal_ && !(m_psh.dwFlags & PSH_WIZARD))
+    if (!IsModal(*this) && !(m_psh.dwFlags & PSH_WIZARD))
         HideButtons();
     return systemSetsFocus;
 }
@@ -258,7 +252,7 @@ BOOL CPropertySheet::OnInitDialog()
 BOOL CPropertySheet::ContinueModal()
 {
     // A sheet that the system sees as modeless does not close: it only has no current page.
-    if (modal_ && m_hWnd != NULL && Ask(m_hWnd, PSM_GETCURRENTPAGEHWND) == 0)
+    if (IsModal(*this) && m_hWnd != NULL && Ask(m_hWnd, PSM_GETCURRENTPAGEHWND) == 0)
         EndModalLoop(lastButton_);
     return CWnd::ContinueModal();
 }
@@ -297,7 +291,7 @@ LRESULT CPropertySheet::OnPressButtonMessage(WPARAM wParam, LPARAM)
 
 void CPropertySheet::OnClose()
 {
-    if (modal_)
+    if (IsModal(*this))
         PressButton(PSBTN_CANCEL);
     else
         DestroyWindow();
@@ -312,6 +306,7 @@ bool CPropertySheet::ShowSheet(HWND owner)
 {
     afxint::NeedCommonControls(ICC_WIN95_CLASSES);
     std::vector<HPROPSHEETPAGE> systemPages;
+    systemPages.reserve(pages_.size());
     for (CPropertyPage* page : pages_)
         systemPages.push_back(page->MakeSystemPage());
 
@@ -323,10 +318,9 @@ bool CPropertySheet::ShowSheet(HWND owner)
     header.phpage = systemPages.data();
     header.pfnCallback = afxint::PropertySheetHook::Procedure;
     afxint::WindowCreation creation(this);
-    sheetInCreation = this;
+    const ScopedCreation naming(this);
     const INT_PTR sheet = creation.IsReady() ? ::PropertySheet(&header) : -1;
-    sheetInCreation = NULL;
-    const HWND window = sheet == -1 ? NULL : reinterpret_cast<HWND>(sheet);
+    const HWND window = sheet == -1 ? NULL : (HWND)sheet;
     if (!creation.Finish(window))
         PostNcDestroy();
     return window != NULL;

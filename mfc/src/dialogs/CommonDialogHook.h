@@ -9,6 +9,9 @@ struct CommonDialogHook
 {
     /// The hook of all common dialogs: puts the object that is being shown around the window.
     static UINT_PTR CALLBACK Procedure(HWND window, UINT message, WPARAM wParam, LPARAM lParam);
+
+private:
+    static UINT_PTR Handle(const MSG& message);
 };
 
 } // namespace afxint

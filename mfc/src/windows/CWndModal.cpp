@@ -5,6 +5,9 @@
 #include <classes/CWinThread.h>
 
 #include "threads/ThreadState.h"
+#include "windows/ModalScope.h"
+
+#include <optional>
 
 namespace {
 
@@ -64,12 +67,10 @@ void PumpWithoutThread(CWnd& window)
 
 int CWnd::RunModalLoop(DWORD dwFlags)
 {
-    // EndModalLoop may have been called while the window was made.
-    if (!Has(modalLoop)) {
-        Set(modalLoop, true);
-        Set(continueModal, true);
-        modalResult_ = IDABORT;
-    }
+    // DoModal begins the state before the window is made, where EndModalLoop may be called already.
+    std::optional<afxint::ModalState> state;
+    if (!Has(modalLoop))
+        state.emplace(*this);
     bool hidden = (dwFlags & MLF_SHOWONIDLE) != 0 && !IsWindowVisible();
     bool idle = true;
     LONG idleCount = 0;
@@ -101,8 +102,6 @@ int CWnd::RunModalLoop(DWORD dwFlags)
             idleCount = 0;
         }
     }
-    Set(modalLoop, false);
-    Set(continueModal, false);
     return modalResult_;
 }
 
@@ -212,6 +211,7 @@ CWnd* PASCAL CWnd::GetSafeOwner(CWnd* pParent, HWND* pWndTop)
     }
     if (!given && owner != NULL)
         owner = ::GetLastActivePopup(owner);
+    CWnd* found = FromHandle(owner);
     if (pWndTop != NULL) {
         *pWndTop = NULL;
         if (top != NULL && top != owner && ::IsWindowEnabled(top)) {
@@ -219,5 +219,5 @@ CWnd* PASCAL CWnd::GetSafeOwner(CWnd* pParent, HWND* pWndTop)
             ::EnableWindow(top, FALSE);
         }
     }
-    return FromHandle(owner);
+    return found;
 }

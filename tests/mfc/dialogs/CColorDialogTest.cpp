@@ -7,6 +7,7 @@
 #include "testing/Page.h"
 
 #include "tests/mfc/ControlHost.h"
+#include "tests/mfc/FailureCount.h"
 
 using namespace umbra::testing;
 
@@ -18,6 +19,7 @@ public:
     using CColorDialog::CColorDialog;
     int starts = 0, questions = 0;
     bool refusesOnce = false;
+    bool fails = false; ///< Its functions throw, in turn the library's and a foreign exception.
     HWND window = NULL;
 
 protected:
@@ -25,11 +27,15 @@ protected:
     {
         ++starts;
         window = m_hWnd;
+        if (fails)
+            AfxThrowResourceException();
         return CColorDialog::OnInitDialog();
     }
     BOOL OnColorOK() override
     {
         ++questions;
+        if (fails)
+            throw 42;
         return refusesOnce && questions == 1;
     }
 };
@@ -54,6 +60,26 @@ TEST_CASE("the colour dialog gives back the colour it began with")
     CHECK(dialog.starts == 1);
     CHECK(dialog.window == shown);
     CHECK(dialog.GetColor() == RGB(0, 128, 255));
+    CHECK(dialog.m_hWnd == NULL);
+}
+
+TEST_CASE("exceptions in the functions of a common dialog do not go through the system's code")
+{
+    ControlHost host;
+    CWatchedColorDialog dialog(RGB(1, 2, 3), 0, &host);
+    dialog.fails = true;
+    const FailureCount count;
+    const UINT colorOk = ::RegisterWindowMessage(COLOROKSTRING);
+    NextDialog answer([&](HWND box) {
+        CHECK(count.failures == 1);
+        CHECK(count.lastMessage == WM_INITDIALOG);
+        CHECK(dialog.m_cc.lpfnHook(box, colorOk, 0, (LPARAM)&dialog.m_cc) == 0);
+        CHECK(count.failures == 2);
+        Page(box).Click(IDCANCEL);
+    });
+    CHECK(dialog.DoModal() == IDCANCEL);
+    CHECK(answer.HasRun());
+    CHECK(host.IsWindowEnabled());
     CHECK(dialog.m_hWnd == NULL);
 }
 

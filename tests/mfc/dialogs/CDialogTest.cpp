@@ -1,3 +1,6 @@
+// Looks inside the class library: a thread object takes the place of the program's for a while.
+#include "mfc/src/threads/ThreadState.h"
+
 #include <afxwin.h>
 
 #include <doctest/doctest.h>
@@ -9,11 +12,15 @@
 #include "testing/Pump.h"
 
 #include <functional>
+#include <new>
 #include <string>
 #include <thread>
+#include <utility>
 #include <vector>
 
+#include "tests/mfc/LittleMemory.h"
 #include "tests/mfc/Resources.h"
+#include "tests/mfc/Throws.h"
 
 using namespace umbra::testing;
 
@@ -61,6 +68,14 @@ public:
     std::string textAtEnd;                 ///< What the first edit holds then.
     std::vector<WPARAM> shown;
 
+    std::function<void()>
+        whenOffered; ///< Acts when PreTranslateMessage is asked about laterMessage.
+    BOOL PreTranslateMessage(MSG* pMsg) override
+    {
+        if (whenOffered && pMsg->message == laterMessage)
+            whenOffered();
+        return CDialog::PreTranslateMessage(pMsg);
+    }
     BOOL DestroyWindow() override
     {
         activeAtEnd = ::GetActiveWindow();
@@ -194,6 +209,30 @@ INT_PTR Run(CRecorded& dialog, std::function<void(CRecorded&)> later, CWnd* owne
     return dialog.DoModal();
 }
 
+/// Whether the action throws an exception of that type by value.
+template <class Exception>
+bool ThrowsForeign(const std::function<void()>& action)
+{
+    try {
+        action();
+    } catch (const Exception&) {
+        return true;
+    }
+    return false;
+}
+
+/// A thread object whose idle time fails; the calling thread's object while it lives.
+class CFailingThread : public CWinThread
+{
+public:
+    CFailingThread() : former_(std::exchange(afxint::CurrentThread().thread, this)) {}
+    ~CFailingThread() override { afxint::CurrentThread().thread = former_; }
+    BOOL OnIdle(LONG) override { AfxThrowResourceException(); }
+
+private:
+    CWinThread* former_;
+};
+
 /// A key whose release nobody waits for: the dialog is gone by then.
 void Press(WORD key)
 {
@@ -240,6 +279,57 @@ TEST_CASE("a modal dialog hands the activation to its owner before its window go
               &owner) == 42);
     CHECK(owner.IsWindowEnabled());
     CHECK(dialog.activeAtEnd == owner.m_hWnd);
+    CHECK(CWnd::GetActiveWindow() == &owner);
+}
+
+TEST_CASE("an exception that ends the loop of a modal dialog leaves owner and dialog usable")
+{
+    COwnerWindow above;
+    COwnerWindow owner(&above);
+    CRecorded dialog;
+    const auto run = [&] {
+        Run(
+            dialog, [](CRecorded& self) { self.EndDialog(1); }, &owner);
+    };
+    const auto checkAfterwards = [&] {
+        CHECK(owner.IsWindowEnabled());
+        CHECK(above.IsWindowEnabled());
+        CHECK(CWnd::GetActiveWindow() == &owner);
+        CHECK(dialog.m_hWnd == NULL);
+    };
+    dialog.whenOffered = [] { AfxThrowResourceException(); };
+    CHECK(Throws<CResourceException>(run));
+    checkAfterwards();
+    dialog.whenOffered = [] { throw std::bad_alloc(); };
+    CHECK(ThrowsForeign<std::bad_alloc>(run));
+    checkAfterwards();
+    dialog.whenOffered = nullptr;
+    {
+        const DialogTemplate page = MakeTemplate();
+        const CFailingThread thread;
+        dialog.later = nullptr;
+        dialog.InitModalIndirect(page.Get(), &owner);
+        CHECK(Throws<CResourceException>([&] { dialog.DoModal(); }));
+        checkAfterwards();
+    }
+    CHECK(Run(
+              dialog, [](CRecorded& self) { self.EndDialog(5); }, &owner) == 5);
+    checkAfterwards();
+}
+
+TEST_CASE("a template for which there is not enough memory leaves the owner usable")
+{
+    COwnerWindow owner;
+    DialogTemplate page(20, 20, 140, 80);
+    page.Label(99, std::string(LittleMemory::bigBlock, 'x').c_str(), 5, 5, 60, 12);
+    CRecorded dialog;
+    dialog.InitModalIndirect(page.Get(), &owner);
+    {
+        const LittleMemory memory;
+        REQUIRE(memory.IsInstalled());
+        CHECK(ThrowsForeign<std::bad_alloc>([&] { dialog.DoModal(); }));
+    }
+    CHECK(owner.IsWindowEnabled());
     CHECK(CWnd::GetActiveWindow() == &owner);
 }
 

@@ -9,6 +9,7 @@
 #include "testing/Pump.h"
 
 #include "tests/mfc/ControlHost.h"
+#include "tests/mfc/Throws.h"
 
 #include <string>
 #include <vector>
@@ -112,7 +113,14 @@ public:
     HWND owner = NULL;
     bool ownerEnabledAtEnd = false;
     HWND activeAtEnd = NULL;
+    bool fails = false; ///< An exception comes out of its loop.
 
+    BOOL PreTranslateMessage(MSG* pMsg) override
+    {
+        if (fails)
+            AfxThrowResourceException();
+        return CPropertySheet::PreTranslateMessage(pMsg);
+    }
     BOOL DestroyWindow() override
     {
         ownerEnabledAtEnd = ::IsWindowEnabled(owner) != FALSE;
@@ -177,6 +185,40 @@ TEST_CASE("a sheet shows its first page, and OK applies what was entered")
     CHECK(two.first.CountOf("ok") == 1);
     CHECK(two.first.m_hWnd == NULL);
     CHECK(two.sheet.m_hWnd == NULL);
+}
+
+TEST_CASE("an exception that ends the loop of a sheet leaves owner and sheet usable")
+{
+    TwoPages two;
+    two.sheet.fails = true;
+    NextDialog wake([](HWND box) { ::PostMessage(box, WM_NULL, 0, 0); });
+    CHECK(Throws<CResourceException>([&] { two.sheet.DoModal(); }));
+    CHECK(two.host.IsWindowEnabled());
+    CHECK(CWnd::GetActiveWindow() == &two.host);
+    CHECK(two.sheet.m_hWnd == NULL);
+    CHECK(two.first.m_hWnd == NULL);
+    two.sheet.fails = false;
+    CHECK(two.Run([](Page& box) { box.Click(IDCANCEL); }) == IDCANCEL);
+}
+
+TEST_CASE("a sheet that is ended while it is made has no loop")
+{
+    ControlHost host;
+    CNumberPage page("page");
+    struct CEnding : CPropertySheet
+    {
+        using CPropertySheet::CPropertySheet;
+        BOOL OnInitDialog() override
+        {
+            const BOOL result = CPropertySheet::OnInitDialog();
+            EndDialog(17);
+            return result;
+        }
+    } sheet("sheet", &host);
+    sheet.AddPage(&page);
+    CHECK(sheet.DoModal() == 17);
+    CHECK(host.IsWindowEnabled());
+    CHECK(sheet.m_hWnd == NULL);
 }
 
 TEST_CASE("the window above the owner of a sheet is disabled, too, and enabled again")
