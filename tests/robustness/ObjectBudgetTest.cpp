@@ -127,17 +127,6 @@ HICON MakeIcon()
     return ::CopyIcon(::LoadIcon(nullptr, IDI_ASTERISK));
 }
 
-/// The bitmaps that an icon costs where the system counts them.
-int BitmapsOfIcon()
-{
-    ::DestroyIcon(MakeIcon());
-    const GdiCount before = CountGdiObjects();
-    const HICON icon = MakeIcon();
-    const int bitmaps = CountGdiObjects().bitmaps - before.bitmaps;
-    ::DestroyIcon(icon);
-    return bitmaps;
-}
-
 /// A page that is shown while it lives.
 class Page : public CBaseDialog
 {
@@ -314,12 +303,12 @@ TEST_CASE("what each operation of CxShadeButton leaves for good")
                        b.SetIcons(MakeIcon(), Button::alignLeft, 32, 32, MakeIcon(), MakeIcon());
                        Stage::Paint(b.m_hWnd);
                    }));
-    CheckOperation("SetIcons, one icon, then SetPicture", {0, -1, 0, 1}, OnButton([](Button& b) {
+    // A picture takes the place of the icons, and icons that of a picture: both end.
+    CheckOperation("SetIcons, one icon, then SetPicture", nothing, OnButton([](Button& b) {
                        b.SetIcons(MakeIcon(), Button::alignLeft, 32, 32);
                        b.SetPicture(ImageFile("Info.gif"), Button::alignLeft, 19, 19, RGB(0, 0, 0));
                    }));
-    CheckOperation("SetIcons, three icons, then SetPicture", {0, -1, 0, 1 + BitmapsOfIcon()},
-                   OnButton([](Button& b) {
+    CheckOperation("SetIcons, three icons, then SetPicture", nothing, OnButton([](Button& b) {
                        b.SetIcons(MakeIcon(), Button::alignLeft, 32, 32, MakeIcon(), MakeIcon());
                        b.SetPicture(ImageFile("Info.gif"), Button::alignLeft, 19, 19, RGB(0, 0, 0));
                    }));

@@ -14,8 +14,7 @@ using afxint::Narrowed;
 CString afxint::Narrowed(std::wstring_view text)
 {
     const int length = static_cast<int>(text.size());
-    const int needed =
-        ::WideCharToMultiByte(CP_ACP, 0, text.data(), length, NULL, 0, NULL, NULL);
+    const int needed = ::WideCharToMultiByte(CP_ACP, 0, text.data(), length, NULL, 0, NULL, NULL);
     CString narrow;
     ::WideCharToMultiByte(CP_ACP, 0, text.data(), length, narrow.GetBufferSetLength(needed), needed,
                           NULL, NULL);

@@ -54,8 +54,8 @@ struct ImageListTraits
 struct ThreadState
 {
     CWinThread* thread = NULL;        ///< What AfxGetThread answers; not owned.
-    int handlerDepth = 0;                ///< Message handlers on the stack.
-    MSG currentMessage{};                ///< The message that Default() hands on.
+    int handlerDepth = 0;             ///< Message handlers on the stack.
+    MSG currentMessage{};             ///< The message that Default() hands on.
     WindowCreation* creation = NULL;  ///< Waits for the next window that is created.
     HMENU openedMenu = NULL;          ///< The menu whose items may be measured next.
     CWnd* inheritedMainWindow = NULL; ///< The worker thread's own object for its creator's one.

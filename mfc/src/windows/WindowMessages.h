@@ -14,8 +14,8 @@ public:
 
     /// Attaches the object and routes the window's messages to it. False when the system refuses.
     static bool TakeOver(CWnd* object, HWND window);
-    /// Gives the window its previous procedure back, or keeps that for it when somebody else has put
-    /// his own in front.
+    /// Gives the window its previous procedure back, or keeps that for it when somebody else has
+    /// put his own in front.
     static void GiveBack(HWND window, WNDPROC former);
     /// Leaves the previous procedure with a window whose object goes while ours stays in place.
     static void KeepFormer(HWND window, WNDPROC former);
