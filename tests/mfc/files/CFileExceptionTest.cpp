@@ -10,7 +10,7 @@
 
 namespace {
 
-CString MessageOf(CFileException& error, UINT room = 512)
+CString MessageOf(const CFileException& error, UINT room = 512)
 {
     CString text;
     CHECK(error.GetErrorMessage(text.GetBuffer(static_cast<int>(room)), room));
