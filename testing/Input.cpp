@@ -137,15 +137,26 @@ void AddCharacter(std::vector<INPUT>& inputs, char character)
         AddKey(inputs, VK_SHIFT, KEYEVENTF_KEYUP);
 }
 
-bool SendKeys(std::vector<INPUT>& inputs)
+/// Keys that follow the one that closed the window go to whichever window of this thread has the
+/// focus then; where none has, they are lost.
+KeyResult SendKeys(std::vector<INPUT>& inputs)
 {
     const UINT count = static_cast<UINT>(inputs.size());
     if (count == 0)
-        return true;
+        return keyTaken;
+    HWND window = ::GetAncestor(::GetFocus(), GA_ROOT);
+    const auto isClosed = [&] { return window != nullptr && !::IsWindowVisible(window); };
     const ArrivalCounter arrivals(WH_KEYBOARD);
     if (::SendInput(count, inputs.data(), sizeof(INPUT)) != count)
-        return false;
-    return WaitUntil([&] { return arrivals.Keys() >= static_cast<int>(count); }, arrivalTime);
+        return keyNotTaken;
+    const auto areGone = [&] {
+        return arrivals.Keys() >= static_cast<int>(count) ||
+               (isClosed() && ::GetFocus() == nullptr);
+    };
+    const bool haveArrived = WaitUntil(areGone, arrivalTime);
+    if (isClosed())
+        return keyClosedWindow;
+    return haveArrived ? keyTaken : keyNotTaken;
 }
 
 } // namespace
@@ -229,7 +240,7 @@ bool Drag(HWND window, POINT from, POINT to)
            ReleaseLeft();
 }
 
-bool PressKey(WORD virtualKey, WORD modifier)
+KeyResult PressKey(WORD virtualKey, WORD modifier)
 {
     std::vector<INPUT> inputs;
     if (modifier != 0)
@@ -246,7 +257,7 @@ bool TypeText(const char* text)
     std::vector<INPUT> inputs;
     for (; *text != '\0'; ++text)
         AddCharacter(inputs, *text);
-    return SendKeys(inputs);
+    return SendKeys(inputs) != keyNotTaken;
 }
 
 } // namespace umbra::testing

@@ -32,8 +32,15 @@ bool DoubleClick(HWND window);
 /// Presses at one point, moves to the other by way of the middle, and releases there.
 bool Drag(HWND window, POINT from, POINT to);
 
+/// What became of a key. Only one that was not taken counts as false.
+enum KeyResult {
+    keyNotTaken,     ///< No window of this thread has the keyboard.
+    keyTaken,        ///< It has arrived.
+    keyClosedWindow, ///< It has closed the window that the focus was in, as Escape does a dialog.
+};
+
 /// Presses and releases a key (VK_...), while the given modifier key, if any, is down.
-bool PressKey(WORD virtualKey, WORD modifier = 0);
+KeyResult PressKey(WORD virtualKey, WORD modifier = 0);
 /// Types a text into the window that has the focus, key by key of the current layout; characters
 /// that the layout lacks arrive as characters without a key.
 bool TypeText(const char* text);

@@ -1,49 +1,25 @@
 #include "testing/NextDialog.h"
+#include "testing/OpenDialogs.h"
 
-#include <set>
-#include <string>
+#include <algorithm>
 
 namespace umbra::testing {
 
 namespace {
 
-constexpr UINT lookingMilliseconds = 10;
-
-/// Those of a thread that wait, as a list. No object with a destructor: this compiler's run-time
-/// library may free the memory of such an object before it is destroyed.
-thread_local NextDialog* newest = nullptr;
-
-bool IsOpenDialog(HWND window)
-{
-    char className[16] = "";
-    ::GetClassNameA(window, className, sizeof className);
-    return std::string(className) == "#32770" && ::IsWindowVisible(window) &&
-           ::IsWindowEnabled(window);
-}
-
-std::set<HWND> FindOpenDialogs()
-{
-    std::set<HWND> dialogs;
-    const auto collect = [](HWND window, LPARAM found) -> BOOL {
-        if (IsOpenDialog(window))
-            reinterpret_cast<std::set<HWND>*>(found)->insert(window);
-        return TRUE;
-    };
-    ::EnumThreadWindows(::GetCurrentThreadId(), collect, reinterpret_cast<LPARAM>(&dialogs));
-    return dialogs;
-}
+/// Those of a thread that wait, as a list. No object with a destructor, as in Ticker.cpp.
+thread_local NextDialog* oldest = nullptr;
 
 } // namespace
 
-NextDialog::NextDialog(std::function<void(HWND)> steps)
-    : m_steps(std::move(steps)),
-      m_isOld([old = FindOpenDialogs()](HWND dialog) { return old.count(dialog) > 0; })
+NextDialog::NextDialog(std::function<void(HWND)> steps, std::function<bool(HWND)> condition)
+    : m_steps(std::move(steps)), m_condition(std::move(condition)), m_old(FindShownDialogs()),
+      m_ticker(Look)
 {
-    m_timer = ::SetTimer(nullptr, 0, lookingMilliseconds, Look);
-    if (m_timer == 0)
-        return;
-    m_older = newest;
-    newest = this;
+    NextDialog** link = &oldest;
+    while (*link != nullptr)
+        link = &(*link)->m_newer;
+    *link = this;
 }
 
 NextDialog::~NextDialog()
@@ -51,38 +27,45 @@ NextDialog::~NextDialog()
     StopWaiting();
 }
 
-void CALLBACK NextDialog::Look(HWND, UINT, UINT_PTR timer, DWORD)
+void NextDialog::Look()
 {
-    NextDialog* self = newest;
-    while (self != nullptr && self->m_timer != timer)
-        self = self->m_older;
-    if (self == nullptr)
-        return;
     for (HWND dialog : FindOpenDialogs()) {
-        if (self->m_isOld(dialog))
-            continue;
-        self->RunSteps(dialog);
-        return;
+        if (Offer(dialog))
+            return;
     }
 }
 
-void NextDialog::RunSteps(HWND dialog)
+bool NextDialog::Offer(HWND dialog)
 {
-    StopWaiting();
-    m_hasRun = true;
-    m_steps(dialog);
+    NextDialog* taker = oldest;
+    while (taker != nullptr && !taker->Awaits(dialog))
+        taker = taker->m_newer;
+    if (taker == nullptr)
+        return false;
+    for (NextDialog* other = oldest; other != nullptr; other = other->m_newer)
+        other->m_old.push_back(dialog);
+    taker->StopWaiting();
+    taker->m_hasRun = true;
+    taker->m_steps(dialog);
+    return true;
+}
+
+bool NextDialog::Awaits(HWND dialog) const
+{
+    return std::find(m_old.begin(), m_old.end(), dialog) == m_old.end() &&
+           (m_condition == nullptr || m_condition(dialog));
 }
 
 void NextDialog::StopWaiting()
 {
-    if (m_timer == 0)
+    if (!m_isWaiting)
         return;
-    ::KillTimer(nullptr, m_timer);
-    m_timer = 0;
-    NextDialog** link = &newest;
+    m_isWaiting = false;
+    m_ticker.Stop();
+    NextDialog** link = &oldest;
     while (*link != this)
-        link = &(*link)->m_older;
-    *link = m_older;
+        link = &(*link)->m_newer;
+    *link = m_newer;
 }
 
 } // namespace umbra::testing

@@ -1,14 +1,18 @@
 // Acts on a modal dialog, which keeps its caller waiting until it is closed.
 #pragma once
 
+#include "testing/Ticker.h"
+
 #include <windows.h>
 
 #include <functional>
+#include <vector>
 
 namespace umbra::testing {
 
 /// Waits for the next dialog box or message box that the calling thread shows, and calls the steps
-/// inside its message loop. The steps must close it, or the caller waits for ever.
+/// inside its message loop. The steps must close it, or the caller waits for ever (DoModal.h has a
+/// limit). Where several wait, each takes one dialog, in the order in which they were made.
 ///
 ///     NextDialog answer([](HWND box) { Page(box).Click(IDYES); });
 ///     CHECK(AfxMessageBox("Go on?", MB_YESNO) == IDYES);
@@ -16,7 +20,9 @@ namespace umbra::testing {
 class NextDialog
 {
 public:
-    explicit NextDialog(std::function<void(HWND)> steps);
+    /// Waits for a dialog of which the condition holds; for any without one.
+    explicit NextDialog(std::function<void(HWND)> steps,
+                        std::function<bool(HWND)> condition = nullptr);
     NextDialog(const NextDialog&) = delete;
     NextDialog& operator=(const NextDialog&) = delete;
     ~NextDialog();
@@ -24,15 +30,18 @@ public:
     bool HasRun() const { return m_hasRun; }
 
 private:
-    static void CALLBACK Look(HWND, UINT, UINT_PTR timer, DWORD);
-    void RunSteps(HWND dialog);
+    static void Look();
+    static bool Offer(HWND dialog);
+    bool Awaits(HWND dialog) const;
     void StopWaiting();
 
     std::function<void(HWND)> m_steps;
-    std::function<bool(HWND)> m_isOld; // A dialog that was there before.
-    UINT_PTR m_timer = 0;              // 0: waits no longer.
-    NextDialog* m_older = nullptr;     // The next one of this thread's that waits.
+    std::function<bool(HWND)> m_condition;
+    std::vector<HWND> m_old; // Dialogs that were there before, or that another one has taken.
     bool m_hasRun = false;
+    bool m_isWaiting = true;
+    NextDialog* m_newer = nullptr; // The next one of this thread's that waits.
+    Ticker m_ticker;
 };
 
 } // namespace umbra::testing

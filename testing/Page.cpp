@@ -1,20 +1,8 @@
-#include "testing/Input.h"
 #include "testing/Page.h"
 #include "testing/Pump.h"
+#include "testing/ThreadWindows.h"
 
 namespace umbra::testing {
-
-namespace {
-
-std::string TextOf(HWND window)
-{
-    std::string text(static_cast<size_t>(::GetWindowTextLengthA(window)) + 1, '\0');
-    text.resize(
-        static_cast<size_t>(::GetWindowTextA(window, text.data(), static_cast<int>(text.size()))));
-    return text;
-}
-
-} // namespace
 
 Page::Page(CDialog& dialog, UINT templateId, CWnd* parent) : m_isOwn(true)
 {
@@ -39,7 +27,7 @@ Page::Page(HWND window) : m_window(window)
 
 Page::~Page()
 {
-    if (m_isOwn && IsOpen())
+    if (m_isOwn && m_window != nullptr && ::IsWindow(m_window))
         ::DestroyWindow(m_window);
 }
 
@@ -63,6 +51,11 @@ bool Page::Type(int id, const char* text)
     ::SendMessage(m_window, WM_NEXTDLGCTL, reinterpret_cast<WPARAM>(Control(id)), TRUE);
     ::SendMessage(Control(id), EM_SETSEL, 0, -1);
     return TypeText(text);
+}
+
+KeyResult Page::PressKey(WORD virtualKey, WORD modifier)
+{
+    return testing::PressKey(virtualKey, modifier);
 }
 
 std::string Page::Text(int id) const

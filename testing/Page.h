@@ -4,14 +4,15 @@
 #include <afxwin.h>
 
 #include "testing/DialogTemplate.h"
+#include "testing/Input.h"
 #include "testing/Picture.h"
 
 #include <string>
 
 namespace umbra::testing {
 
-/// A page on the screen, modeless, in front and with its messages worked off. Closes it at its end
-/// when it is still open; the dialog object stays its owner's.
+/// A page on the screen, modeless, in front and with its messages worked off. Destroys the
+/// window at its end when it is still there; the dialog object stays its owner's.
 class Page
 {
 public:
@@ -25,7 +26,8 @@ public:
     ~Page();
 
     HWND Handle() const { return m_window; }
-    bool IsOpen() const { return m_window != nullptr && ::IsWindow(m_window); }
+    /// Whether the user sees it: it is not destroyed, nor hidden, as EndDialog does at once.
+    bool IsOpen() const { return m_window != nullptr && ::IsWindowVisible(m_window); }
     HWND Control(int id) const { return ::GetDlgItem(m_window, id); }
 
     /// With the real pointer and keyboard; false when the input did not arrive.
@@ -34,6 +36,8 @@ public:
     bool Hover(int id);
     /// Gives the control the focus and types in place of its text.
     bool Type(int id, const char* text);
+    /// Goes to the control that has the focus.
+    KeyResult PressKey(WORD virtualKey, WORD modifier = 0);
 
     std::string Text(int id) const;
     std::string Title() const;

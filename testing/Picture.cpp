@@ -98,6 +98,14 @@ Picture Picture::Crop(const RECT& area) const
     return part;
 }
 
+void Picture::Paste(const Picture& other, int left, int top)
+{
+    for (int y = 0; y < other.m_height; ++y) {
+        for (int x = 0; x < other.m_width; ++x)
+            Set(left + x, top + y, other.At(x, y));
+    }
+}
+
 int Picture::CountOf(COLORREF color) const
 {
     return static_cast<int>(std::count(m_pixels.begin(), m_pixels.end(), ToPixel(color)));

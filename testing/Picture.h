@@ -29,6 +29,8 @@ public:
     COLORREF At(int x, int y) const;
     void Set(int x, int y, COLORREF color);
     Picture Crop(const RECT& area) const;
+    /// Puts another picture over this one; what does not fit is cut.
+    void Paste(const Picture& other, int left, int top);
 
     int CountOf(COLORREF color) const;
     bool Contains(COLORREF color) const { return CountOf(color) > 0; }

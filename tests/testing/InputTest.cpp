@@ -119,10 +119,18 @@ TEST_CASE_FIXTURE(InputFixture, "typed text may hold characters that the keyboar
 TEST_CASE_FIXTURE(InputFixture, "keys reach the page: Tab moves the focus, with Shift back")
 {
     ::SetFocus(page.Control(buttonId));
-    CHECK(PressKey(VK_TAB));
+    CHECK(PressKey(VK_TAB) == keyTaken);
     CHECK(::GetFocus() == page.Control(editId));
     CHECK(PressKey(VK_TAB, VK_SHIFT));
     CHECK(::GetFocus() == page.Control(buttonId));
+}
+
+TEST_CASE_FIXTURE(InputFixture, "a key that closes the window of the focus is no key that was lost")
+{
+    ::SetFocus(page.Control(editId));
+    CHECK(PressKey(VK_ESCAPE) == keyClosedWindow);
+    CHECK_FALSE(page.IsOpen());
+    CHECK(PressKey(VK_ESCAPE) == keyNotTaken);
 }
 
 TEST_CASE("input that no window of the thread gets is reported")

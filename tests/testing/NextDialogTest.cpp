@@ -45,3 +45,24 @@ TEST_CASE("nothing runs when no dialog comes")
     WaitUntil([] { return false; }, std::chrono::milliseconds(60));
     CHECK_FALSE(hasRun);
 }
+
+TEST_CASE("a dialog is taken once, by the one that has waited longest and awaits it")
+{
+    std::string order;
+    const auto take = [&](const char* name) {
+        return [&order, name](HWND box) {
+            order += name;
+            PumpMessages(); // The others look meanwhile.
+            ::EndDialog(box, IDOK);
+        };
+    };
+    const NextDialog never(take("never"), [](HWND) { return false; });
+    const NextDialog first(take("first "));
+    const NextDialog second(take("second "));
+    ::MessageBoxA(nullptr, "Text", "One", MB_OK);
+    CHECK_FALSE(second.HasRun());
+    ::MessageBoxA(nullptr, "Text", "Two", MB_OK);
+    CHECK(second.HasRun());
+    CHECK(order == "first second ");
+    CHECK_FALSE(never.HasRun());
+}

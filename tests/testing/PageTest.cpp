@@ -112,6 +112,22 @@ TEST_CASE("a page knows that it was closed meanwhile")
     CHECK_FALSE(page.IsOpen());
 }
 
+TEST_CASE("a page that has ended its dialog is open no more, and its window goes with it")
+{
+    CDialog dialog;
+    HWND window = nullptr;
+    {
+        DialogTemplate source = MakePage();
+        source.Button(IDOK, "OK", 110, 90, 40, 14);
+        Page page(dialog, source);
+        window = page.Handle();
+        CHECK(page.Click(IDOK));
+        CHECK_FALSE(page.IsOpen());
+        CHECK(::IsWindow(window)); // Hidden: a modeless dialog of MFC's own does no more.
+    }
+    CHECK_FALSE(::IsWindow(window));
+}
+
 TEST_CASE("a page off the screen is no place for the pointer")
 {
     CDialog dialog;

@@ -121,3 +121,12 @@ TEST_CASE("a saved picture is a PNG file of its size")
     CHECK((head[18] << 8 | head[19]) == 300);
     CHECK((head[22] << 8 | head[23]) == 7);
 }
+
+TEST_CASE("a picture that is put over another is cut to it")
+{
+    Picture picture(3, 2, RGB(255, 0, 0));
+    picture.Paste(Picture(2, 2, RGB(0, 255, 0)), 2, -1);
+    CHECK(picture.At(2, 0) == RGB(0, 255, 0));
+    CHECK(picture.CountOf(RGB(0, 255, 0)) == 1);
+    CHECK(picture.CountOf(RGB(255, 0, 0)) == 5);
+}
