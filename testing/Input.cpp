@@ -12,44 +12,66 @@ constexpr auto arrivalTime = std::chrono::seconds(2);
 
 /// Counts the mouse or keyboard messages that the calling thread takes from its queue. The
 /// system calls such a hook also for messages that a nested loop takes, and before it turns them
-/// into messages of a window's frame.
+/// into messages of a window's frame. What it takes may lead to more input, as when a message box
+/// comes up and is answered; one hook then counts for both.
 class ArrivalCounter
 {
 public:
     explicit ArrivalCounter(int hookKind)
-        : m_hook(::SetWindowsHookEx(hookKind, hookKind == WH_MOUSE ? CountMouse : CountKey, nullptr,
-                                    ::GetCurrentThreadId()))
+        : m_before(arrivals), m_users(hookKind == WH_MOUSE ? mouseUsers : keyUsers)
     {
-        buttons = moves = keys = 0;
+        if (m_users++ > 0)
+            return;
+        m_hook = ::SetWindowsHookEx(hookKind, hookKind == WH_MOUSE ? CountMouse : CountKey, nullptr,
+                                    ::GetCurrentThreadId());
     }
     ArrivalCounter(const ArrivalCounter&) = delete;
     ArrivalCounter& operator=(const ArrivalCounter&) = delete;
-    ~ArrivalCounter() { ::UnhookWindowsHookEx(m_hook); }
+    ~ArrivalCounter()
+    {
+        --m_users;
+        if (m_hook != nullptr)
+            ::UnhookWindowsHookEx(m_hook);
+    }
 
-    int Buttons() const { return buttons; }
-    int Moves() const { return moves; }
-    int Keys() const { return keys; }
+    int Buttons() const { return arrivals.buttons - m_before.buttons; }
+    int Moves() const { return arrivals.moves - m_before.moves; }
+    int Keys() const { return arrivals.keys - m_before.keys; }
 
 private:
+    struct Arrivals
+    {
+        int buttons = 0;
+        int moves = 0;
+        int keys = 0;
+    };
+
     static LRESULT CALLBACK CountMouse(int code, WPARAM message, LPARAM details)
     {
         const bool isMove = message == WM_MOUSEMOVE || message == WM_NCMOUSEMOVE;
         if (code == HC_ACTION)
-            ++(isMove ? moves : buttons);
+            ++(isMove ? arrivals.moves : arrivals.buttons);
         return ::CallNextHookEx(nullptr, code, message, details);
     }
     static LRESULT CALLBACK CountKey(int code, WPARAM key, LPARAM details)
     {
         if (code == HC_ACTION)
-            ++keys;
+            ++arrivals.keys;
         return ::CallNextHookEx(nullptr, code, key, details);
     }
 
-    static inline thread_local int buttons = 0;
-    static inline thread_local int moves = 0;
-    static inline thread_local int keys = 0;
-    HHOOK m_hook;
+    static thread_local Arrivals arrivals;
+    static thread_local int mouseUsers;
+    static thread_local int keyUsers;
+
+    Arrivals m_before;
+    int& m_users;
+    HHOOK m_hook = nullptr;
 };
+
+thread_local ArrivalCounter::Arrivals ArrivalCounter::arrivals;
+thread_local int ArrivalCounter::mouseUsers = 0;
+thread_local int ArrivalCounter::keyUsers = 0;
 
 POINT Middle(HWND window)
 {

@@ -1,3 +1,4 @@
+#include "testing/OpenDialogs.h"
 #include "testing/Pump.h"
 
 namespace umbra::testing {
@@ -14,6 +15,16 @@ bool PreTranslate(MSG& message)
     return thread != nullptr && thread->PreTranslateMessage(&message);
 }
 
+/// As the system's loop of a message box does. Pages of the class library have had their turn.
+bool IsKeyOfSystemDialog(MSG& message)
+{
+    if (message.message < WM_KEYFIRST || message.message > WM_KEYLAST)
+        return false;
+    HWND dialog = ::GetAncestor(message.hwnd, GA_ROOT);
+    return IsDialog(dialog) && CWnd::FromHandlePermanent(dialog) == nullptr &&
+           ::IsDialogMessage(dialog, &message);
+}
+
 } // namespace
 
 int PumpMessages()
@@ -26,7 +37,7 @@ int PumpMessages()
             break;
         }
         ++taken;
-        if (PreTranslate(message))
+        if (PreTranslate(message) || IsKeyOfSystemDialog(message))
             continue;
         ::TranslateMessage(&message);
         ::DispatchMessage(&message);

@@ -10,6 +10,7 @@ namespace umbra::testing {
 
 /// Takes every message that waits for the calling thread and dispatches it as the thread's own
 /// loop would: CWinThread::PreTranslateMessage comes first, where there is such a thread object.
+/// Keys in a message box do there what they do in its own loop.
 /// A WM_QUIT is put back and ends the pumping. Returns the number of messages taken.
 int PumpMessages();
 

@@ -135,6 +135,20 @@ TEST_CASE("a message box that a step brings up is answered within it")
     CHECK(outcome.result == pageResult);
 }
 
+TEST_CASE("a key that brings up a message box has arrived, though the box has taken other input")
+{
+    AskingPage dialog;
+    KeyResult space = keyNotTaken;
+    const ModalOutcome outcome = DoModal(dialog, {[&](Page& page) {
+                                                      const MessageBoxAnswer no(IDNO);
+                                                      ::SetFocus(page.Control(askId));
+                                                      space = page.PressKey(VK_SPACE);
+                                                  },
+                                                  PressOk});
+    CHECK(outcome.failure == "");
+    CHECK(space == keyTaken);
+}
+
 TEST_CASE("several pages come one after another, and each gets its own steps")
 {
     std::string titles;

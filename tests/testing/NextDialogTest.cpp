@@ -19,6 +19,16 @@ TEST_CASE("a message box is answered by the real pointer")
     CHECK(text == "Question");
 }
 
+TEST_CASE("a message box is answered by the keyboard, and its keys do what they do in its own loop")
+{
+    NextDialog answer([&](HWND box) {
+        Page page(box);
+        CHECK(page.PressKey(VK_TAB) == keyTaken); // From Yes to No.
+        CHECK(page.PressKey(VK_RETURN) == keyClosedWindow);
+    });
+    CHECK(::MessageBoxA(nullptr, "Go on?", "Question", MB_YESNO) == IDNO);
+}
+
 TEST_CASE("dialogs that were open before are not taken for the next one")
 {
     CDialog open;
