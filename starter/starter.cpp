@@ -39,8 +39,8 @@ class CStarterApp : public CWinApp
         g_strImageDir = folder.Left(folder.ReverseFind('\\'));
         g_crShade = RGB(180, 200, 230);
 
+        // Not as m_pMainWnd: what is shown after the end of the main window does not appear.
         CStarterPage page;
-        m_pMainWnd = &page;
         page.DoModal();
         return FALSE; // The page is all there is: no message loop of the program's own.
     }
