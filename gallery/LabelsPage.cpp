@@ -135,9 +135,12 @@ void CLabelsPage::PrepareLinks()
     m_fileLink.SetLink(TRUE);
     m_fileLink.SetLabelTextColor(palette::accent);
     FitToText(m_fileLink);
-    if (HasImages() && !HasTextProgram())
-        SetLabelText(m_footnote,
-                     "The system has no program for text files, so the second link opens nothing.");
+    if (!HasTextProgram()) {
+        CString intro;
+        m_intro.GetWindowText(intro);
+        intro.TrimRight('.');
+        SetLabelText(m_intro, intro + "; for text files it has none.");
+    }
 
     m_targetLink.SetLink(TRUE);
     m_targetLink.SetLabelTextColor(palette::accent);
