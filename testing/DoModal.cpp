@@ -37,6 +37,19 @@ void EndDialog(HWND dialog)
         ::EndDialog(dialog, IDABORT);
 }
 
+/// The system's own loops for menus and for moving a window go on whatever becomes of the dialog.
+void EndMenuOrMove()
+{
+    GUITHREADINFO info{};
+    info.cbSize = sizeof info;
+    if (!::GetGUIThreadInfo(::GetCurrentThreadId(), &info))
+        return;
+    if (info.hwndMenuOwner != nullptr)
+        ::EndMenu();
+    if (info.hwndMoveSize != nullptr)
+        ::PostMessage(info.hwndMoveSize, WM_KEYDOWN, VK_ESCAPE, 0);
+}
+
 bool HasQuit()
 {
     MSG message;
@@ -155,6 +168,7 @@ void Driver::GiveUp()
 
 void Driver::EndDialogs()
 {
+    EndMenuOrMove();
     for (HWND dialog : FindDialogs()) {
         if (!IsOld(dialog))
             EndDialog(dialog);

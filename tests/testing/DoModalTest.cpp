@@ -225,6 +225,32 @@ TEST_CASE("a message box that nobody answers fails as its page does, and both ar
     ::DeleteFileA(outcome.pictureFile.c_str());
 }
 
+TEST_CASE("a menu or a move that nobody ends keeps no page open")
+{
+    AskingPage dialog;
+    Step step;
+    SUBCASE("a menu")
+    {
+        step = [](Page& page) {
+            CMenu menu;
+            menu.CreatePopupMenu();
+            menu.AppendMenu(MF_STRING, 1, "Item");
+            menu.TrackPopupMenu(TPM_LEFTALIGN, 30, 30, CWnd::FromHandle(page.Handle()));
+        };
+    }
+    SUBCASE("a move")
+    {
+        step = [](Page& page) {
+            MovePointer(page.Handle());
+            ::SendMessage(page.Handle(), WM_SYSCOMMAND, SC_MOVE | HTCAPTION, 0);
+        };
+    }
+    const ModalOutcome outcome = DoModal(dialog, {step}, shortLimit);
+    CHECK(outcome.result == IDABORT);
+    CHECK(outcome.failure.find("Step 1 of 1 of dialog 1 never ended") != std::string::npos);
+    ::DeleteFileA(outcome.pictureFile.c_str());
+}
+
 TEST_CASE("a page that hides and goes on is ended, too")
 {
     AskingPage dialog;
