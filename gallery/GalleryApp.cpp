@@ -34,7 +34,6 @@ BOOL CGalleryApp::InitInstance()
     }
 
     CStartPage page;
-    m_pMainWnd = &page;
     page.DoModal();
     return FALSE;
 }

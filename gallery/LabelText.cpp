@@ -2,6 +2,9 @@
 
 void SetLabelText(CWnd& label, const CString& text)
 {
+    CWnd* page = label.GetParent();
+    if (page == nullptr)
+        return; // A label that could not be bound.
     CString before;
     label.GetWindowText(before);
     if (text == before)
@@ -9,7 +12,6 @@ void SetLabelText(CWnd& label, const CString& text)
     label.SetWindowText(text);
     CRect place;
     label.GetWindowRect(&place);
-    CWnd* page = label.GetParent();
     page->ScreenToClient(&place);
     page->InvalidateRect(&place, TRUE);
 }
