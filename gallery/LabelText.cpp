@@ -2,9 +2,8 @@
 
 void SetLabelText(CWnd& label, const CString& text)
 {
-    CWnd* page = label.GetParent();
-    if (page == nullptr)
-        return; // A label that could not be bound.
+    if (label.GetSafeHwnd() == nullptr)
+        return; // It could not be bound.
     CString before;
     label.GetWindowText(before);
     if (text == before)
@@ -12,6 +11,7 @@ void SetLabelText(CWnd& label, const CString& text)
     label.SetWindowText(text);
     CRect place;
     label.GetWindowRect(&place);
+    CWnd* page = label.GetParent();
     page->ScreenToClient(&place);
     page->InvalidateRect(&place, TRUE);
 }
