@@ -9,46 +9,51 @@
 class CWnd;
 
 /// Attaches the object to its control, the first time it is called.
-void AFXAPI DDX_Control(CDataExchange* pDX, int nIDC, CWnd& rControl);
+AFX_EXPORTED void AFXAPI DDX_Control(CDataExchange* pDX, int nIDC, CWnd& rControl);
 
-void AFXAPI DDX_Text(CDataExchange* pDX, int nIDC, BYTE& value);
-void AFXAPI DDX_Text(CDataExchange* pDX, int nIDC, short& value);
-void AFXAPI DDX_Text(CDataExchange* pDX, int nIDC, int& value);
-void AFXAPI DDX_Text(CDataExchange* pDX, int nIDC, UINT& value);
-void AFXAPI DDX_Text(CDataExchange* pDX, int nIDC, long& value);
-void AFXAPI DDX_Text(CDataExchange* pDX, int nIDC, DWORD& value);
-void AFXAPI DDX_Text(CDataExchange* pDX, int nIDC, CString& value);
-void AFXAPI DDX_Text(CDataExchange* pDX, int nIDC, float& value);
-void AFXAPI DDX_Text(CDataExchange* pDX, int nIDC, double& value);
+AFX_EXPORTED void AFXAPI DDX_Text(CDataExchange* pDX, int nIDC, BYTE& value);
+AFX_EXPORTED void AFXAPI DDX_Text(CDataExchange* pDX, int nIDC, short& value);
+AFX_EXPORTED void AFXAPI DDX_Text(CDataExchange* pDX, int nIDC, int& value);
+AFX_EXPORTED void AFXAPI DDX_Text(CDataExchange* pDX, int nIDC, UINT& value);
+AFX_EXPORTED void AFXAPI DDX_Text(CDataExchange* pDX, int nIDC, long& value);
+AFX_EXPORTED void AFXAPI DDX_Text(CDataExchange* pDX, int nIDC, DWORD& value);
+AFX_EXPORTED void AFXAPI DDX_Text(CDataExchange* pDX, int nIDC, CString& value);
+AFX_EXPORTED void AFXAPI DDX_Text(CDataExchange* pDX, int nIDC, float& value);
+AFX_EXPORTED void AFXAPI DDX_Text(CDataExchange* pDX, int nIDC, double& value);
 
 /// 0 unchecked, 1 checked, 2 in between.
-void AFXAPI DDX_Check(CDataExchange* pDX, int nIDC, int& value);
+AFX_EXPORTED void AFXAPI DDX_Check(CDataExchange* pDX, int nIDC, int& value);
 /// The number, from 0, of the checked button in the group that starts at nIDC; -1 for none.
-void AFXAPI DDX_Radio(CDataExchange* pDX, int nIDC, int& value);
-void AFXAPI DDX_LBIndex(CDataExchange* pDX, int nIDC, int& index);
-void AFXAPI DDX_LBString(CDataExchange* pDX, int nIDC, CString& value);
-void AFXAPI DDX_LBStringExact(CDataExchange* pDX, int nIDC, CString& value);
-void AFXAPI DDX_CBIndex(CDataExchange* pDX, int nIDC, int& index);
-void AFXAPI DDX_CBString(CDataExchange* pDX, int nIDC, CString& value);
-void AFXAPI DDX_CBStringExact(CDataExchange* pDX, int nIDC, CString& value);
-void AFXAPI DDX_Scroll(CDataExchange* pDX, int nIDC, int& value);
-void AFXAPI DDX_Slider(CDataExchange* pDX, int nIDC, int& value);
-void AFXAPI DDX_IPAddress(CDataExchange* pDX, int nIDC, DWORD& value);
+AFX_EXPORTED void AFXAPI DDX_Radio(CDataExchange* pDX, int nIDC, int& value);
+AFX_EXPORTED void AFXAPI DDX_LBIndex(CDataExchange* pDX, int nIDC, int& index);
+AFX_EXPORTED void AFXAPI DDX_LBString(CDataExchange* pDX, int nIDC, CString& value);
+AFX_EXPORTED void AFXAPI DDX_LBStringExact(CDataExchange* pDX, int nIDC, CString& value);
+AFX_EXPORTED void AFXAPI DDX_CBIndex(CDataExchange* pDX, int nIDC, int& index);
+AFX_EXPORTED void AFXAPI DDX_CBString(CDataExchange* pDX, int nIDC, CString& value);
+AFX_EXPORTED void AFXAPI DDX_CBStringExact(CDataExchange* pDX, int nIDC, CString& value);
+AFX_EXPORTED void AFXAPI DDX_Scroll(CDataExchange* pDX, int nIDC, int& value);
+AFX_EXPORTED void AFXAPI DDX_Slider(CDataExchange* pDX, int nIDC, int& value);
+AFX_EXPORTED void AFXAPI DDX_IPAddress(CDataExchange* pDX, int nIDC, DWORD& value);
 
-void AFXAPI DDV_MinMaxByte(CDataExchange* pDX, BYTE value, BYTE minVal, BYTE maxVal);
-void AFXAPI DDV_MinMaxShort(CDataExchange* pDX, short value, short minVal, short maxVal);
-void AFXAPI DDV_MinMaxInt(CDataExchange* pDX, int value, int minVal, int maxVal);
-void AFXAPI DDV_MinMaxLong(CDataExchange* pDX, long value, long minVal, long maxVal);
-void AFXAPI DDV_MinMaxUInt(CDataExchange* pDX, UINT value, UINT minVal, UINT maxVal);
-void AFXAPI DDV_MinMaxUnsigned(CDataExchange* pDX, unsigned value, unsigned minVal,
-                               unsigned maxVal);
-void AFXAPI DDV_MinMaxDWord(CDataExchange* pDX, const DWORD& value, DWORD minVal, DWORD maxVal);
-void AFXAPI DDV_MinMaxLongLong(CDataExchange* pDX, LONGLONG value, LONGLONG minVal,
-                               LONGLONG maxVal);
-void AFXAPI DDV_MinMaxULongLong(CDataExchange* pDX, ULONGLONG value, ULONGLONG minVal,
-                                ULONGLONG maxVal);
-void AFXAPI DDV_MinMaxFloat(CDataExchange* pDX, const float& value, float minVal, float maxVal);
-void AFXAPI DDV_MinMaxDouble(CDataExchange* pDX, const double& value, double minVal, double maxVal);
-void AFXAPI DDV_MinMaxSlider(CDataExchange* pDX, DWORD value, DWORD minVal, DWORD maxVal);
+AFX_EXPORTED void AFXAPI DDV_MinMaxByte(CDataExchange* pDX, BYTE value, BYTE minVal, BYTE maxVal);
+AFX_EXPORTED void AFXAPI DDV_MinMaxShort(CDataExchange* pDX, short value, short minVal,
+                                         short maxVal);
+AFX_EXPORTED void AFXAPI DDV_MinMaxInt(CDataExchange* pDX, int value, int minVal, int maxVal);
+AFX_EXPORTED void AFXAPI DDV_MinMaxLong(CDataExchange* pDX, long value, long minVal, long maxVal);
+AFX_EXPORTED void AFXAPI DDV_MinMaxUInt(CDataExchange* pDX, UINT value, UINT minVal, UINT maxVal);
+AFX_EXPORTED void AFXAPI DDV_MinMaxUnsigned(CDataExchange* pDX, unsigned value, unsigned minVal,
+                                            unsigned maxVal);
+AFX_EXPORTED void AFXAPI DDV_MinMaxDWord(CDataExchange* pDX, const DWORD& value, DWORD minVal,
+                                         DWORD maxVal);
+AFX_EXPORTED void AFXAPI DDV_MinMaxLongLong(CDataExchange* pDX, LONGLONG value, LONGLONG minVal,
+                                            LONGLONG maxVal);
+AFX_EXPORTED void AFXAPI DDV_MinMaxULongLong(CDataExchange* pDX, ULONGLONG value, ULONGLONG minVal,
+                                             ULONGLONG maxVal);
+AFX_EXPORTED void AFXAPI DDV_MinMaxFloat(CDataExchange* pDX, const float& value, float minVal,
+                                         float maxVal);
+AFX_EXPORTED void AFXAPI DDV_MinMaxDouble(CDataExchange* pDX, const double& value, double minVal,
+                                          double maxVal);
+AFX_EXPORTED void AFXAPI DDV_MinMaxSlider(CDataExchange* pDX, DWORD value, DWORD minVal,
+                                          DWORD maxVal);
 /// Limits what can be typed, and checks the length.
-void AFXAPI DDV_MaxChars(CDataExchange* pDX, const CString& value, int nChars);
+AFX_EXPORTED void AFXAPI DDV_MaxChars(CDataExchange* pDX, const CString& value, int nChars);

@@ -62,10 +62,6 @@ struct Delivery
     void* extra; ///< CCmdUI or AFX_NOTIFY of a command.
 };
 
-/// Calls a handler with the arguments of its signature. Gives the message's result; for a command
-/// whether it has been dealt with.
-using Caller = LRESULT (*)(CCmdTarget* target, AFX_PMSG handler, const Delivery& delivery);
-
 } // namespace afxint
 
 struct AFX_MSGMAP_ENTRY
@@ -75,7 +71,7 @@ struct AFX_MSGMAP_ENTRY
     UINT nID;                 ///< First control or command identifier,
     UINT nLastID;             ///< and last.
     const UINT* pnRegistered; ///< The variable of a registered message.
-    afxint::Caller pfnCall;   ///< NULL ends the table.
+    UINT nSig;                ///< The handler's signature: afxint::SignatureNumber.
     AFX_PMSG pfn;
 };
 
@@ -105,7 +101,113 @@ Handler HandlerAs(AFX_PMSG handler)
 }
 #pragma GCC diagnostic pop
 
-/// The signatures of handlers: the type of each, and how its arguments come out of a message.
+// The signatures of handlers: a name, the class of the handler, what it gives, what it takes. Their
+// order is their number in the maps of programs that are built already: new ones go to the end.
+// clang-format off
+#define AFXINT_SIGNATURES(signature)                                                               \
+    signature(Command, CCmdTarget, void)                                                           \
+    signature(CommandEx, CCmdTarget, BOOL, UINT)                                                   \
+    signature(CommandRange, CCmdTarget, void, UINT)                                                \
+    signature(ControlReflectEx, CCmdTarget, BOOL)                                                  \
+    signature(UpdateCommandUi, CCmdTarget, void, CCmdUI*)                                          \
+    signature(Notify, CCmdTarget, void, NMHDR*, LRESULT*)                                          \
+    signature(NotifyEx, CCmdTarget, BOOL, UINT, NMHDR*, LRESULT*)                                  \
+    signature(NotifyRange, CCmdTarget, void, UINT, NMHDR*, LRESULT*)                               \
+    signature(NotifyReflectEx, CCmdTarget, BOOL, NMHDR*, LRESULT*)                                 \
+    signature(Plain, CWnd, void)                                                                   \
+    signature(Flag, CWnd, void, BOOL)                                                              \
+    signature(Number, CWnd, void, UINT)                                                            \
+    signature(NumberPair, CWnd, void, UINT, UINT)                                                  \
+    signature(AskFlag, CWnd, BOOL)                                                                 \
+    signature(AskNumber, CWnd, UINT)                                                               \
+    signature(AskIcon, CWnd, HCURSOR)                                                              \
+    signature(WindowInWParam, CWnd, void, CWnd*)                                                   \
+    signature(WindowInLParam, CWnd, void, CWnd*)                                                   \
+    signature(Activate, CWnd, void, UINT, CWnd*, BOOL)                                             \
+    signature(ActivateApp, CWnd, void, BOOL, DWORD)                                                \
+    signature(AppCommand, CWnd, void, CWnd*, UINT, UINT, UINT)                                     \
+    signature(AskFormatName, CWnd, void, UINT, LPTSTR)                                             \
+    signature(ChainChange, CWnd, void, HWND, HWND)                                                 \
+    signature(ClipboardMemory, CWnd, void, CWnd*, HGLOBAL)                                         \
+    signature(CompareItem, CWnd, int, int, LPCOMPAREITEMSTRUCT)                                    \
+    signature(CompareItemReflect, CWnd, int, LPCOMPAREITEMSTRUCT)                                  \
+    signature(ContextMenu, CWnd, void, CWnd*, CPoint)                                              \
+    signature(CopyData, CWnd, BOOL, CWnd*, COPYDATASTRUCT*)                                        \
+    signature(Create, CWnd, int, LPCREATESTRUCT)                                                   \
+    signature(CtlColor, CWnd, HBRUSH, CDC*, CWnd*, UINT)                                           \
+    signature(CtlColorReflect, CWnd, HBRUSH, CDC*, UINT)                                           \
+    signature(DeleteItem, CWnd, void, int, LPDELETEITEMSTRUCT)                                     \
+    signature(DeleteItemReflect, CWnd, void, LPDELETEITEMSTRUCT)                                   \
+    signature(DeviceChange, CWnd, BOOL, UINT, DWORD_PTR)                                           \
+    signature(DevModeChange, CWnd, void, LPTSTR)                                                   \
+    signature(DragRect, CWnd, void, UINT, LPRECT)                                                  \
+    signature(DrawItem, CWnd, void, int, LPDRAWITEMSTRUCT)                                         \
+    signature(DrawItemReflect, CWnd, void, LPDRAWITEMSTRUCT)                                       \
+    signature(DropFiles, CWnd, void, HDROP)                                                        \
+    signature(EnterIdle, CWnd, void, UINT, CWnd*)                                                  \
+    signature(EraseBackground, CWnd, BOOL, CDC*)                                                   \
+    signature(EraseIconBackground, CWnd, void, CDC*)                                               \
+    signature(HelpInfo, CWnd, BOOL, HELPINFO*)                                                     \
+    signature(InitMenu, CWnd, void, CMenu*)                                                        \
+    signature(InitMenuPopup, CWnd, void, CMenu*, UINT, BOOL)                                       \
+    signature(Key, CWnd, void, UINT, UINT, UINT)                                                   \
+    signature(KeyToItem, CWnd, int, UINT, CListBox*, UINT)                                         \
+    signature(KeyToItemReflect, CWnd, int, UINT, UINT)                                             \
+    signature(MdiActivate, CWnd, void, BOOL, CWnd*, CWnd*)                                         \
+    signature(MeasureItem, CWnd, void, int, LPMEASUREITEMSTRUCT)                                   \
+    signature(MeasureItemReflect, CWnd, void, LPMEASUREITEMSTRUCT)                                 \
+    signature(MenuChar, CWnd, LRESULT, UINT, UINT, CMenu*)                                         \
+    signature(MenuDrag, CWnd, UINT, UINT, CMenu*)                                                  \
+    signature(MenuGetObject, CWnd, UINT, MENUGETOBJECTINFO*)                                       \
+    signature(MenuRButtonUp, CWnd, void, UINT, CMenu*)                                             \
+    signature(MenuSelect, CWnd, void, UINT, UINT, HMENU)                                           \
+    signature(MinMaxInfo, CWnd, void, MINMAXINFO*)                                                 \
+    signature(Mouse, CWnd, void, UINT, CPoint)                                                     \
+    signature(MouseActivate, CWnd, int, CWnd*, UINT, UINT)                                         \
+    signature(MouseHWheel, CWnd, void, UINT, short, CPoint)                                        \
+    signature(MouseWheel, CWnd, BOOL, UINT, short, CPoint)                                         \
+    signature(Move, CWnd, void, int, int)                                                          \
+    signature(NcActivate, CWnd, BOOL, BOOL)                                                        \
+    signature(NcCalcSize, CWnd, void, BOOL, NCCALCSIZE_PARAMS*)                                    \
+    signature(NcCreate, CWnd, BOOL, LPCREATESTRUCT)                                                \
+    signature(NcHitTest, CWnd, LRESULT, CPoint)                                                    \
+    signature(NcXButton, CWnd, void, short, UINT, CPoint)                                          \
+    signature(NextMenu, CWnd, void, UINT, LPMDINEXTMENU)                                           \
+    signature(NotifyFormat, CWnd, UINT, CWnd*, UINT)                                               \
+    signature(ParentNotify, CWnd, void, UINT, LPARAM)                                              \
+    signature(PowerBroadcast, CWnd, UINT, UINT, UINT)                                              \
+    signature(RawInput, CWnd, void, UINT, HRAWINPUT)                                               \
+    signature(Scroll, CWnd, void, UINT, UINT, CScrollBar*)                                         \
+    signature(ScrollClipboard, CWnd, void, CWnd*, UINT, UINT)                                      \
+    signature(ScrollReflect, CWnd, void, UINT, UINT)                                               \
+    signature(SetCursor, CWnd, BOOL, CWnd*, UINT, UINT)                                            \
+    signature(SettingChange, CWnd, void, UINT, LPCTSTR)                                            \
+    signature(Show, CWnd, void, BOOL, UINT)                                                        \
+    signature(Size, CWnd, void, UINT, int, int)                                                    \
+    signature(SpoolerStatus, CWnd, void, UINT, UINT)                                               \
+    signature(StyleChange, CWnd, void, int, LPSTYLESTRUCT)                                         \
+    signature(SysCommand, CWnd, void, UINT, LPARAM)                                                \
+    signature(Timer, CWnd, void, UINT_PTR)                                                         \
+    signature(TrainingCard, CWnd, void, UINT, DWORD)                                               \
+    signature(UiState, CWnd, void, UINT, UINT)                                                     \
+    signature(UnInitMenuPopup, CWnd, void, CMenu*, UINT)                                           \
+    signature(WindowPos, CWnd, void, WINDOWPOS*)                                                   \
+    signature(WinIniChange, CWnd, void, LPCTSTR)                                                   \
+    signature(XButton, CWnd, void, UINT, UINT, CPoint)                                             \
+    signature(AnyMessage, CWnd, LRESULT, WPARAM, LPARAM)                                           \
+    signature(ThreadMessage, CWinThread, void, WPARAM, LPARAM)
+// clang-format on
+
+/// The numbers of the signatures in maps. None ends a table.
+enum class SignatureNumber : UINT {
+    None,
+#define AFXINT_NUMBER(name, ...) name,
+    AFXINT_SIGNATURES(AFXINT_NUMBER)
+#undef AFXINT_NUMBER
+};
+
+/// The type of each signature's handlers, and in the library how their arguments come out of a
+/// message.
 namespace signature {
 
 #define AFXINT_SIGNATURE(name, target, result, ...)                                                \
@@ -114,102 +216,7 @@ namespace signature {
         using Handler = result (AFX_MSG_CALL target::*)(__VA_ARGS__);                              \
         static LRESULT Call(CCmdTarget* object, AFX_PMSG handler, const Delivery& delivery);       \
     };
-
-// Commands and notifications.
-AFXINT_SIGNATURE(Command, CCmdTarget, void)
-AFXINT_SIGNATURE(CommandEx, CCmdTarget, BOOL, UINT)
-AFXINT_SIGNATURE(CommandRange, CCmdTarget, void, UINT)
-AFXINT_SIGNATURE(ControlReflectEx, CCmdTarget, BOOL)
-AFXINT_SIGNATURE(UpdateCommandUi, CCmdTarget, void, CCmdUI*)
-AFXINT_SIGNATURE(Notify, CCmdTarget, void, NMHDR*, LRESULT*)
-AFXINT_SIGNATURE(NotifyEx, CCmdTarget, BOOL, UINT, NMHDR*, LRESULT*)
-AFXINT_SIGNATURE(NotifyRange, CCmdTarget, void, UINT, NMHDR*, LRESULT*)
-AFXINT_SIGNATURE(NotifyReflectEx, CCmdTarget, BOOL, NMHDR*, LRESULT*)
-
-// Messages.
-AFXINT_SIGNATURE(Plain, CWnd, void)
-AFXINT_SIGNATURE(Flag, CWnd, void, BOOL)
-AFXINT_SIGNATURE(Number, CWnd, void, UINT)
-AFXINT_SIGNATURE(NumberPair, CWnd, void, UINT, UINT)
-AFXINT_SIGNATURE(AskFlag, CWnd, BOOL)
-AFXINT_SIGNATURE(AskNumber, CWnd, UINT)
-AFXINT_SIGNATURE(AskIcon, CWnd, HCURSOR)
-AFXINT_SIGNATURE(WindowInWParam, CWnd, void, CWnd*)
-AFXINT_SIGNATURE(WindowInLParam, CWnd, void, CWnd*)
-AFXINT_SIGNATURE(Activate, CWnd, void, UINT, CWnd*, BOOL)
-AFXINT_SIGNATURE(ActivateApp, CWnd, void, BOOL, DWORD)
-AFXINT_SIGNATURE(AppCommand, CWnd, void, CWnd*, UINT, UINT, UINT)
-AFXINT_SIGNATURE(AskFormatName, CWnd, void, UINT, LPTSTR)
-AFXINT_SIGNATURE(ChainChange, CWnd, void, HWND, HWND)
-AFXINT_SIGNATURE(ClipboardMemory, CWnd, void, CWnd*, HGLOBAL)
-AFXINT_SIGNATURE(CompareItem, CWnd, int, int, LPCOMPAREITEMSTRUCT)
-AFXINT_SIGNATURE(CompareItemReflect, CWnd, int, LPCOMPAREITEMSTRUCT)
-AFXINT_SIGNATURE(ContextMenu, CWnd, void, CWnd*, CPoint)
-AFXINT_SIGNATURE(CopyData, CWnd, BOOL, CWnd*, COPYDATASTRUCT*)
-AFXINT_SIGNATURE(Create, CWnd, int, LPCREATESTRUCT)
-AFXINT_SIGNATURE(CtlColor, CWnd, HBRUSH, CDC*, CWnd*, UINT)
-AFXINT_SIGNATURE(CtlColorReflect, CWnd, HBRUSH, CDC*, UINT)
-AFXINT_SIGNATURE(DeleteItem, CWnd, void, int, LPDELETEITEMSTRUCT)
-AFXINT_SIGNATURE(DeleteItemReflect, CWnd, void, LPDELETEITEMSTRUCT)
-AFXINT_SIGNATURE(DeviceChange, CWnd, BOOL, UINT, DWORD_PTR)
-AFXINT_SIGNATURE(DevModeChange, CWnd, void, LPTSTR)
-AFXINT_SIGNATURE(DragRect, CWnd, void, UINT, LPRECT)
-AFXINT_SIGNATURE(DrawItem, CWnd, void, int, LPDRAWITEMSTRUCT)
-AFXINT_SIGNATURE(DrawItemReflect, CWnd, void, LPDRAWITEMSTRUCT)
-AFXINT_SIGNATURE(DropFiles, CWnd, void, HDROP)
-AFXINT_SIGNATURE(EnterIdle, CWnd, void, UINT, CWnd*)
-AFXINT_SIGNATURE(EraseBackground, CWnd, BOOL, CDC*)
-AFXINT_SIGNATURE(EraseIconBackground, CWnd, void, CDC*)
-AFXINT_SIGNATURE(HelpInfo, CWnd, BOOL, HELPINFO*)
-AFXINT_SIGNATURE(InitMenu, CWnd, void, CMenu*)
-AFXINT_SIGNATURE(InitMenuPopup, CWnd, void, CMenu*, UINT, BOOL)
-AFXINT_SIGNATURE(Key, CWnd, void, UINT, UINT, UINT)
-AFXINT_SIGNATURE(KeyToItem, CWnd, int, UINT, CListBox*, UINT)
-AFXINT_SIGNATURE(KeyToItemReflect, CWnd, int, UINT, UINT)
-AFXINT_SIGNATURE(MdiActivate, CWnd, void, BOOL, CWnd*, CWnd*)
-AFXINT_SIGNATURE(MeasureItem, CWnd, void, int, LPMEASUREITEMSTRUCT)
-AFXINT_SIGNATURE(MeasureItemReflect, CWnd, void, LPMEASUREITEMSTRUCT)
-AFXINT_SIGNATURE(MenuChar, CWnd, LRESULT, UINT, UINT, CMenu*)
-AFXINT_SIGNATURE(MenuDrag, CWnd, UINT, UINT, CMenu*)
-AFXINT_SIGNATURE(MenuGetObject, CWnd, UINT, MENUGETOBJECTINFO*)
-AFXINT_SIGNATURE(MenuRButtonUp, CWnd, void, UINT, CMenu*)
-AFXINT_SIGNATURE(MenuSelect, CWnd, void, UINT, UINT, HMENU)
-AFXINT_SIGNATURE(MinMaxInfo, CWnd, void, MINMAXINFO*)
-AFXINT_SIGNATURE(Mouse, CWnd, void, UINT, CPoint)
-AFXINT_SIGNATURE(MouseActivate, CWnd, int, CWnd*, UINT, UINT)
-AFXINT_SIGNATURE(MouseHWheel, CWnd, void, UINT, short, CPoint)
-AFXINT_SIGNATURE(MouseWheel, CWnd, BOOL, UINT, short, CPoint)
-AFXINT_SIGNATURE(Move, CWnd, void, int, int)
-AFXINT_SIGNATURE(NcActivate, CWnd, BOOL, BOOL)
-AFXINT_SIGNATURE(NcCalcSize, CWnd, void, BOOL, NCCALCSIZE_PARAMS*)
-AFXINT_SIGNATURE(NcCreate, CWnd, BOOL, LPCREATESTRUCT)
-AFXINT_SIGNATURE(NcHitTest, CWnd, LRESULT, CPoint)
-AFXINT_SIGNATURE(NcXButton, CWnd, void, short, UINT, CPoint)
-AFXINT_SIGNATURE(NextMenu, CWnd, void, UINT, LPMDINEXTMENU)
-AFXINT_SIGNATURE(NotifyFormat, CWnd, UINT, CWnd*, UINT)
-AFXINT_SIGNATURE(ParentNotify, CWnd, void, UINT, LPARAM)
-AFXINT_SIGNATURE(PowerBroadcast, CWnd, UINT, UINT, UINT)
-AFXINT_SIGNATURE(RawInput, CWnd, void, UINT, HRAWINPUT)
-AFXINT_SIGNATURE(Scroll, CWnd, void, UINT, UINT, CScrollBar*)
-AFXINT_SIGNATURE(ScrollClipboard, CWnd, void, CWnd*, UINT, UINT)
-AFXINT_SIGNATURE(ScrollReflect, CWnd, void, UINT, UINT)
-AFXINT_SIGNATURE(SetCursor, CWnd, BOOL, CWnd*, UINT, UINT)
-AFXINT_SIGNATURE(SettingChange, CWnd, void, UINT, LPCTSTR)
-AFXINT_SIGNATURE(Show, CWnd, void, BOOL, UINT)
-AFXINT_SIGNATURE(Size, CWnd, void, UINT, int, int)
-AFXINT_SIGNATURE(SpoolerStatus, CWnd, void, UINT, UINT)
-AFXINT_SIGNATURE(StyleChange, CWnd, void, int, LPSTYLESTRUCT)
-AFXINT_SIGNATURE(SysCommand, CWnd, void, UINT, LPARAM)
-AFXINT_SIGNATURE(Timer, CWnd, void, UINT_PTR)
-AFXINT_SIGNATURE(TrainingCard, CWnd, void, UINT, DWORD)
-AFXINT_SIGNATURE(UiState, CWnd, void, UINT, UINT)
-AFXINT_SIGNATURE(UnInitMenuPopup, CWnd, void, CMenu*, UINT)
-AFXINT_SIGNATURE(WindowPos, CWnd, void, WINDOWPOS*)
-AFXINT_SIGNATURE(WinIniChange, CWnd, void, LPCTSTR)
-AFXINT_SIGNATURE(XButton, CWnd, void, UINT, UINT, CPoint)
-AFXINT_SIGNATURE(AnyMessage, CWnd, LRESULT, WPARAM, LPARAM)
-AFXINT_SIGNATURE(ThreadMessage, CWinThread, void, WPARAM, LPARAM)
-
+AFXINT_SIGNATURES(AFXINT_SIGNATURE)
 #undef AFXINT_SIGNATURE
 
 } // namespace signature
@@ -246,7 +253,7 @@ protected:                                                                      
 
 #define END_MESSAGE_MAP()                                                                          \
     {                                                                                              \
-        0, 0, 0, 0, NULL, NULL, NULL                                                               \
+        0, 0, 0, 0, NULL, 0, NULL                                                                  \
     }                                                                                              \
     }                                                                                              \
     ;                                                                                              \
@@ -261,7 +268,7 @@ protected:                                                                      
      first,                                                                                        \
      last,                                                                                         \
      registered,                                                                                   \
-     &afxint::signature::kind::Call,                                                               \
+     static_cast<UINT>(afxint::SignatureNumber::kind),                                             \
      afxint::AnyHandler(static_cast<afxint::signature::kind::Handler>(handler))},
 #define AFXINT_WM(message, kind, handler) AFXINT_ENTRY(message, 0, 0, 0, NULL, kind, handler)
 #define AFXINT_CONTROL(message, code, first, last, kind, handler)                                  \

@@ -4,7 +4,7 @@
 #include <classes/CWnd.h>
 
 /// The common control "SysAnimate32".
-class CAnimateCtrl : public CWnd
+class AFX_EXPORTED CAnimateCtrl : public CWnd
 {
     DECLARE_DYNAMIC(CAnimateCtrl)
 

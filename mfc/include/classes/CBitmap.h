@@ -6,7 +6,7 @@
 
 class CDC;
 
-class CBitmap : public CGdiObject
+class AFX_EXPORTED CBitmap : public CGdiObject
 {
     DECLARE_DYNAMIC(CBitmap)
 

@@ -6,7 +6,7 @@
 
 /// An owner-drawn push button with a bitmap for each of its states. Only the normal one is
 /// needed; a missing one falls back on it.
-class CBitmapButton : public CButton
+class AFX_EXPORTED CBitmapButton : public CButton
 {
     DECLARE_DYNAMIC(CBitmapButton)
 

@@ -5,7 +5,7 @@
 
 class CBitmap;
 
-class CBrush : public CGdiObject
+class AFX_EXPORTED CBrush : public CGdiObject
 {
     DECLARE_DYNAMIC(CBrush)
 

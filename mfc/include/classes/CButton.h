@@ -5,7 +5,7 @@
 
 /// The system's "Button" control. Setters of pictures give back the former picture and take no
 /// ownership of the new one.
-class CButton : public CWnd
+class AFX_EXPORTED CButton : public CWnd
 {
     DECLARE_DYNAMIC(CButton)
 

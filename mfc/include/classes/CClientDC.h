@@ -4,7 +4,7 @@
 #include <classes/CDC.h>
 
 /// Held for the object's lifetime; the screen's when pWnd is NULL.
-class CClientDC : public CDC
+class AFX_EXPORTED CClientDC : public CDC
 {
     DECLARE_DYNAMIC(CClientDC)
 

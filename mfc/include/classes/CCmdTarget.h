@@ -5,7 +5,7 @@
 #include <afxmsg_.h>
 
 /// An object with a message map.
-class CCmdTarget : public CObject
+class AFX_EXPORTED CCmdTarget : public CObject
 {
     DECLARE_DYNAMIC(CCmdTarget)
 

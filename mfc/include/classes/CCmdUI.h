@@ -9,7 +9,7 @@ class CMenu;
 class CWnd;
 
 /// A command's item while its state is being asked for.
-class CCmdUI
+class AFX_EXPORTED CCmdUI
 {
 public:
     CCmdUI();

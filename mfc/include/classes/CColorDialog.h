@@ -4,7 +4,7 @@
 #include <classes/CCommonDialog.h>
 
 /// The system's dialog for colours. Set m_cc further before DoModal.
-class CColorDialog : public CCommonDialog
+class AFX_EXPORTED CColorDialog : public CCommonDialog
 {
     DECLARE_DYNAMIC(CColorDialog)
 

@@ -5,7 +5,7 @@
 
 /// The system's "ComboBox" control. Indices count from zero; CB_ERR is a failure, CB_ERRSPACE a
 /// lack of memory.
-class CComboBox : public CWnd
+class AFX_EXPORTED CComboBox : public CWnd
 {
     DECLARE_DYNAMIC(CComboBox)
 

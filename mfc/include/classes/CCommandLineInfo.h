@@ -5,7 +5,7 @@
 #include <classes/CString.h>
 
 /// Takes the parameters of the command line one by one; CWinApp::ParseCommandLine feeds it.
-class CCommandLineInfo : public CObject
+class AFX_EXPORTED CCommandLineInfo : public CObject
 {
 public:
     CCommandLineInfo();

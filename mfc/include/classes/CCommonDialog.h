@@ -9,7 +9,7 @@ struct CommonDialogHook;
 
 /// What the dialogs for files, colours and fonts share. The object is put around the system's
 /// dialog when that is about to appear; OnInitDialog is called then.
-class CCommonDialog : public CDialog
+class AFX_EXPORTED CCommonDialog : public CDialog
 {
     DECLARE_DYNAMIC(CCommonDialog)
 

@@ -19,7 +19,7 @@ class CWnd;
 ///
 /// Output goes to m_hDC, questions to m_hAttribDC, settings to both; the two are the same except
 /// for metafiles and while SetAttribDC or SetOutputDC is in use.
-class CDC : public CObject
+class AFX_EXPORTED CDC : public CObject
 {
     DECLARE_DYNCREATE(CDC)
 

@@ -10,7 +10,7 @@ struct ExchangeAccess;
 }
 
 /// Passed to DoDataExchange: tells the direction and which control is in work.
-class CDataExchange
+class AFX_EXPORTED CDataExchange
 {
 public:
     CDataExchange(CWnd* pDlgWnd, BOOL bSaveAndValidate);

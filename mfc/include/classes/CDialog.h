@@ -5,7 +5,7 @@
 
 /// A dialog window made from a template. The object stays usable after the window is gone, also
 /// for another DoModal; a modeless dialog that is to delete itself does so in PostNcDestroy.
-class CDialog : public CWnd
+class AFX_EXPORTED CDialog : public CWnd
 {
     DECLARE_DYNAMIC(CDialog)
 

@@ -5,7 +5,7 @@
 #include <classes/CDialog.h>
 
 /// A dialog with a background colour or image behind its controls.
-class CDialogEx : public CDialog
+class AFX_EXPORTED CDialogEx : public CDialog
 {
     DECLARE_DYNAMIC(CDialogEx)
 

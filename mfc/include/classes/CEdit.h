@@ -5,7 +5,7 @@
 
 /// The system's "Edit" control. Positions and lengths count characters; -1 for a line or a
 /// position means the one of the caret.
-class CEdit : public CWnd
+class AFX_EXPORTED CEdit : public CWnd
 {
     DECLARE_DYNAMIC(CEdit)
 

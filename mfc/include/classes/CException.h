@@ -4,14 +4,14 @@
 
 #include <classes/CObject.h>
 
-[[noreturn]] void AFXAPI AfxThrowMemoryException();
-[[noreturn]] void AFXAPI AfxThrowNotSupportedException();
-[[noreturn]] void AFXAPI AfxThrowResourceException();
-[[noreturn]] void AFXAPI AfxThrowUserException();
-[[noreturn]] void AFXAPI AfxThrowInvalidArgException();
+[[noreturn]] AFX_EXPORTED void AFXAPI AfxThrowMemoryException();
+[[noreturn]] AFX_EXPORTED void AFXAPI AfxThrowNotSupportedException();
+[[noreturn]] AFX_EXPORTED void AFXAPI AfxThrowResourceException();
+[[noreturn]] AFX_EXPORTED void AFXAPI AfxThrowUserException();
+[[noreturn]] AFX_EXPORTED void AFXAPI AfxThrowInvalidArgException();
 
 /// The base of all exceptions of the class library.
-class CException : public CObject
+class AFX_EXPORTED CException : public CObject
 {
     DECLARE_DYNAMIC(CException)
 
@@ -31,7 +31,7 @@ private:
 };
 
 /// An exception whose text is one of the library's own strings.
-class CSimpleException : public CException
+class AFX_EXPORTED CSimpleException : public CException
 {
     DECLARE_DYNAMIC(CSimpleException)
 
@@ -52,7 +52,7 @@ private:
 };
 
 /// Memory has run out.
-class CMemoryException : public CSimpleException
+class AFX_EXPORTED CMemoryException : public CSimpleException
 {
     DECLARE_DYNAMIC(CMemoryException)
 
@@ -65,7 +65,7 @@ private:
 };
 
 /// What was asked for is not possible.
-class CNotSupportedException : public CSimpleException
+class AFX_EXPORTED CNotSupportedException : public CSimpleException
 {
     DECLARE_DYNAMIC(CNotSupportedException)
 
@@ -74,7 +74,7 @@ public:
 };
 
 /// A resource could not be found or made.
-class CResourceException : public CSimpleException
+class AFX_EXPORTED CResourceException : public CSimpleException
 {
     DECLARE_DYNAMIC(CResourceException)
 
@@ -83,7 +83,7 @@ public:
 };
 
 /// The user was told already; the operation just ends.
-class CUserException : public CSimpleException
+class AFX_EXPORTED CUserException : public CSimpleException
 {
     DECLARE_DYNAMIC(CUserException)
 
@@ -92,7 +92,7 @@ public:
 };
 
 /// A function was called with a wrong argument.
-class CInvalidArgException : public CSimpleException
+class AFX_EXPORTED CInvalidArgException : public CSimpleException
 {
     DECLARE_DYNAMIC(CInvalidArgException)
 

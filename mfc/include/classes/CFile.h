@@ -19,7 +19,7 @@ struct CFileStatus
     TCHAR m_szFullName[_MAX_PATH];
 };
 
-class CFile : public CObject
+class AFX_EXPORTED CFile : public CObject
 {
     DECLARE_DYNAMIC(CFile)
 

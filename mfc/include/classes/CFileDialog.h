@@ -4,7 +4,7 @@
 #include <classes/CCommonDialog.h>
 
 /// The system's dialog for files. Set m_ofn further before DoModal; ask for the names after it.
-class CFileDialog : public CCommonDialog
+class AFX_EXPORTED CFileDialog : public CCommonDialog
 {
     DECLARE_DYNAMIC(CFileDialog)
 

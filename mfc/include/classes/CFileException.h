@@ -5,7 +5,7 @@
 #include <classes/CString.h>
 #include <classes/Platform.h>
 
-class CFileException : public CException
+class AFX_EXPORTED CFileException : public CException
 {
     DECLARE_DYNAMIC(CFileException)
 
@@ -46,5 +46,5 @@ public:
     CString m_strFileName; ///< May be empty.
 };
 
-[[noreturn]] void AFXAPI AfxThrowFileException(int cause, LONG lOsError = -1,
-                                               LPCTSTR lpszFileName = NULL);
+[[noreturn]] AFX_EXPORTED void AFXAPI AfxThrowFileException(int cause, LONG lOsError = -1,
+                                                            LPCTSTR lpszFileName = NULL);

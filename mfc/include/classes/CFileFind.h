@@ -7,7 +7,7 @@
 #include <classes/CTime.h>
 #include <classes/Platform.h>
 
-class CFileFind : public CObject
+class AFX_EXPORTED CFileFind : public CObject
 {
     DECLARE_DYNAMIC(CFileFind)
 

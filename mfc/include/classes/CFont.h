@@ -5,7 +5,7 @@
 
 class CDC;
 
-class CFont : public CGdiObject
+class AFX_EXPORTED CFont : public CGdiObject
 {
     DECLARE_DYNAMIC(CFont)
 

@@ -8,7 +8,7 @@
 class CDC;
 
 /// The system's dialog for fonts. Set m_cf further before DoModal.
-class CFontDialog : public CCommonDialog
+class AFX_EXPORTED CFontDialog : public CCommonDialog
 {
     DECLARE_DYNAMIC(CFontDialog)
 

@@ -14,7 +14,7 @@
 
 /// A top-level window with a menu and accelerators. Made with new; deletes itself when its window
 /// is gone, also after a failed creation.
-class CFrameWnd : public CWnd
+class AFX_EXPORTED CFrameWnd : public CWnd
 {
     DECLARE_DYNCREATE(CFrameWnd)
 

@@ -8,7 +8,7 @@
 ///
 /// What creates or loads in the derived classes is for objects that hold none, and returns FALSE on
 /// failure.
-class CGdiObject : public CObject
+class AFX_EXPORTED CGdiObject : public CObject
 {
     DECLARE_DYNCREATE(CGdiObject)
 

@@ -6,7 +6,7 @@
 class CImageList;
 
 /// The common control "SysHeader32".
-class CHeaderCtrl : public CWnd
+class AFX_EXPORTED CHeaderCtrl : public CWnd
 {
     DECLARE_DYNAMIC(CHeaderCtrl)
 

@@ -10,7 +10,7 @@ class CWnd;
 
 /// Holds an image list and owns it: the destructor destroys what is still held. Objects that
 /// FromHandle makes for foreign lists are temporary and own nothing.
-class CImageList : public CObject
+class AFX_EXPORTED CImageList : public CObject
 {
     DECLARE_DYNCREATE(CImageList)
 

@@ -5,7 +5,7 @@
 
 /// The system's "ListBox" control. Indices count from zero; LB_ERR is a failure, LB_ERRSPACE a
 /// lack of memory.
-class CListBox : public CWnd
+class AFX_EXPORTED CListBox : public CWnd
 {
     DECLARE_DYNAMIC(CListBox)
 

@@ -10,7 +10,7 @@ class CImageList;
 class CToolTipCtrl;
 
 /// The common control "SysListView32". Items and columns count from zero; -1 means none.
-class CListCtrl : public CWnd
+class AFX_EXPORTED CListCtrl : public CWnd
 {
     DECLARE_DYNAMIC(CListCtrl)
 

@@ -9,7 +9,7 @@ class CWnd;
 
 /// Holds a menu and owns it: the destructor destroys what is still held. Objects that FromHandle
 /// and GetSubMenu make are temporary and own nothing.
-class CMenu : public CObject
+class AFX_EXPORTED CMenu : public CObject
 {
     DECLARE_DYNCREATE(CMenu)
 

@@ -4,7 +4,7 @@
 #include <classes/CDC.h>
 
 /// It has no attribute context until SetAttribDC names one.
-class CMetaFileDC : public CDC
+class AFX_EXPORTED CMetaFileDC : public CDC
 {
     DECLARE_DYNAMIC(CMetaFileDC)
 

@@ -7,7 +7,7 @@ class CArchive;
 class CDumpContext;
 
 /// An object that can tell its class at run time and that is never copied by accident.
-class CObject
+class AFX_EXPORTED CObject
 {
 public:
     virtual ~CObject() = default;
@@ -38,11 +38,11 @@ protected:
 
 /// The object as that class if it is of that class, else NULL.
 #define DYNAMIC_DOWNCAST(class_name, object)                                                       \
-    (static_cast<class_name*>(afxint::CastDown(RUNTIME_CLASS(class_name), object)))
+    (static_cast<class_name*>(::AfxDynamicDownCast(RUNTIME_CLASS(class_name), object)))
 
 /// The object as that class; a debug build stops when it is of another.
 #define STATIC_DOWNCAST(class_name, object)                                                        \
-    (static_cast<class_name*>(afxint::CastDownChecked(RUNTIME_CLASS(class_name), object)))
+    (static_cast<class_name*>(::AfxStaticDownCast(RUNTIME_CLASS(class_name), object)))
 
 // Allocations are not tracked, so a plain new serves.
 #define DEBUG_NEW new
@@ -50,9 +50,6 @@ protected:
 #define THIS_FILE __FILE__
 #endif
 
-namespace afxint {
-
-CObject* CastDown(const CRuntimeClass* runtimeClass, const CObject* object);
-CObject* CastDownChecked(const CRuntimeClass* runtimeClass, const CObject* object);
-
-} // namespace afxint
+AFX_EXPORTED CObject* AFXAPI AfxDynamicDownCast(const CRuntimeClass* pClass,
+                                                const CObject* pObject);
+AFX_EXPORTED CObject* AFXAPI AfxStaticDownCast(const CRuntimeClass* pClass, const CObject* pObject);

@@ -4,7 +4,7 @@
 #include <classes/CDC.h>
 
 /// BeginPaint in the constructor, EndPaint in the destructor: for WM_PAINT handlers only.
-class CPaintDC : public CDC
+class AFX_EXPORTED CPaintDC : public CDC
 {
     DECLARE_DYNAMIC(CPaintDC)
 

@@ -5,7 +5,7 @@
 
 class CDC;
 
-class CPalette : public CGdiObject
+class AFX_EXPORTED CPalette : public CGdiObject
 {
     DECLARE_DYNAMIC(CPalette)
 

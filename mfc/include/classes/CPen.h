@@ -3,7 +3,7 @@
 
 #include <classes/CGdiObject.h>
 
-class CPen : public CGdiObject
+class AFX_EXPORTED CPen : public CGdiObject
 {
     DECLARE_DYNAMIC(CPen)
 

@@ -6,7 +6,7 @@
 class CRect;
 class CSize;
 
-class CPoint : public tagPOINT
+class AFX_EXPORTED CPoint : public tagPOINT
 {
 public:
     CPoint();

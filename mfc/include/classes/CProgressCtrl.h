@@ -4,7 +4,7 @@
 #include <classes/CWnd.h>
 
 /// The common control "msctls_progress32".
-class CProgressCtrl : public CWnd
+class AFX_EXPORTED CProgressCtrl : public CWnd
 {
     DECLARE_DYNAMIC(CProgressCtrl)
 

@@ -13,7 +13,7 @@ struct PropertyPageHook;
 } // namespace afxint
 
 /// A dialog that a property sheet shows as one of its pages.
-class CPropertyPage : public CDialog
+class AFX_EXPORTED CPropertyPage : public CDialog
 {
     DECLARE_DYNAMIC(CPropertyPage)
 

@@ -19,7 +19,7 @@ struct PropertySheetHook;
 #define ID_WIZFINISH 0x3025
 
 /// The system's property sheet. The pages stay the caller's and must outlive the sheet's window.
-class CPropertySheet : public CWnd
+class AFX_EXPORTED CPropertySheet : public CWnd
 {
     DECLARE_DYNAMIC(CPropertySheet)
 

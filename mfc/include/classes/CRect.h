@@ -9,7 +9,7 @@
 class CPoint;
 class CSize;
 
-class CRect : public tagRECT
+class AFX_EXPORTED CRect : public tagRECT
 {
 public:
     CRect();

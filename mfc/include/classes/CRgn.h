@@ -6,7 +6,7 @@
 
 class CDC;
 
-class CRgn : public CGdiObject
+class AFX_EXPORTED CRgn : public CGdiObject
 {
     DECLARE_DYNAMIC(CRgn)
 

@@ -7,7 +7,7 @@ class CObject;
 
 /// The name, size and base of a class, and the means to make an object of it. One static object
 /// of this kind belongs to every class with DECLARE_DYNAMIC or more.
-struct CRuntimeClass
+struct AFX_EXPORTED CRuntimeClass
 {
     LPCSTR m_lpszClassName;
     int m_nObjectSize; ///< In bytes.
@@ -28,24 +28,20 @@ struct CRuntimeClass
     static CObject* CreateObject(LPCWSTR lpszClassName);
 };
 
-namespace afxint {
-
 /// Keeps a class findable by its name as long as the module that implements it is loaded.
-class ClassRegistration
+class AFX_EXPORTED AFX_CLASSINIT
 {
 public:
-    explicit ClassRegistration(CRuntimeClass* runtimeClass);
-    ~ClassRegistration();
-    ClassRegistration(const ClassRegistration&) = delete;
-    ClassRegistration& operator=(const ClassRegistration&) = delete;
+    explicit AFX_CLASSINIT(CRuntimeClass* pNewClass);
+    ~AFX_CLASSINIT();
+    AFX_CLASSINIT(const AFX_CLASSINIT&) = delete;
+    AFX_CLASSINIT& operator=(const AFX_CLASSINIT&) = delete;
 
 private:
-    friend struct ::CRuntimeClass;
+    friend struct CRuntimeClass;
     CRuntimeClass* class_;
-    ClassRegistration* next_;
+    AFX_CLASSINIT* next_;
 };
-
-} // namespace afxint
 
 /// The CRuntimeClass* of a class.
 #define RUNTIME_CLASS(class_name) (&class_name::class##class_name)
@@ -71,8 +67,7 @@ public:                                                                         
     {                                                                                              \
         return RUNTIME_CLASS(class_name);                                                          \
     }                                                                                              \
-    static const afxint::ClassRegistration afxintRegistration##class_name(                         \
-        RUNTIME_CLASS(class_name));
+    static const AFX_CLASSINIT afxintRegistration##class_name(RUNTIME_CLASS(class_name));
 
 #define IMPLEMENT_DYNAMIC(class_name, base_class_name)                                             \
     AFXINT_IMPLEMENT_CLASS(class_name, base_class_name, 0xFFFF, NULL)

@@ -4,7 +4,7 @@
 #include <classes/CWnd.h>
 
 /// The system's "ScrollBar" control.
-class CScrollBar : public CWnd
+class AFX_EXPORTED CScrollBar : public CWnd
 {
     DECLARE_DYNAMIC(CScrollBar)
 

@@ -6,7 +6,7 @@
 class CPoint;
 class CRect;
 
-class CSize : public tagSIZE
+class AFX_EXPORTED CSize : public tagSIZE
 {
 public:
     CSize();

@@ -6,7 +6,7 @@
 class CToolTipCtrl;
 
 /// The common control "msctls_trackbar32".
-class CSliderCtrl : public CWnd
+class AFX_EXPORTED CSliderCtrl : public CWnd
 {
     DECLARE_DYNAMIC(CSliderCtrl)
 

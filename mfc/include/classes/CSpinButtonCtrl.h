@@ -4,7 +4,7 @@
 #include <classes/CWnd.h>
 
 /// The common control "msctls_updown32".
-class CSpinButtonCtrl : public CWnd
+class AFX_EXPORTED CSpinButtonCtrl : public CWnd
 {
     DECLARE_DYNAMIC(CSpinButtonCtrl)
 

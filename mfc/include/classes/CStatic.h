@@ -5,7 +5,7 @@
 
 /// The system's "Static" control. Setters of pictures give back the former picture and take no
 /// ownership of the new one.
-class CStatic : public CWnd
+class AFX_EXPORTED CStatic : public CWnd
 {
     DECLARE_DYNAMIC(CStatic)
 

@@ -31,7 +31,7 @@ using EnableIfVariant = std::enable_if_t<std::is_same_v<T, VARIANT>, int>;
 
 } // namespace afxint
 
-class CString
+class AFX_EXPORTED CString
 {
 public:
     using XCHAR = char;
@@ -235,28 +235,28 @@ private:
 
 using CStringA = CString;
 
-CString operator+(const CString& str1, const CString& str2);
-CString operator+(const CString& str1, LPCSTR psz2);
-CString operator+(LPCSTR psz1, const CString& str2);
+AFX_EXPORTED CString operator+(const CString& str1, const CString& str2);
+AFX_EXPORTED CString operator+(const CString& str1, LPCSTR psz2);
+AFX_EXPORTED CString operator+(LPCSTR psz1, const CString& str2);
 
-bool operator==(const CString& str1, const CString& str2);
-bool operator==(const CString& str1, LPCSTR psz2);
-bool operator==(LPCSTR psz1, const CString& str2);
-bool operator!=(const CString& str1, const CString& str2);
-bool operator!=(const CString& str1, LPCSTR psz2);
-bool operator!=(LPCSTR psz1, const CString& str2);
-bool operator<(const CString& str1, const CString& str2);
-bool operator<(const CString& str1, LPCSTR psz2);
-bool operator<(LPCSTR psz1, const CString& str2);
-bool operator>(const CString& str1, const CString& str2);
-bool operator>(const CString& str1, LPCSTR psz2);
-bool operator>(LPCSTR psz1, const CString& str2);
-bool operator<=(const CString& str1, const CString& str2);
-bool operator<=(const CString& str1, LPCSTR psz2);
-bool operator<=(LPCSTR psz1, const CString& str2);
-bool operator>=(const CString& str1, const CString& str2);
-bool operator>=(const CString& str1, LPCSTR psz2);
-bool operator>=(LPCSTR psz1, const CString& str2);
+AFX_EXPORTED bool operator==(const CString& str1, const CString& str2);
+AFX_EXPORTED bool operator==(const CString& str1, LPCSTR psz2);
+AFX_EXPORTED bool operator==(LPCSTR psz1, const CString& str2);
+AFX_EXPORTED bool operator!=(const CString& str1, const CString& str2);
+AFX_EXPORTED bool operator!=(const CString& str1, LPCSTR psz2);
+AFX_EXPORTED bool operator!=(LPCSTR psz1, const CString& str2);
+AFX_EXPORTED bool operator<(const CString& str1, const CString& str2);
+AFX_EXPORTED bool operator<(const CString& str1, LPCSTR psz2);
+AFX_EXPORTED bool operator<(LPCSTR psz1, const CString& str2);
+AFX_EXPORTED bool operator>(const CString& str1, const CString& str2);
+AFX_EXPORTED bool operator>(const CString& str1, LPCSTR psz2);
+AFX_EXPORTED bool operator>(LPCSTR psz1, const CString& str2);
+AFX_EXPORTED bool operator<=(const CString& str1, const CString& str2);
+AFX_EXPORTED bool operator<=(const CString& str1, LPCSTR psz2);
+AFX_EXPORTED bool operator<=(LPCSTR psz1, const CString& str2);
+AFX_EXPORTED bool operator>=(const CString& str1, const CString& str2);
+AFX_EXPORTED bool operator>=(const CString& str1, LPCSTR psz2);
+AFX_EXPORTED bool operator>=(LPCSTR psz1, const CString& str2);
 
 namespace afxint {
 

@@ -8,7 +8,7 @@ class CImageList;
 class CToolTipCtrl;
 
 /// The common control "SysTabControl32". Tabs count from zero; -1 means none.
-class CTabCtrl : public CWnd
+class AFX_EXPORTED CTabCtrl : public CWnd
 {
     DECLARE_DYNAMIC(CTabCtrl)
 

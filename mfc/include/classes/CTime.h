@@ -9,7 +9,7 @@
 
 #include <time.h>
 
-class CTime
+class AFX_EXPORTED CTime
 {
 public:
     static CTime WINAPI GetCurrentTime();

@@ -6,7 +6,7 @@
 
 #include <time.h>
 
-class CTimeSpan
+class AFX_EXPORTED CTimeSpan
 {
 public:
     CTimeSpan();

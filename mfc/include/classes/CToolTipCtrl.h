@@ -13,7 +13,7 @@ struct CToolInfo : public TOOLINFO
 /// The common control "tooltips_class32". A tool is a whole window (id 0), or a rectangle of a
 /// window under an id of its own. Texts are copied; LPSTR_TEXTCALLBACK asks the parent of the
 /// tool's window each time (TTN_NEEDTEXT).
-class CToolTipCtrl : public CWnd
+class AFX_EXPORTED CToolTipCtrl : public CWnd
 {
     DECLARE_DYNAMIC(CToolTipCtrl)
 

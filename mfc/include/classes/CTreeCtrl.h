@@ -8,7 +8,7 @@ class CImageList;
 class CToolTipCtrl;
 
 /// The common control "SysTreeView32". NULL stands for no item.
-class CTreeCtrl : public CWnd
+class AFX_EXPORTED CTreeCtrl : public CWnd
 {
     DECLARE_DYNAMIC(CTreeCtrl)
 

@@ -4,7 +4,7 @@
 #include <classes/Platform.h>
 
 /// Shows the hourglass as long as the object lives.
-class CWaitCursor
+class AFX_EXPORTED CWaitCursor
 {
 public:
     CWaitCursor();

@@ -22,7 +22,7 @@ enum AFX_HELP_TYPE { afxWinHelp = 0, afxHTMLHelp = 1 };
 
 /// The program: its start and end, its name and settings, its resources and messages. A program
 /// has one global object of a class derived from this one; the library's WinMain does the rest.
-class CWinApp : public CWinThread
+class AFX_EXPORTED CWinApp : public CWinThread
 {
     DECLARE_DYNAMIC(CWinApp)
 

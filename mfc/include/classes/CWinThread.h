@@ -10,7 +10,7 @@ typedef UINT(AFX_CDECL* AFX_THREADPROC)(LPVOID);
 
 /// A thread, with a message loop or with a function of its own, and the loop of the program's
 /// first thread.
-class CWinThread : public CCmdTarget
+class AFX_EXPORTED CWinThread : public CCmdTarget
 {
     DECLARE_DYNAMIC(CWinThread)
 
@@ -75,19 +75,19 @@ private:
 };
 
 /// Starts a worker thread; the object deletes itself when the function returns. NULL on failure.
-CWinThread* AFXAPI AfxBeginThread(AFX_THREADPROC pfnThreadProc, LPVOID pParam,
-                                  int nPriority = THREAD_PRIORITY_NORMAL, UINT nStackSize = 0,
-                                  DWORD dwCreateFlags = 0,
-                                  LPSECURITY_ATTRIBUTES lpSecurityAttrs = NULL);
+AFX_EXPORTED CWinThread* AFXAPI AfxBeginThread(AFX_THREADPROC pfnThreadProc, LPVOID pParam,
+                                               int nPriority = THREAD_PRIORITY_NORMAL,
+                                               UINT nStackSize = 0, DWORD dwCreateFlags = 0,
+                                               LPSECURITY_ATTRIBUTES lpSecurityAttrs = NULL);
 /// Starts a thread with a message loop, of a class derived from CWinThread. NULL on failure.
-CWinThread* AFXAPI AfxBeginThread(CRuntimeClass* pThreadClass,
-                                  int nPriority = THREAD_PRIORITY_NORMAL, UINT nStackSize = 0,
-                                  DWORD dwCreateFlags = 0,
-                                  LPSECURITY_ATTRIBUTES lpSecurityAttrs = NULL);
+AFX_EXPORTED CWinThread* AFXAPI AfxBeginThread(CRuntimeClass* pThreadClass,
+                                               int nPriority = THREAD_PRIORITY_NORMAL,
+                                               UINT nStackSize = 0, DWORD dwCreateFlags = 0,
+                                               LPSECURITY_ATTRIBUTES lpSecurityAttrs = NULL);
 /// Ends the calling thread.
-void AFXAPI AfxEndThread(UINT nExitCode, BOOL bDelete = TRUE);
+AFX_EXPORTED void AFXAPI AfxEndThread(UINT nExitCode, BOOL bDelete = TRUE);
 
 /// The object of the calling thread; NULL in a thread that the library did not start.
-CWinThread* AFXAPI AfxGetThread();
+AFX_EXPORTED CWinThread* AFXAPI AfxGetThread();
 /// The main window of the calling thread; NULL when it has none.
-CWnd* AFXAPI AfxGetMainWnd();
+AFX_EXPORTED CWnd* AFXAPI AfxGetMainWnd();

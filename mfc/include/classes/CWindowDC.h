@@ -4,7 +4,7 @@
 #include <classes/CDC.h>
 
 /// Held for the object's lifetime; the screen's when pWnd is NULL.
-class CWindowDC : public CDC
+class AFX_EXPORTED CWindowDC : public CDC
 {
     DECLARE_DYNAMIC(CWindowDC)
 

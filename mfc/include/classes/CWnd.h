@@ -36,7 +36,7 @@ class WindowMessages;
 /// A window. Made in two steps, the object and then the system window with Create, or put around
 /// an existing window with Attach or SubclassWindow. Several members may be called on a NULL
 /// object, GetSafeHwnd above all.
-class CWnd : public CCmdTarget
+class AFX_EXPORTED CWnd : public CCmdTarget
 {
     DECLARE_DYNCREATE(CWnd)
 

@@ -32,42 +32,42 @@ public:
 
 } // namespace afxint
 
-class CObArray : public afxint::ArrayBase<CObject*, CObject*>
+class AFX_EXPORTED CObArray : public afxint::ArrayBase<CObject*, CObject*>
 {
     DECLARE_DYNCREATE(CObArray)
 };
 
-class CPtrArray : public afxint::ArrayBase<void*, void*>
+class AFX_EXPORTED CPtrArray : public afxint::ArrayBase<void*, void*>
 {
     DECLARE_DYNCREATE(CPtrArray)
 };
 
-class CStringArray : public afxint::ArrayBase<CString, LPCTSTR>
+class AFX_EXPORTED CStringArray : public afxint::ArrayBase<CString, LPCTSTR>
 {
     DECLARE_DYNCREATE(CStringArray)
 };
 
-class CByteArray : public afxint::ArrayBase<BYTE, BYTE>
+class AFX_EXPORTED CByteArray : public afxint::ArrayBase<BYTE, BYTE>
 {
     DECLARE_DYNCREATE(CByteArray)
 };
 
-class CWordArray : public afxint::ArrayBase<WORD, WORD>
+class AFX_EXPORTED CWordArray : public afxint::ArrayBase<WORD, WORD>
 {
     DECLARE_DYNCREATE(CWordArray)
 };
 
-class CDWordArray : public afxint::ArrayBase<DWORD, DWORD>
+class AFX_EXPORTED CDWordArray : public afxint::ArrayBase<DWORD, DWORD>
 {
     DECLARE_DYNCREATE(CDWordArray)
 };
 
-class CUIntArray : public afxint::ArrayBase<UINT, UINT>
+class AFX_EXPORTED CUIntArray : public afxint::ArrayBase<UINT, UINT>
 {
     DECLARE_DYNCREATE(CUIntArray)
 };
 
-class CObList : public afxint::ListBase<CObject*, CObject*>
+class AFX_EXPORTED CObList : public afxint::ListBase<CObject*, CObject*>
 {
     DECLARE_DYNCREATE(CObList)
 
@@ -75,7 +75,7 @@ public:
     explicit CObList(INT_PTR nBlockSize = 10) : ListBase(nBlockSize) {}
 };
 
-class CPtrList : public afxint::ListBase<void*, void*>
+class AFX_EXPORTED CPtrList : public afxint::ListBase<void*, void*>
 {
     DECLARE_DYNCREATE(CPtrList)
 
@@ -83,7 +83,7 @@ public:
     explicit CPtrList(INT_PTR nBlockSize = 10) : ListBase(nBlockSize) {}
 };
 
-class CStringList : public afxint::ListBase<CString, LPCTSTR>
+class AFX_EXPORTED CStringList : public afxint::ListBase<CString, LPCTSTR>
 {
     DECLARE_DYNCREATE(CStringList)
 
@@ -91,7 +91,7 @@ public:
     explicit CStringList(INT_PTR nBlockSize = 10) : ListBase(nBlockSize) {}
 };
 
-class CMapStringToString : public afxint::FixedMap<CString, LPCTSTR, CString, LPCTSTR>
+class AFX_EXPORTED CMapStringToString : public afxint::FixedMap<CString, LPCTSTR, CString, LPCTSTR>
 {
     DECLARE_DYNCREATE(CMapStringToString)
 
@@ -103,7 +103,7 @@ public:
     using MapBase::PLookup;
 };
 
-class CMapStringToPtr : public afxint::FixedMap<CString, LPCTSTR, void*, void*>
+class AFX_EXPORTED CMapStringToPtr : public afxint::FixedMap<CString, LPCTSTR, void*, void*>
 {
     DECLARE_DYNCREATE(CMapStringToPtr)
 
@@ -111,7 +111,7 @@ public:
     explicit CMapStringToPtr(INT_PTR nBlockSize = 10) : FixedMap(nBlockSize) {}
 };
 
-class CMapStringToOb : public afxint::FixedMap<CString, LPCTSTR, CObject*, CObject*>
+class AFX_EXPORTED CMapStringToOb : public afxint::FixedMap<CString, LPCTSTR, CObject*, CObject*>
 {
     DECLARE_DYNCREATE(CMapStringToOb)
 
@@ -119,7 +119,7 @@ public:
     explicit CMapStringToOb(INT_PTR nBlockSize = 10) : FixedMap(nBlockSize) {}
 };
 
-class CMapPtrToPtr : public afxint::FixedMap<void*, void*, void*, void*>
+class AFX_EXPORTED CMapPtrToPtr : public afxint::FixedMap<void*, void*, void*, void*>
 {
     DECLARE_DYNCREATE(CMapPtrToPtr)
 
@@ -127,7 +127,7 @@ public:
     explicit CMapPtrToPtr(INT_PTR nBlockSize = 10) : FixedMap(nBlockSize) {}
 };
 
-class CMapPtrToWord : public afxint::FixedMap<void*, void*, WORD, WORD>
+class AFX_EXPORTED CMapPtrToWord : public afxint::FixedMap<void*, void*, WORD, WORD>
 {
     DECLARE_DYNCREATE(CMapPtrToWord)
 
@@ -135,7 +135,7 @@ public:
     explicit CMapPtrToWord(INT_PTR nBlockSize = 10) : FixedMap(nBlockSize) {}
 };
 
-class CMapWordToPtr : public afxint::FixedMap<WORD, WORD, void*, void*>
+class AFX_EXPORTED CMapWordToPtr : public afxint::FixedMap<WORD, WORD, void*, void*>
 {
     DECLARE_DYNCREATE(CMapWordToPtr)
 
@@ -143,7 +143,7 @@ public:
     explicit CMapWordToPtr(INT_PTR nBlockSize = 10) : FixedMap(nBlockSize) {}
 };
 
-class CMapWordToOb : public afxint::FixedMap<WORD, WORD, CObject*, CObject*>
+class AFX_EXPORTED CMapWordToOb : public afxint::FixedMap<WORD, WORD, CObject*, CObject*>
 {
     DECLARE_DYNCREATE(CMapWordToOb)
 

@@ -7,24 +7,23 @@
 
 #include <classes/Platform.h>
 
-namespace afxint {
-
-/// Converts text into the buffer when it fits, else into new memory, which ReleaseConverted frees.
-LPWSTR Widen(LPCSTR text, UINT codePage, LPWSTR buffer, int bufferLength);
-LPSTR Narrow(LPCWSTR text, UINT codePage, LPSTR buffer, int bufferLength);
-LPSTR Copy(LPCSTR text, LPSTR buffer, int bufferLength);
-LPWSTR Copy(LPCWSTR text, LPWSTR buffer, int bufferLength);
-void ReleaseConverted(void* converted, const void* buffer);
+/// Converts text into the buffer when it fits, else into new memory, which AfxReleaseConverted
+/// frees.
+AFX_EXPORTED LPWSTR AfxWiden(LPCSTR text, UINT codePage, LPWSTR buffer, int bufferLength);
+AFX_EXPORTED LPSTR AfxNarrow(LPCWSTR text, UINT codePage, LPSTR buffer, int bufferLength);
+AFX_EXPORTED LPSTR AfxCopyText(LPCSTR text, LPSTR buffer, int bufferLength);
+AFX_EXPORTED LPWSTR AfxCopyText(LPCWSTR text, LPWSTR buffer, int bufferLength);
+AFX_EXPORTED void AfxReleaseConverted(void* converted, const void* buffer);
 
 /// What USES_CONVERSION declares: the memory of the conversions in one function call, freed when
 /// the function returns.
-class ConversionScope
+class AFX_EXPORTED AFX_CONVERSIONS
 {
 public:
-    ConversionScope() = default;
-    ConversionScope(const ConversionScope&) = delete;
-    ConversionScope& operator=(const ConversionScope&) = delete;
-    ~ConversionScope();
+    AFX_CONVERSIONS() = default;
+    AFX_CONVERSIONS(const AFX_CONVERSIONS&) = delete;
+    AFX_CONVERSIONS& operator=(const AFX_CONVERSIONS&) = delete;
+    ~AFX_CONVERSIONS();
 
     LPWSTR Widen(LPCSTR text);
     LPSTR Narrow(LPCWSTR text);
@@ -35,6 +34,8 @@ private:
 
     Block* newest_ = NULL;
 };
+
+namespace afxint {
 
 inline LPSTR NotConst(LPCSTR text)
 {
@@ -55,12 +56,12 @@ class CA2WEX
 public:
     CA2WEX(LPCSTR psz) : CA2WEX(psz, CP_ACP) {}
     CA2WEX(LPCSTR psz, UINT nCodePage)
-        : m_psz(afxint::Widen(psz, nCodePage, m_szBuffer, t_nBufferLength))
+        : m_psz(AfxWiden(psz, nCodePage, m_szBuffer, t_nBufferLength))
     {
     }
     CA2WEX(const CA2WEX&) = delete;
     CA2WEX& operator=(const CA2WEX&) = delete;
-    ~CA2WEX() { afxint::ReleaseConverted(m_psz, m_szBuffer); }
+    ~CA2WEX() { AfxReleaseConverted(m_psz, m_szBuffer); }
 
     operator LPWSTR() const { return m_psz; }
 
@@ -75,12 +76,12 @@ class CW2AEX
 public:
     CW2AEX(LPCWSTR psz) : CW2AEX(psz, CP_ACP) {}
     CW2AEX(LPCWSTR psz, UINT nCodePage)
-        : m_psz(afxint::Narrow(psz, nCodePage, m_szBuffer, t_nBufferLength))
+        : m_psz(AfxNarrow(psz, nCodePage, m_szBuffer, t_nBufferLength))
     {
     }
     CW2AEX(const CW2AEX&) = delete;
     CW2AEX& operator=(const CW2AEX&) = delete;
-    ~CW2AEX() { afxint::ReleaseConverted(m_psz, m_szBuffer); }
+    ~CW2AEX() { AfxReleaseConverted(m_psz, m_szBuffer); }
 
     operator LPSTR() const { return m_psz; }
 
@@ -93,11 +94,11 @@ template <int t_nBufferLength = 128>
 class CA2AEX
 {
 public:
-    CA2AEX(LPCSTR psz) : m_psz(afxint::Copy(psz, m_szBuffer, t_nBufferLength)) {}
+    CA2AEX(LPCSTR psz) : m_psz(AfxCopyText(psz, m_szBuffer, t_nBufferLength)) {}
     CA2AEX(LPCSTR psz, UINT /*nCodePage*/) : CA2AEX(psz) {}
     CA2AEX(const CA2AEX&) = delete;
     CA2AEX& operator=(const CA2AEX&) = delete;
-    ~CA2AEX() { afxint::ReleaseConverted(m_psz, m_szBuffer); }
+    ~CA2AEX() { AfxReleaseConverted(m_psz, m_szBuffer); }
 
     operator LPSTR() const { return m_psz; }
 
@@ -110,11 +111,11 @@ template <int t_nBufferLength = 128>
 class CW2WEX
 {
 public:
-    CW2WEX(LPCWSTR psz) : m_psz(afxint::Copy(psz, m_szBuffer, t_nBufferLength)) {}
+    CW2WEX(LPCWSTR psz) : m_psz(AfxCopyText(psz, m_szBuffer, t_nBufferLength)) {}
     CW2WEX(LPCWSTR psz, UINT /*nCodePage*/) : CW2WEX(psz) {}
     CW2WEX(const CW2WEX&) = delete;
     CW2WEX& operator=(const CW2WEX&) = delete;
-    ~CW2WEX() { afxint::ReleaseConverted(m_psz, m_szBuffer); }
+    ~CW2WEX() { AfxReleaseConverted(m_psz, m_szBuffer); }
 
     operator LPWSTR() const { return m_psz; }
 
@@ -181,7 +182,7 @@ using CW2W = CW2WEX<>;
 #define CT2OLE CA2W
 #define CT2COLE CA2W
 
-#define USES_CONVERSION [[maybe_unused]] ::afxint::ConversionScope afxConversions
+#define USES_CONVERSION [[maybe_unused]] ::AFX_CONVERSIONS afxConversions
 
 #define A2W(lpa) (afxConversions.Widen(lpa))
 #define W2A(lpw) (afxConversions.Narrow(lpw))
@@ -209,7 +210,7 @@ using CW2W = CW2WEX<>;
 #define OLE2CW(lp) (static_cast<LPCWSTR>(lp))
 
 /// The caller frees the results with SysFreeString.
-BSTR A2BSTR(LPCSTR lp);
-BSTR W2BSTR(LPCWSTR lp);
+AFX_EXPORTED BSTR A2BSTR(LPCSTR lp);
+AFX_EXPORTED BSTR W2BSTR(LPCWSTR lp);
 #define T2BSTR A2BSTR
 #define OLE2BSTR W2BSTR

@@ -75,7 +75,16 @@
 #endif
 #define _AFX
 
-// Storage classes of the library. The linker exports everything here, so they are empty.
+// What leaves the DLL is marked with this, and nothing else does. Hosts find functions through the
+// import library and data by the linker's automatic import, so it is empty for them.
+#ifdef umbra_mfc_EXPORTS // Defined while the DLL itself is built.
+#define AFX_EXPORTED __declspec(dllexport)
+#else
+#define AFX_EXPORTED
+#endif
+
+// Storage classes that programs write before names of their own. The linker exports all of an
+// extension DLL that marks nothing, so they are empty.
 #define AFX_CLASS_EXPORT
 #define AFX_CLASS_IMPORT
 #define AFX_EXT_CLASS
@@ -112,11 +121,11 @@ typedef struct AfxPosition_* POSITION; ///< A place in a list or map; NULL is be
 
 /// Called when an ASSERT fails in a debug build: tells the file and line in a message box.
 /// Returns TRUE when the program is to stop in the debugger.
-BOOL AFXAPI AfxAssertFailedLine(LPCSTR file, int line);
+AFX_EXPORTED BOOL AFXAPI AfxAssertFailedLine(LPCSTR file, int line);
 /// Stops in the debugger, when there is one.
-void AFXAPI AfxDebugBreak();
+AFX_EXPORTED void AFXAPI AfxDebugBreak();
 /// Writes a line to the debugger in a debug build (the TRACE macros end here).
-void AFX_CDECL AfxTrace(LPCTSTR format, ...);
+AFX_EXPORTED void AFX_CDECL AfxTrace(LPCTSTR format, ...);
 
 #ifdef _DEBUG
 #define AFX_DEBUG_BREAK AfxDebugBreak()

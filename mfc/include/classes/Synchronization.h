@@ -10,7 +10,7 @@
 #include <vector>
 
 /// What all of them have: a handle, Lock and Unlock.
-class CSyncObject : public CObject
+class AFX_EXPORTED CSyncObject : public CObject
 {
     DECLARE_DYNAMIC(CSyncObject)
 
@@ -28,7 +28,7 @@ public:
     HANDLE m_hObject;
 };
 
-class CSemaphore : public CSyncObject
+class AFX_EXPORTED CSemaphore : public CSyncObject
 {
     DECLARE_DYNAMIC(CSemaphore)
 
@@ -40,7 +40,7 @@ public:
     BOOL Unlock(LONG lCount, LPLONG lprevCount = NULL) override;
 };
 
-class CMutex : public CSyncObject
+class AFX_EXPORTED CMutex : public CSyncObject
 {
     DECLARE_DYNAMIC(CMutex)
 
@@ -53,7 +53,7 @@ public:
 };
 
 /// Unlock does nothing: an event is not owned.
-class CEvent : public CSyncObject
+class AFX_EXPORTED CEvent : public CSyncObject
 {
     DECLARE_DYNAMIC(CEvent)
 
@@ -69,7 +69,7 @@ public:
 };
 
 /// For the threads of one process. Lock always waits without limit.
-class CCriticalSection : public CSyncObject
+class AFX_EXPORTED CCriticalSection : public CSyncObject
 {
     DECLARE_DYNAMIC(CCriticalSection)
 
@@ -88,7 +88,7 @@ public:
 };
 
 /// Holds one object; the destructor unlocks it.
-class CSingleLock
+class AFX_EXPORTED CSingleLock
 {
 public:
     explicit CSingleLock(CSyncObject* pObject, BOOL bInitialLock = FALSE);
@@ -107,7 +107,7 @@ private:
 };
 
 /// Waits for one or all of several objects, at most 64; critical sections cannot be among them.
-class CMultiLock
+class AFX_EXPORTED CMultiLock
 {
 public:
     CMultiLock(CSyncObject* ppObjects[], DWORD dwCount, BOOL bInitialLock = FALSE);

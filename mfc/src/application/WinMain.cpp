@@ -32,13 +32,15 @@ int RunProgram(HINSTANCE instance, HINSTANCE previous, LPTSTR commandLine, int s
 
 } // namespace
 
-extern "C" int WINAPI WinMain(HINSTANCE instance, HINSTANCE previous, LPSTR commandLine, int show)
+extern "C" AFX_EXPORTED int WINAPI WinMain(HINSTANCE instance, HINSTANCE previous,
+                                           LPSTR commandLine, int show)
 {
     return RunProgram(instance, previous, commandLine, show);
 }
 
 // The strings of the library are narrow, so the command line is taken over in that form.
-extern "C" int WINAPI wWinMain(HINSTANCE instance, HINSTANCE previous, LPWSTR commandLine, int show)
+extern "C" AFX_EXPORTED int WINAPI wWinMain(HINSTANCE instance, HINSTANCE previous,
+                                            LPWSTR commandLine, int show)
 {
     const int size = WideCharToMultiByte(CP_ACP, 0, commandLine, -1, NULL, 0, NULL, NULL);
     CString narrow;

@@ -66,19 +66,16 @@ void CObject::operator delete(void* p, LPCSTR, int)
     ::operator delete(p);
 }
 
-namespace afxint {
-
-CObject* CastDown(const CRuntimeClass* runtimeClass, const CObject* object)
+CObject* AFXAPI AfxDynamicDownCast(const CRuntimeClass* pClass, const CObject* pObject)
 {
-    if (object == NULL || !object->IsKindOf(runtimeClass))
+    if (pObject == NULL || !pObject->IsKindOf(pClass))
         return NULL;
-    return const_cast<CObject*>(object);
+    return const_cast<CObject*>(pObject);
 }
 
-CObject* CastDownChecked([[maybe_unused]] const CRuntimeClass* runtimeClass, const CObject* object)
+CObject* AFXAPI AfxStaticDownCast([[maybe_unused]] const CRuntimeClass* pClass,
+                                  const CObject* pObject)
 {
-    ASSERT(object == NULL || object->IsKindOf(runtimeClass));
-    return const_cast<CObject*>(object);
+    ASSERT(pObject == NULL || pObject->IsKindOf(pClass));
+    return const_cast<CObject*>(pObject);
 }
-
-} // namespace afxint

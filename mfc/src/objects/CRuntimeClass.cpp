@@ -6,7 +6,7 @@
 
 namespace {
 
-afxint::ClassRegistration* firstRegistration = NULL; // Guarded by the module's lock.
+AFX_CLASSINIT* firstRegistration = NULL; // Guarded by the module's lock.
 
 } // namespace
 
@@ -56,23 +56,19 @@ CObject* CRuntimeClass::CreateObject(LPCWSTR lpszClassName)
     return named == NULL ? NULL : named->CreateObject();
 }
 
-namespace afxint {
-
-ClassRegistration::ClassRegistration(CRuntimeClass* runtimeClass) : class_(runtimeClass)
+AFX_CLASSINIT::AFX_CLASSINIT(CRuntimeClass* pNewClass) : class_(pNewClass)
 {
-    const ScopedLock lock(Module().lock);
+    const afxint::ScopedLock lock(afxint::Module().lock);
     next_ = firstRegistration;
     firstRegistration = this;
 }
 
-ClassRegistration::~ClassRegistration()
+AFX_CLASSINIT::~AFX_CLASSINIT()
 {
-    const ScopedLock lock(Module().lock);
-    ClassRegistration** link = &firstRegistration;
+    const afxint::ScopedLock lock(afxint::Module().lock);
+    AFX_CLASSINIT** link = &firstRegistration;
     while (*link != NULL && *link != this)
         link = &(*link)->next_;
     if (*link == this)
         *link = next_;
 }
-
-} // namespace afxint

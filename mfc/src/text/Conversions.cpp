@@ -1,8 +1,6 @@
 #include <classes/CException.h>
 #include <classes/Conversions.h>
 
-namespace afxint {
-
 namespace {
 
 /// The buffer when it has room for so many characters, else new memory.
@@ -19,7 +17,7 @@ Char* RoomFor(size_t characters, Char* buffer, int bufferLength)
 
 } // namespace
 
-LPWSTR Widen(LPCSTR text, UINT codePage, LPWSTR buffer, int bufferLength)
+LPWSTR AfxWiden(LPCSTR text, UINT codePage, LPWSTR buffer, int bufferLength)
 {
     if (text == NULL)
         return NULL;
@@ -31,7 +29,7 @@ LPWSTR Widen(LPCSTR text, UINT codePage, LPWSTR buffer, int bufferLength)
     return wide;
 }
 
-LPSTR Narrow(LPCWSTR text, UINT codePage, LPSTR buffer, int bufferLength)
+LPSTR AfxNarrow(LPCWSTR text, UINT codePage, LPSTR buffer, int bufferLength)
 {
     if (text == NULL)
         return NULL;
@@ -43,7 +41,7 @@ LPSTR Narrow(LPCWSTR text, UINT codePage, LPSTR buffer, int bufferLength)
     return narrow;
 }
 
-LPSTR Copy(LPCSTR text, LPSTR buffer, int bufferLength)
+LPSTR AfxCopyText(LPCSTR text, LPSTR buffer, int bufferLength)
 {
     if (text == NULL)
         return NULL;
@@ -53,7 +51,7 @@ LPSTR Copy(LPCSTR text, LPSTR buffer, int bufferLength)
     return copy;
 }
 
-LPWSTR Copy(LPCWSTR text, LPWSTR buffer, int bufferLength)
+LPWSTR AfxCopyText(LPCWSTR text, LPWSTR buffer, int bufferLength)
 {
     if (text == NULL)
         return NULL;
@@ -63,19 +61,19 @@ LPWSTR Copy(LPCWSTR text, LPWSTR buffer, int bufferLength)
     return copy;
 }
 
-void ReleaseConverted(void* converted, const void* buffer)
+void AfxReleaseConverted(void* converted, const void* buffer)
 {
     if (converted != buffer)
         free(converted);
 }
 
 /// What stands before each result of a scope.
-struct ConversionScope::Block
+struct AFX_CONVERSIONS::Block
 {
     Block* older;
 };
 
-ConversionScope::~ConversionScope()
+AFX_CONVERSIONS::~AFX_CONVERSIONS()
 {
     while (newest_ != NULL) {
         Block* older = newest_->older;
@@ -84,7 +82,7 @@ ConversionScope::~ConversionScope()
     }
 }
 
-LPWSTR ConversionScope::Widen(LPCSTR text)
+LPWSTR AFX_CONVERSIONS::Widen(LPCSTR text)
 {
     if (text == NULL)
         return NULL;
@@ -96,7 +94,7 @@ LPWSTR ConversionScope::Widen(LPCSTR text)
     return wide;
 }
 
-LPSTR ConversionScope::Narrow(LPCWSTR text)
+LPSTR AFX_CONVERSIONS::Narrow(LPCWSTR text)
 {
     if (text == NULL)
         return NULL;
@@ -108,7 +106,7 @@ LPSTR ConversionScope::Narrow(LPCWSTR text)
     return narrow;
 }
 
-void* ConversionScope::Allocate(size_t bytes)
+void* AFX_CONVERSIONS::Allocate(size_t bytes)
 {
     auto* block = static_cast<Block*>(malloc(sizeof(Block) + bytes));
     if (block == NULL)
@@ -117,8 +115,6 @@ void* ConversionScope::Allocate(size_t bytes)
     newest_ = block;
     return block + 1;
 }
-
-} // namespace afxint
 
 BSTR A2BSTR(LPCSTR lp)
 {

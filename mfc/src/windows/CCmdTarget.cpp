@@ -15,7 +15,7 @@ const AFX_MSGMAP* CCmdTarget::GetMessageMap() const
 
 const AFX_MSGMAP* PASCAL CCmdTarget::GetThisMessageMap()
 {
-    static const AFX_MSGMAP_ENTRY end = {0, 0, 0, 0, NULL, NULL, NULL};
+    static const AFX_MSGMAP_ENTRY end = {0, 0, 0, 0, NULL, 0, NULL};
     static const AFX_MSGMAP map = {NULL, &end};
     return &map;
 }
@@ -49,7 +49,7 @@ BOOL CCmdTarget::OnCmdMsg(UINT nID, int nCode, void* pExtra, AFX_CMDHANDLERINFO*
     if (ui != NULL)
         ui->continueRouting_ = false;
     const afxint::Delivery delivery{NULL, message, 0, 0, nID, pExtra};
-    const LRESULT taken = entry->pfnCall(this, entry->pfn, delivery);
+    const LRESULT taken = afxint::CallHandler(*entry, this, delivery);
     return taken != 0 && !(ui != NULL && ui->continueRouting_);
 }
 

@@ -179,7 +179,7 @@ BOOL CWnd::OnWndMsg(UINT message, WPARAM wParam, LPARAM lParam, LRESULT* pResult
     if (entry == NULL)
         return FALSE;
     const afxint::Delivery delivery{m_hWnd, message, wParam, lParam, 0, NULL};
-    *pResult = entry->pfnCall(this, entry->pfn, delivery);
+    *pResult = afxint::CallHandler(*entry, this, delivery);
     return TRUE;
 }
 

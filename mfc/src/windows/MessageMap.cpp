@@ -22,7 +22,7 @@ template <class Test>
 const AFX_MSGMAP_ENTRY* FindEntry(const AFX_MSGMAP* map, Test accepts)
 {
     while (map != NULL) {
-        for (const AFX_MSGMAP_ENTRY* entry = map->lpEntries; entry->pfnCall != NULL; ++entry) {
+        for (const AFX_MSGMAP_ENTRY* entry = map->lpEntries; entry->nSig != 0; ++entry) {
             if (accepts(*entry))
                 return entry;
         }
@@ -31,7 +31,22 @@ const AFX_MSGMAP_ENTRY* FindEntry(const AFX_MSGMAP* map, Test accepts)
     return NULL;
 }
 
+using Caller = LRESULT (*)(CCmdTarget* target, AFX_PMSG handler, const Delivery& delivery);
+
+/// By the numbers of the signatures.
+constexpr Caller callers[] = {NULL,
+#define AFXINT_CALLER(name, ...) &signature::name::Call,
+                              AFXINT_SIGNATURES(AFXINT_CALLER)
+#undef AFXINT_CALLER
+};
+
 } // namespace
+
+LRESULT CallHandler(const AFX_MSGMAP_ENTRY& entry, CCmdTarget* target, const Delivery& delivery)
+{
+    ASSERT(entry.nSig > 0 && entry.nSig < sizeof(callers) / sizeof(callers[0]));
+    return callers[entry.nSig](target, entry.pfn, delivery);
+}
 
 const AFX_MSGMAP_ENTRY* FindMessageEntry(const AFX_MSGMAP* map, UINT message)
 {
@@ -61,7 +76,7 @@ bool DispatchThreadMessage(CWinThread* thread, const AFX_MSGMAP* map, const MSG&
     if (entry == NULL)
         return false;
     const Delivery delivery{NULL, message.message, message.wParam, message.lParam, 0, NULL};
-    entry->pfnCall(thread, entry->pfn, delivery);
+    CallHandler(*entry, thread, delivery);
     return true;
 }
 

@@ -7,6 +7,10 @@ class CWinThread;
 
 namespace afxint {
 
+/// Calls a handler with the arguments of its signature. Gives the message's result; for a command
+/// whether it has been dealt with.
+LRESULT CallHandler(const AFX_MSGMAP_ENTRY& entry, CCmdTarget* target, const Delivery& delivery);
+
 /// The entry of a window or thread message in the map or those it is derived from; NULL for none.
 const AFX_MSGMAP_ENTRY* FindMessageEntry(const AFX_MSGMAP* map, UINT message);
 

@@ -99,8 +99,8 @@ TEST_CASE("a class is found as long as its module registers it")
     passing.m_lpszClassName = "CPassing";
     CRuntimeClass later{};
     later.m_lpszClassName = "CLater";
-    auto first = std::make_unique<afxint::ClassRegistration>(&passing);
-    auto second = std::make_unique<afxint::ClassRegistration>(&later);
+    auto first = std::make_unique<AFX_CLASSINIT>(&passing);
+    auto second = std::make_unique<AFX_CLASSINIT>(&later);
     CHECK(CRuntimeClass::FromName("CPassing") == &passing);
     first.reset(); // Not the last one that came.
     CHECK(CRuntimeClass::FromName("CPassing") == nullptr);
