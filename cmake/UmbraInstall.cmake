@@ -16,6 +16,13 @@ install(TARGETS ${UMBRA_EXPORTED} EXPORT umbraTargets
   FILE_SET HEADERS DESTINATION include/umbra
   FILE_SET forwarding DESTINATION include/umbra)
 
+# What scripts/build builds before it installs.
+add_custom_target(umbra_installed DEPENDS ${UMBRA_EXPORTED})
+if(TARGET umbra_gallery)
+  add_dependencies(umbra_installed umbra_gallery)
+endif()
+
+install(FILES LICENSE DESTINATION share/umbra)
 install(DIRECTORY resources/images DESTINATION share/umbra)
 if(NOT UMBRA_NATIVE_MFC)
   install(DIRECTORY mfc/include/ DESTINATION include/umbra/mfc)
@@ -30,5 +37,22 @@ configure_package_config_file(cmake/umbraConfig.cmake.in umbraConfig.cmake
 write_basic_package_version_file(umbraConfigVersion.cmake COMPATIBILITY SameMinorVersion)
 install(FILES ${PROJECT_BINARY_DIR}/umbraConfig.cmake
   ${PROJECT_BINARY_DIR}/umbraConfigVersion.cmake DESTINATION lib/cmake/umbra)
+install(FILES cmake/UmbraDeploy.cmake DESTINATION lib/cmake/umbra)
 # For hosts that are cross-compiled, too.
-install(FILES cmake/mingw-w64-x86_64.cmake DESTINATION lib/cmake/umbra)
+install(FILES cmake/mingw-w64-x86_64.cmake cmake/mingw-w64-x86_64-clang.cmake
+  DESTINATION lib/cmake/umbra)
+
+# For builds without CMake.
+if(NOT UMBRA_NATIVE_MFC)
+  foreach(package umbra umbra-mfc)
+    configure_file(cmake/${package}.pc.in ${package}.pc @ONLY)
+    install(FILES ${PROJECT_BINARY_DIR}/${package}.pc DESTINATION lib/pkgconfig)
+  endforeach()
+endif()
+
+# Archives; scripts/package makes them.
+set(CPACK_GENERATOR ZIP)
+set(CPACK_PACKAGE_VENDOR Umbra)
+set(CPACK_RESOURCE_FILE_LICENSE ${PROJECT_SOURCE_DIR}/LICENSE)
+set(CPACK_SYSTEM_NAME win64)
+include(CPack)

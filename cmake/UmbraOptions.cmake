@@ -1,10 +1,15 @@
 # Compiler settings of the project's own code; not passed on to hosts.
-option(UMBRA_WARNINGS_ARE_ERRORS "End the build at the first warning" ON)
+option(UMBRA_WARNINGS_ARE_ERRORS "End the build at the first warning" ${PROJECT_IS_TOP_LEVEL})
 add_library(umbra_options INTERFACE)
 if(MSVC)
   target_compile_options(umbra_options INTERFACE /W4)
 else()
-  target_compile_options(umbra_options INTERFACE -Wall -Wextra)
+  # The Create of a control hides that of all windows on purpose.
+  target_compile_options(umbra_options INTERFACE -Wall -Wextra
+    $<$<COMPILE_LANGUAGE:CXX>:-Wno-overloaded-virtual>)
+  # Also for sources that include the Windows headers first.
+  target_compile_definitions(umbra_options INTERFACE
+    WINVER=0x0501 _WIN32_WINNT=0x0501 _WIN32_IE=0x0600)
   if(UMBRA_WARNINGS_ARE_ERRORS)
     target_compile_options(umbra_options INTERFACE -Werror)
   endif()

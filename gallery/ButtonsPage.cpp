@@ -9,7 +9,6 @@ END_MESSAGE_MAP()
 namespace {
 
 // The matrix, in dialog units; the captions of its columns stand in the template.
-const int styleLeft = 58;
 const int stateLeft = 128;
 const int statePitch = 46;
 const int stateWidth = 43;

@@ -15,8 +15,8 @@ const char* const titles[] = {"Plain dialog", "Solid fill", "Bitmap with a capti
 const char* const texts[] = {
     "A dialog with every mode off: the system erases it.",
     "The client area is filled with one colour, and with another one at a press of the button.",
-    "A bitmap is the background, and the window text is its caption line. It is neither "
-    "stretched nor tiled.",
+    ("A bitmap is the background, and the window text is its caption line. It is neither "
+     "stretched nor tiled."),
     "An image seen through a mask.",
 };
 

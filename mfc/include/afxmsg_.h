@@ -226,7 +226,7 @@ AFXINT_SIGNATURES(AFXINT_SIGNATURE)
 #define DECLARE_MESSAGE_MAP()                                                                      \
 protected:                                                                                         \
     static const AFX_MSGMAP* PASCAL GetThisMessageMap();                                           \
-    virtual const AFX_MSGMAP* GetMessageMap() const;
+    const AFX_MSGMAP* GetMessageMap() const override;
 
 #define AFXINT_BEGIN_ENTRIES(theClass, baseClass)                                                  \
     {                                                                                              \

@@ -26,5 +26,7 @@ public:
     /// Called when the last reference of an automation client goes; deletes the object.
     virtual void OnFinalRelease();
 
-    DECLARE_MESSAGE_MAP()
+protected:
+    static const AFX_MSGMAP* PASCAL GetThisMessageMap();
+    virtual const AFX_MSGMAP* GetMessageMap() const;
 };

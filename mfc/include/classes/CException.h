@@ -60,7 +60,7 @@ public:
     CMemoryException();
 
 private:
-    friend void AFXAPI AfxThrowMemoryException();
+    friend AFX_EXPORTED void AFXAPI AfxThrowMemoryException();
     explicit CMemoryException(BOOL bAutoDelete);
 };
 

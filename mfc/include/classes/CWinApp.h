@@ -129,8 +129,8 @@ protected:
     DECLARE_MESSAGE_MAP()
 
 private:
-    friend BOOL AFXAPI AfxWinInit(HINSTANCE hInstance, HINSTANCE hPrevInstance, LPTSTR lpCmdLine,
-                                  int nCmdShow);
+    friend AFX_EXPORTED BOOL AFXAPI AfxWinInit(HINSTANCE hInstance, HINSTANCE hPrevInstance,
+                                               LPTSTR lpCmdLine, int nCmdShow);
     void SetNames();
     void GiveHelp(DWORD_PTR data, UINT winHelpCommand, UINT htmlHelpCommand);
     bool TakeSwitch(LPCTSTR name);

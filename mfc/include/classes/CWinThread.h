@@ -57,10 +57,11 @@ public:
     virtual BOOL ProcessMessageFilter(int code, LPMSG lpMsg);
 
 private:
-    friend CWinThread* AFXAPI AfxBeginThread(AFX_THREADPROC pfnThreadProc, LPVOID pParam,
-                                             int nPriority, UINT nStackSize, DWORD dwCreateFlags,
-                                             LPSECURITY_ATTRIBUTES lpSecurityAttrs);
-    friend void AFXAPI AfxEndThread(UINT nExitCode, BOOL bDelete);
+    friend AFX_EXPORTED CWinThread* AFXAPI AfxBeginThread(AFX_THREADPROC pfnThreadProc,
+                                                          LPVOID pParam, int nPriority,
+                                                          UINT nStackSize, DWORD dwCreateFlags,
+                                                          LPSECURITY_ATTRIBUTES lpSecurityAttrs);
+    friend AFX_EXPORTED void AFXAPI AfxEndThread(UINT nExitCode, BOOL bDelete);
     struct Start;
 
     static unsigned __stdcall Enter(void* start);

@@ -6,6 +6,21 @@
 #define NOMINMAX // The min and max macros break the standard library; templates stand in below.
 #endif
 
+// The oldest system that is meant, unless the program names another one.
+#ifndef _WIN32_WINNT
+#ifdef WINVER
+#define _WIN32_WINNT WINVER
+#else
+#define _WIN32_WINNT 0x0501
+#endif
+#endif
+#ifndef WINVER
+#define WINVER _WIN32_WINNT
+#endif
+#ifndef _WIN32_IE
+#define _WIN32_IE 0x0600
+#endif
+
 #include <windows.h>
 #include <windowsx.h>
 #include <commctrl.h>

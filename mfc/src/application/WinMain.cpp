@@ -32,6 +32,10 @@ int RunProgram(HINSTANCE instance, HINSTANCE previous, LPTSTR commandLine, int s
 
 } // namespace
 
+#ifdef __clang__ // The Windows headers declare them without a mark.
+#pragma clang diagnostic ignored "-Wdll-attribute-on-redeclaration"
+#endif
+
 extern "C" AFX_EXPORTED int WINAPI WinMain(HINSTANCE instance, HINSTANCE previous,
                                            LPSTR commandLine, int show)
 {

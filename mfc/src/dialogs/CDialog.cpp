@@ -12,11 +12,11 @@
 IMPLEMENT_DYNAMIC(CDialog, CWnd)
 
 BEGIN_MESSAGE_MAP(CDialog, CWnd)
-    ON_COMMAND(IDOK, OnOK)
-    ON_COMMAND(IDCANCEL, OnCancel)
-    ON_MESSAGE(WM_INITDIALOG, OnInitDialogMessage)
-    ON_MESSAGE(WM_SETFONT, OnSetFontMessage)
-    ON_MESSAGE(WM_COMMANDHELP, OnCommandHelpMessage)
+    ON_COMMAND(IDOK, &CDialog::OnOK)
+    ON_COMMAND(IDCANCEL, &CDialog::OnCancel)
+    ON_MESSAGE(WM_INITDIALOG, &CDialog::OnInitDialogMessage)
+    ON_MESSAGE(WM_SETFONT, &CDialog::OnSetFontMessage)
+    ON_MESSAGE(WM_COMMANDHELP, &CDialog::OnCommandHelpMessage)
 END_MESSAGE_MAP()
 
 namespace {
@@ -300,7 +300,7 @@ LRESULT CDialog::OnInitDialogMessage(WPARAM, LPARAM)
     if (!centred_ || m_hWnd == NULL || IsWindowVisible())
         return chooseFocus;
     GetWindowRect(&after);
-    if (after == before)
+    if (::EqualRect(&after, &before))
         CenterWindow();
     return chooseFocus;
 }

@@ -62,8 +62,8 @@ struct afxint::PropertySheetHook
 };
 
 BEGIN_MESSAGE_MAP(CPropertySheet, CWnd)
-    ON_MESSAGE(WM_INITDIALOG, OnInitDialogMessage)
-    ON_MESSAGE(PSM_PRESSBUTTON, OnPressButtonMessage)
+    ON_MESSAGE(WM_INITDIALOG, &CPropertySheet::OnInitDialogMessage)
+    ON_MESSAGE(PSM_PRESSBUTTON, &CPropertySheet::OnPressButtonMessage)
     ON_WM_CLOSE()
 END_MESSAGE_MAP()
 
