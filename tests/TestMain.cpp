@@ -1,6 +1,8 @@
 // The main program of every layer's tests: an MFC application without a window of its own, around
 // the test framework.
 #define DOCTEST_CONFIG_IMPLEMENT
+#include "tests/ThreadStandIn.h"
+
 #include <afxwin.h>
 
 #include <doctest/doctest.h>
@@ -24,6 +26,24 @@ DWORD FindRunTimeLimit()
 
 class TestApp : public CWinApp
 {
+public:
+    BOOL OnIdle(LONG count) override
+    {
+        ThreadStandIn* standIn = ThreadStandIn::Current();
+        return standIn != nullptr ? standIn->OnIdle(count) : CWinApp::OnIdle(count);
+    }
+    LRESULT ProcessWndProcException(CException* error, const MSG* message) override
+    {
+        ThreadStandIn* standIn = ThreadStandIn::Current();
+        return standIn != nullptr ? standIn->ProcessWndProcException(error, message)
+                                  : CWinApp::ProcessWndProcException(error, message);
+    }
+    BOOL ProcessMessageFilter(int code, LPMSG message) override
+    {
+        ThreadStandIn* standIn = ThreadStandIn::Current();
+        return standIn != nullptr ? standIn->ProcessMessageFilter(code, message)
+                                  : CWinApp::ProcessMessageFilter(code, message);
+    }
 } theApp;
 
 int casesRun = 0;

@@ -11,6 +11,8 @@ using afxint::CurrentThread;
 
 namespace {
 
+constexpr UINT askNow = WM_APP + 1;
+
 /// A window whose handler does what a test wants.
 class Acting : public CWnd
 {
@@ -145,4 +147,34 @@ TEST_CASE("what a nested handler made is gone after the idle time of the loop ar
         CHECK(CountTemporaryWindows() == 0);
     };
     window.SendMessage(WM_APP + 1);
+}
+
+TEST_CASE("temporary objects are gone after the idle time")
+{
+    CWinThread* thread = AfxGetThread();
+    const HWND strange =
+        ::CreateWindow("Static", "", WS_POPUP, 0, 0, 10, 10, NULL, NULL, NULL, NULL);
+    struct CProbe : CWnd
+    {
+        CWnd* m_pSeen = nullptr;
+        HWND m_hStrange = nullptr;
+        LRESULT WindowProc(UINT message, WPARAM wParam, LPARAM lParam) override
+        {
+            if (message == askNow)
+                m_pSeen = CWnd::FromHandle(m_hStrange);
+            return CWnd::WindowProc(message, wParam, lParam);
+        }
+    } probe;
+    REQUIRE(probe.CreateEx(0, AfxRegisterWndClass(0), "", WS_POPUP, 0, 0, 10, 10, NULL, NULL));
+    probe.m_hStrange = strange;
+    probe.SendMessage(askNow);
+    REQUIRE(probe.m_pSeen != nullptr);
+    CHECK(probe.m_pSeen->m_hWnd == strange);
+    CHECK(CWnd::FromHandlePermanent(strange) == nullptr);
+    CHECK(thread->OnIdle(0));
+    CHECK(afxint::CurrentThread().windows.CountTemporaries() > 0);
+    CHECK_FALSE(thread->OnIdle(1));
+    CHECK(afxint::CurrentThread().windows.CountTemporaries() == 0);
+    CHECK(::IsWindow(strange)); // The object goes, not its window.
+    ::DestroyWindow(strange);
 }

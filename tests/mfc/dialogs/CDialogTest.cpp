@@ -1,9 +1,8 @@
-// Looks inside the class library: a thread object takes the place of the program's for a while.
-#include "mfc/src/threads/ThreadState.h"
-
 #include <afxwin.h>
 
 #include <doctest/doctest.h>
+
+#include "tests/ThreadStandIn.h"
 
 #include "testing/DialogTemplate.h"
 #include "testing/Input.h"
@@ -221,16 +220,11 @@ bool ThrowsForeign(const std::function<void()>& action)
     return false;
 }
 
-/// A thread object whose idle time fails; the calling thread's object while it lives.
-class CFailingThread : public CWinThread
+/// A thread object whose idle time fails.
+class FailingIdle : public ThreadStandIn
 {
 public:
-    CFailingThread() : former_(std::exchange(afxint::CurrentThread().thread, this)) {}
-    ~CFailingThread() override { afxint::CurrentThread().thread = former_; }
     BOOL OnIdle(LONG) override { AfxThrowResourceException(); }
-
-private:
-    CWinThread* former_;
 };
 
 /// A key whose release nobody waits for: the dialog is gone by then.
@@ -306,7 +300,7 @@ TEST_CASE("an exception that ends the loop of a modal dialog leaves owner and di
     dialog.whenOffered = nullptr;
     {
         const DialogTemplate page = MakeTemplate();
-        const CFailingThread thread;
+        const FailingIdle thread;
         dialog.later = nullptr;
         dialog.InitModalIndirect(page.Get(), &owner);
         CHECK(Throws<CResourceException>([&] { dialog.DoModal(); }));

@@ -1,6 +1,3 @@
-// Looks inside the class library: whether temporary objects are gone.
-#include "mfc/src/threads/ThreadState.h"
-
 #include <afxwin.h>
 #include <afxres.h>
 
@@ -312,36 +309,6 @@ TEST_CASE("a message is offered to its window and the parents up to the main win
 
     thread->m_pMainWnd = NULL;
     above.DestroyWindow();
-}
-
-TEST_CASE("temporary objects are gone after the idle time")
-{
-    CWinThread* thread = AfxGetThread();
-    const HWND strange =
-        ::CreateWindow("Static", "", WS_POPUP, 0, 0, 10, 10, NULL, NULL, NULL, NULL);
-    struct CProbe : CWnd
-    {
-        CWnd* m_pSeen = nullptr;
-        HWND m_hStrange = nullptr;
-        LRESULT WindowProc(UINT message, WPARAM wParam, LPARAM lParam) override
-        {
-            if (message == askNumber)
-                m_pSeen = CWnd::FromHandle(m_hStrange);
-            return CWnd::WindowProc(message, wParam, lParam);
-        }
-    } probe;
-    REQUIRE(probe.CreateEx(0, AfxRegisterWndClass(0), "", WS_POPUP, 0, 0, 10, 10, NULL, NULL));
-    probe.m_hStrange = strange;
-    probe.SendMessage(askNumber);
-    REQUIRE(probe.m_pSeen != nullptr);
-    CHECK(probe.m_pSeen->m_hWnd == strange);
-    CHECK(CWnd::FromHandlePermanent(strange) == nullptr);
-    CHECK(thread->OnIdle(0));
-    CHECK(afxint::CurrentThread().windows.CountTemporaries() > 0);
-    CHECK_FALSE(thread->OnIdle(1));
-    CHECK(afxint::CurrentThread().windows.CountTemporaries() == 0);
-    CHECK(::IsWindow(strange)); // The object goes, not its window.
-    ::DestroyWindow(strange);
 }
 
 TEST_CASE("a loop inside a handler leaves the outer loop its current message")
