@@ -9,9 +9,11 @@ void SetLabelText(CWnd& label, const CString& text)
     if (text == before)
         return;
     label.SetWindowText(text);
+    CWnd* page = label.GetParent();
+    if (page == nullptr)
+        return;
     CRect place;
     label.GetWindowRect(&place);
-    CWnd* page = label.GetParent();
     page->ScreenToClient(&place);
     page->InvalidateRect(&place, TRUE);
 }
