@@ -191,8 +191,11 @@ TEST_CASE("an exception that ends the loop of a sheet leaves owner and sheet usa
 {
     TwoPages two;
     two.sheet.fails = true;
-    NextDialog wake([](HWND box) { ::PostMessage(box, WM_NULL, 0, 0); });
-    CHECK(Throws<CResourceException>([&] { two.sheet.DoModal(); }));
+    {
+        // Where another message comes first, nobody waits for a dialog afterwards.
+        const NextDialog wake([](HWND box) { ::PostMessage(box, WM_NULL, 0, 0); });
+        CHECK(Throws<CResourceException>([&] { two.sheet.DoModal(); }));
+    }
     CHECK(two.host.IsWindowEnabled());
     CHECK(CWnd::GetActiveWindow() == &two.host);
     CHECK(two.sheet.m_hWnd == NULL);
