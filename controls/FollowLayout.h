@@ -5,13 +5,19 @@
 
 namespace umbra {
 
+/// Whether a context with this layout mirrors its coordinates.
+inline bool IsMirrored(DWORD layout)
+{
+    return layout != GDI_ERROR && (layout & LAYOUT_RTL) != 0;
+}
+
 /// Gives a memory context, its bitmap selected, the layout of the context that it is copied to.
 /// Where both mirror their coordinates, the copy leaves the pixels as they are: captions read
 /// right, and pictures are not mirrored.
 inline void FollowLayout(CDC& memory, const CDC& target)
 {
     const DWORD layout = target.GetLayout();
-    if (layout != GDI_ERROR && (layout & LAYOUT_RTL) != 0)
+    if (IsMirrored(layout))
         memory.SetLayout(layout);
 }
 
@@ -33,7 +39,7 @@ public:
     LeftToRight(const LeftToRight&) = delete;
     LeftToRight& operator=(const LeftToRight&) = delete;
 
-    bool WasMirrored() const { return m_layout != GDI_ERROR && (m_layout & LAYOUT_RTL) != 0; }
+    bool WasMirrored() const { return IsMirrored(m_layout); }
 
 private:
     CDC& m_dc;
