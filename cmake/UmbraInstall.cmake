@@ -9,6 +9,7 @@ if(TARGET umbra_testing)
   list(APPEND UMBRA_EXPORTED umbra_testing)
 endif()
 
+install(CODE "set(CMAKE_INSTALL_DO_STRIP TRUE)") # Of what follows; see SeparateSymbols.cmake.
 install(TARGETS ${UMBRA_EXPORTED} EXPORT umbraTargets
   RUNTIME DESTINATION bin
   ARCHIVE DESTINATION lib
@@ -37,7 +38,8 @@ configure_package_config_file(cmake/umbraConfig.cmake.in umbraConfig.cmake
 write_basic_package_version_file(umbraConfigVersion.cmake COMPATIBILITY SameMinorVersion)
 install(FILES ${PROJECT_BINARY_DIR}/umbraConfig.cmake
   ${PROJECT_BINARY_DIR}/umbraConfigVersion.cmake DESTINATION lib/cmake/umbra)
-install(FILES cmake/UmbraDeploy.cmake DESTINATION lib/cmake/umbra)
+install(FILES cmake/UmbraDeploy.cmake cmake/UmbraShrink.cmake DESTINATION lib/cmake/umbra)
+install(FILES ${UMBRA_TERMINATE_HANDLER} DESTINATION share/umbra)
 # For hosts that are cross-compiled, too.
 install(FILES cmake/mingw-w64-x86_64.cmake cmake/mingw-w64-x86_64-clang.cmake
   DESTINATION lib/cmake/umbra)
@@ -55,4 +57,7 @@ set(CPACK_GENERATOR ZIP)
 set(CPACK_PACKAGE_VENDOR Umbra)
 set(CPACK_RESOURCE_FILE_LICENSE ${PROJECT_SOURCE_DIR}/LICENSE)
 set(CPACK_SYSTEM_NAME win64)
+set(CPACK_ARCHIVE_COMPONENT_INSTALL ON)
+set(CPACK_COMPONENTS_GROUPING ALL_COMPONENTS_IN_ONE)
+set(CPACK_COMPONENTS_ALL Unspecified)
 include(CPack)

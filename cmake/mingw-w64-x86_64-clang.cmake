@@ -7,6 +7,9 @@ execute_process(COMMAND x86_64-w64-mingw32-g++-posix -print-libgcc-file-name
 cmake_path(GET UMBRA_GCC_FOLDER PARENT_PATH UMBRA_GCC_FOLDER)
 set(UMBRA_GCC_HEADERS ${UMBRA_GCC_FOLDER}/include/c++)
 
+# The librarian of LLVM makes no delayed import libraries.
+set(CMAKE_DLLTOOL x86_64-w64-mingw32-dlltool CACHE STRING "The librarian")
+
 set(CMAKE_C_COMPILER clang)
 set(CMAKE_CXX_COMPILER clang++)
 set(CMAKE_C_COMPILER_TARGET x86_64-w64-mingw32)

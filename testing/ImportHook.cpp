@@ -11,12 +11,16 @@ const BYTE* ImageBase(HMODULE module)
     return reinterpret_cast<const BYTE*>(module);
 }
 
-const IMAGE_DATA_DIRECTORY& DirectoryOf(HMODULE module, int index)
+const IMAGE_NT_HEADERS& HeadersOf(HMODULE module)
 {
     const BYTE* base = ImageBase(module);
     const auto* dos = reinterpret_cast<const IMAGE_DOS_HEADER*>(base);
-    const auto* headers = reinterpret_cast<const IMAGE_NT_HEADERS*>(base + dos->e_lfanew);
-    return headers->OptionalHeader.DataDirectory[index];
+    return *reinterpret_cast<const IMAGE_NT_HEADERS*>(base + dos->e_lfanew);
+}
+
+const IMAGE_DATA_DIRECTORY& DirectoryOf(HMODULE module, int index)
+{
+    return HeadersOf(module).OptionalHeader.DataDirectory[index];
 }
 
 /// One DLL's imports: two tables side by side, the names and the addresses.
@@ -38,6 +42,48 @@ void AddImports(std::vector<Import>& imports, HMODULE module, const char* dll, D
                 reinterpret_cast<const IMAGE_IMPORT_BY_NAME*>(base + name->u1.AddressOfData)->Name;
         imports.push_back(import);
     }
+}
+
+/// Whether these bytes are the description of a DLL whose functions are imported late.
+bool IsDelayDescriptor(HMODULE module, const IMAGE_DELAYLOAD_DESCRIPTOR& delayed)
+{
+    const DWORD size = HeadersOf(module).OptionalHeader.SizeOfImage;
+    for (const DWORD address : {delayed.DllNameRVA, delayed.ModuleHandleRVA,
+                                delayed.ImportAddressTableRVA, delayed.ImportNameTableRVA}) {
+        if (address == 0 || address >= size - MAX_PATH)
+            return false;
+    }
+    if (delayed.Attributes.AllAttributes != 1)
+        return false;
+    const char* name = reinterpret_cast<const char*>(ImageBase(module) + delayed.DllNameRVA);
+    const size_t length = strnlen(name, MAX_PATH);
+    return length > 4 && length < MAX_PATH && lstrcmpiA(name + length - 4, ".dll") == 0;
+}
+
+/// The descriptions of DLLs whose functions are imported late. MinGW's linker puts them beside the
+/// code and lists them nowhere, so that they can only be told by their form.
+std::vector<const IMAGE_DELAYLOAD_DESCRIPTOR*> DelayedOf(HMODULE module)
+{
+    std::vector<const IMAGE_DELAYLOAD_DESCRIPTOR*> found;
+    const BYTE* base = ImageBase(module);
+    const IMAGE_DATA_DIRECTORY& listed = DirectoryOf(module, IMAGE_DIRECTORY_ENTRY_DELAY_IMPORT);
+    if (listed.VirtualAddress != 0) {
+        auto* delayed =
+            reinterpret_cast<const IMAGE_DELAYLOAD_DESCRIPTOR*>(base + listed.VirtualAddress);
+        for (; delayed->DllNameRVA != 0; ++delayed)
+            found.push_back(delayed);
+        return found;
+    }
+    const IMAGE_NT_HEADERS& headers = HeadersOf(module);
+    const BYTE* end = base + headers.OptionalHeader.BaseOfCode + headers.OptionalHeader.SizeOfCode -
+                      sizeof(IMAGE_DELAYLOAD_DESCRIPTOR);
+    for (const BYTE* at = base + headers.OptionalHeader.BaseOfCode; at <= end;
+         at += sizeof(DWORD)) {
+        auto* delayed = reinterpret_cast<const IMAGE_DELAYLOAD_DESCRIPTOR*>(at);
+        if (IsDelayDescriptor(module, *delayed))
+            found.push_back(delayed);
+    }
+    return found;
 }
 
 std::string PlainName(std::string dll)
@@ -81,13 +127,9 @@ std::vector<Import> ImportsOf(HMODULE module)
                        dll->OriginalFirstThunk, dll->FirstThunk, false);
         }
     }
-    const IMAGE_DATA_DIRECTORY& delayed = DirectoryOf(module, IMAGE_DIRECTORY_ENTRY_DELAY_IMPORT);
-    if (delayed.VirtualAddress != 0) {
-        auto* dll =
-            reinterpret_cast<const IMAGE_DELAYLOAD_DESCRIPTOR*>(base + delayed.VirtualAddress);
-        for (; dll->DllNameRVA != 0; ++dll)
-            AddImports(imports, module, reinterpret_cast<const char*>(base + dll->DllNameRVA),
-                       dll->ImportNameTableRVA, dll->ImportAddressTableRVA, true);
+    for (const IMAGE_DELAYLOAD_DESCRIPTOR* dll : DelayedOf(module)) {
+        AddImports(imports, module, reinterpret_cast<const char*>(base + dll->DllNameRVA),
+                   dll->ImportNameTableRVA, dll->ImportAddressTableRVA, true);
     }
     return imports;
 }

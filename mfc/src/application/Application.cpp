@@ -39,7 +39,6 @@ BOOL AFXAPI AfxWinInit(HINSTANCE hInstance, HINSTANCE, LPTSTR lpCmdLine, int nCm
     AFX_MODULE_STATE& program = afxint::Module();
     program.instance = hInstance;
     program.resource = hInstance;
-    InitCommonControls(); // Dialog templates name these classes without further preparation.
     afxint::WatchSystemLoops();
     CWinApp* app = AfxGetApp();
     if (app == NULL)

@@ -4,6 +4,8 @@
 #include <classes/CImageList.h>
 #include <classes/CWnd.h>
 
+#include "windows/CommonControls.h"
+
 #include <type_traits>
 
 namespace afxint {
@@ -72,13 +74,6 @@ struct CommonControl
     LPCTSTR name;
     DWORD classes;
 };
-
-/// Registers the window classes of common controls, which the system does only on demand.
-inline void NeedCommonControls(DWORD classes)
-{
-    INITCOMMONCONTROLSEX request = {sizeof(request), classes};
-    ::InitCommonControlsEx(&request);
-}
 
 /// Create of a common control without a text.
 inline BOOL CreateControl(CWnd& control, const CommonControl& kind, DWORD style, const RECT& rect,

@@ -6,6 +6,7 @@
 #include <classes/CRect.h>
 
 #include "dialogs/DialogTemplate.h"
+#include "windows/CommonControls.h"
 #include "windows/ModalScope.h"
 #include "windows/WindowCreation.h"
 
@@ -271,7 +272,9 @@ void CDialog::OnCancel()
 
 BOOL CDialog::CreateFromTemplate(LPCDLGTEMPLATE dialogTemplate, CWnd* parent, HINSTANCE module)
 {
-    centred_ = LeavesPlaceOpen(afxint::DialogTemplate(dialogTemplate));
+    const afxint::DialogTemplate dialog(dialogTemplate);
+    centred_ = LeavesPlaceOpen(dialog);
+    dialog.ForEachNamedClass(afxint::NeedClassOfControl);
     // Without a parent the main window owns the dialog, unless that is this very object.
     if (parent == NULL && !afxint::ModalState::IsRunning(*this))
         parent = AfxGetMainWnd();

@@ -57,24 +57,9 @@ int DialogTemplate::Y() const
 
 size_t DialogTemplate::Size() const
 {
-    const Layout& layout = LayoutOf(extended_);
-    size_t offset = SkipNameOrText(layout.variable); // Menu.
-    offset = SkipNameOrText(offset);                 // Class.
-    offset = SkipText(offset);                       // Title.
-    if ((Style() & DS_SETFONT) != 0)
-        offset = SkipText(offset + layout.font * sizeof(WORD));
-
-    for (WORD rest = WordAt(layout.count); rest > 0; --rest) {
-        offset = AlignToDword(offset) + layout.control;
-        offset = SkipNameOrText(offset); // Class.
-        offset = SkipNameOrText(offset); // Title.
-        // The old kind counts the word with the number of bytes, the extended one does not.
-        const WORD extra = WordAt(offset);
-        if (extended_)
-            offset += sizeof(WORD) + extra;
-        else
-            offset += extra == 0 ? sizeof(WORD) : extra;
-    }
+    size_t offset = FirstControl();
+    for (WORD rest = CountOfControls(); rest > 0; --rest)
+        offset = SkipControl(offset);
     return offset;
 }
 
@@ -98,6 +83,11 @@ WORD DialogTemplate::WordAt(size_t offset) const
     return word;
 }
 
+bool DialogTemplate::IsOrdinal(size_t offset) const
+{
+    return WordAt(offset) == ordinalMark;
+}
+
 size_t DialogTemplate::SkipText(size_t offset) const
 {
     while (WordAt(offset) != 0)
@@ -107,12 +97,44 @@ size_t DialogTemplate::SkipText(size_t offset) const
 
 size_t DialogTemplate::SkipNameOrText(size_t offset) const
 {
-    return WordAt(offset) == ordinalMark ? offset + 2 * sizeof(WORD) : SkipText(offset);
+    return IsOrdinal(offset) ? offset + 2 * sizeof(WORD) : SkipText(offset);
 }
 
 size_t DialogTemplate::StyleOffset() const
 {
     return LayoutOf(extended_).style;
+}
+
+size_t DialogTemplate::FirstControl() const
+{
+    const Layout& layout = LayoutOf(extended_);
+    size_t offset = SkipNameOrText(layout.variable); // Menu.
+    offset = SkipNameOrText(offset);                 // Class.
+    offset = SkipText(offset);                       // Title.
+    if ((Style() & DS_SETFONT) != 0)
+        offset = SkipText(offset + layout.font * sizeof(WORD));
+    return offset;
+}
+
+WORD DialogTemplate::CountOfControls() const
+{
+    return WordAt(LayoutOf(extended_).count);
+}
+
+size_t DialogTemplate::ClassOfControl(size_t control) const
+{
+    return AlignToDword(control) + LayoutOf(extended_).control;
+}
+
+size_t DialogTemplate::SkipControl(size_t control) const
+{
+    const size_t title = SkipNameOrText(ClassOfControl(control));
+    const size_t data = SkipNameOrText(title);
+    // The old kind counts the word with the number of bytes, the extended one does not.
+    const WORD extra = WordAt(data);
+    if (extended_)
+        return data + sizeof(WORD) + extra;
+    return data + (extra == 0 ? sizeof(WORD) : extra);
 }
 
 } // namespace afxint

@@ -4,6 +4,7 @@
 #include <classes/Application.h>
 
 #include "threads/ThreadState.h"
+#include "windows/CommonControls.h"
 #include "windows/WindowCreation.h"
 #include "windows/WindowMessages.h"
 
@@ -149,6 +150,7 @@ BOOL CWnd::CreateEx(DWORD dwExStyle, LPCTSTR lpszClassName, LPCTSTR lpszWindowNa
         return FALSE;
     }
 
+    afxint::NeedClassOfWindow(create.lpszClass, create.hInstance);
     afxint::WindowCreation creation(this);
     HWND window = NULL;
     if (creation.IsReady()) {

@@ -4,6 +4,8 @@
 #include <classes/CPoint.h>
 #include <classes/CWnd.h>
 
+#include "windows/CommonControls.h"
+
 namespace {
 
 constexpr INT_PTR noTool = -1;
@@ -37,8 +39,7 @@ bool MakeWindow(HWND asker)
     if (tip.window != NULL && IsWindow(tip.window))
         return true;
     tip = Tip{};
-    INITCOMMONCONTROLSEX classes{sizeof classes, ICC_BAR_CLASSES};
-    InitCommonControlsEx(&classes);
+    afxint::NeedCommonControls(ICC_BAR_CLASSES);
     tip.window = CreateWindowEx(WS_EX_TOPMOST, TOOLTIPS_CLASS, NULL, WS_POPUP | TTS_ALWAYSTIP,
                                 CW_USEDEFAULT, CW_USEDEFAULT, CW_USEDEFAULT, CW_USEDEFAULT,
                                 GetAncestor(asker, GA_ROOT), NULL, NULL, NULL);

@@ -1,0 +1,87 @@
+// When the library of the common controls is loaded, which takes a process of its own to see. Some
+// systems find their classes by themselves, so others are asked, too, whether they were registered.
+#include <afxwin.h>
+
+#include <afxcmn.h>
+
+#include <doctest/doctest.h>
+
+#include "testing/CallFault.h"
+#include "testing/DialogTemplate.h"
+
+#include <string>
+
+using namespace umbra::testing;
+
+namespace {
+
+constexpr DWORD wasLoaded = 1, isLoaded = 2, hasWindow = 4; // As the program ends.
+
+DWORD EndOf(const char* task)
+{
+    char path[MAX_PATH];
+    ::GetModuleFileNameA(nullptr, path, MAX_PATH);
+    ::PathRemoveFileSpecA(path);
+    std::string line = '"' + std::string(path) + "\\mfc-test-late-controls.exe\" " + task;
+    STARTUPINFOA startup{};
+    startup.cb = sizeof(startup);
+    PROCESS_INFORMATION process{};
+    REQUIRE(::CreateProcessA(nullptr, line.data(), nullptr, nullptr, FALSE, 0, nullptr, nullptr,
+                             &startup, &process));
+    ::WaitForSingleObject(process.hProcess, INFINITE);
+    DWORD code = 0;
+    ::GetExitCodeProcess(process.hProcess, &code);
+    ::CloseHandle(process.hThread);
+    ::CloseHandle(process.hProcess);
+    return code;
+}
+
+} // namespace
+
+TEST_CASE("a dialog of plain controls does not load the common ones")
+{
+    CHECK(EndOf("plain") == hasWindow);
+}
+
+TEST_CASE("a dialog whose template names a common control shows it without further preparation")
+{
+    CHECK(EndOf("template") == (isLoaded | hasWindow));
+}
+
+TEST_CASE("a window of a common control's class can be made without further preparation")
+{
+    CHECK(EndOf("create") == (isLoaded | hasWindow));
+}
+
+TEST_CASE("an unknown class of a template has the common controls registered, a known one has not")
+{
+    const FailAlways unknown(FindModule("umbra-mfc.dll"), "user32", "GetClassInfoW");
+    const CountCalls registered(FindModule("umbra-mfc.dll"), "comctl32", "InitCommonControls");
+    REQUIRE(unknown.IsInstalled());
+    REQUIRE(registered.IsInstalled());
+    DialogTemplate page(0, 0, 100, 60);
+    page.Add(WC_TREEVIEWA, 5, "", 0, 0, 10, 10);
+    CDialog dialog;
+    REQUIRE(dialog.CreateIndirect(page.Get()));
+    dialog.DestroyWindow();
+    CHECK(registered.Calls() == 1);
+
+    DialogTemplate numbered(0, 0, 100, 60); // Names its classes by numbers only.
+    numbered.Button(IDOK, "OK", 0, 0, 10, 10).Edit(6, "", 0, 20, 10, 10);
+    CDialog second;
+    REQUIRE(second.CreateIndirect(numbered.Get()));
+    second.DestroyWindow();
+    CHECK(registered.Calls() == 1);
+}
+
+TEST_CASE("an unknown class of a window has the common controls registered")
+{
+    const FailAlways unknown(FindModule("umbra-mfc.dll"), "user32", "GetClassInfoA");
+    const CountCalls registered(FindModule("umbra-mfc.dll"), "comctl32", "InitCommonControls");
+    REQUIRE(registered.IsInstalled());
+    CWnd window;
+    REQUIRE(window.CreateEx(0, WC_TREEVIEW, "", WS_POPUP, 0, 0, 9, 9, NULL, NULL));
+    window.DestroyWindow();
+    CHECK(unknown.Failed() == 1);
+    CHECK(registered.Calls() == 1);
+}
