@@ -35,18 +35,22 @@ double MedianOf(std::vector<double> times)
 
 } // namespace
 
-void Race::Add(std::string name, Work work)
+void Race::Add(std::string name, Work work, Work prepare)
 {
-    m_entries.push_back({std::move(name), std::move(work), 1, {}});
+    m_entries.push_back({std::move(name), std::move(work), std::move(prepare), 1, {}});
 }
 
 void Race::Run(int rounds)
 {
-    for (Entry& entry : m_entries)
+    for (Entry& entry : m_entries) {
+        entry.prepare();
         entry.repetitions = ChooseRepetitions(entry.work);
+    }
     for (int round = 0; round < rounds; ++round) {
-        for (Entry& entry : m_entries)
+        for (Entry& entry : m_entries) {
+            entry.prepare();
             entry.times.push_back(TimeOnce(entry.work, entry.repetitions));
+        }
     }
 }
 

@@ -12,7 +12,9 @@ class Race
 public:
     using Work = std::function<void()>;
 
-    void Add(std::string name, Work work);
+    /// `prepare` comes before the work in each round and is not timed.
+    void Add(
+        std::string name, Work work, Work prepare = [] {});
     /// Runs all rounds. Work that takes less than a fifth of a millisecond is repeated within each.
     void Run(int rounds = 21);
     /// Median nanoseconds of one piece of work.
@@ -26,6 +28,7 @@ private:
     {
         std::string name;
         Work work;
+        Work prepare;
         int repetitions;
         std::vector<double> times;
     };

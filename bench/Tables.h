@@ -9,3 +9,10 @@ void PrintPixelTable();
 void PrintFacesTable();
 /// The repaint of a button against that of a minimal owner-drawn one.
 void PrintRepaintTable();
+/// The repaint of pages with few and many controls against that of plain ones.
+void PrintPageTable();
+/// Repaints a page, for those who count what is asked of the system from outside: "plain",
+/// "toolkit" or "buffered", the controls, the times. False when there is no such page.
+bool RepaintScene(const char* kind, int controls, int times);
+/// The start of a program with a page of the toolkit against that of a plain one.
+void PrintStartTable();

@@ -3,6 +3,7 @@
 #include "bench/Tables.h"
 
 #include <cstdio>
+#include <cstdlib>
 #include <cstring>
 
 namespace {
@@ -18,6 +19,8 @@ constexpr Table tables[] = {
     {"pixels", "Pixels of a face", PrintPixelTable},
     {"faces", "All bitmaps of a button", PrintFacesTable},
     {"repaint", "Repaint of a button", PrintRepaintTable},
+    {"pages", "Repaint of a page", PrintPageTable},
+    {"start", "Start of a program", PrintStartTable},
 };
 
 bool IsWanted(const Table& table, int count, char** names)
@@ -33,6 +36,8 @@ bool IsWanted(const Table& table, int count, char** names)
 
 int main(int argc, char** argv)
 {
+    if (argc == 5 && std::strcmp(argv[1], "--scene") == 0)
+        return RepaintScene(argv[2], std::atoi(argv[3]), std::atoi(argv[4])) ? 0 : 1;
     for (const Table& table : tables) {
         if (!IsWanted(table, argc, argv))
             continue;
