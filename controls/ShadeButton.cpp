@@ -1,6 +1,7 @@
 #include "controls/ShadeButton.h"
 
 #include "controls/Abandon.h"
+#include "controls/BufferTarget.h"
 #include "controls/FollowLayout.h"
 #include "controls/KeyedPicture.h"
 #include "controls/ScopedSelect.h"
@@ -171,21 +172,17 @@ void CxShadeButton::DrawItem(LPDRAWITEMSTRUCT lpDrawItemStruct)
         return;
 
     const CRect item(lpDrawItemStruct->rcItem);
-    CDC memory;
-    memory.CreateCompatibleDC(target);
-    CBitmap canvas;
-    canvas.CreateCompatibleBitmap(target, item.Width(), item.Height());
-    {
+    if (lpDrawItemStruct->hDC == umbra::BufferTarget()) {
+        target->PatBlt(0, 0, item.Width(), item.Height(), BLACKNESS); // As new bitmaps are.
+        DrawButton(*target, item, lpDrawItemStruct->itemState);
+    } else {
+        CDC memory;
+        memory.CreateCompatibleDC(target);
+        CBitmap canvas;
+        canvas.CreateCompatibleBitmap(target, item.Width(), item.Height());
         const ScopedSelect canvasSelected(memory, canvas.GetSafeHandle());
         umbra::FollowLayout(memory, *target);
-        const HGDIOBJ font = m_font.GetSafeHandle() != nullptr ? m_font.GetSafeHandle()
-                                                               : ::GetStockObject(DEFAULT_GUI_FONT);
-        const ScopedSelect fontSelected(memory, font);
-        memory.SetBkMode(TRANSPARENT);
-
-        Face face = {memory, item, GetCaptionArea(item), CString(), lpDrawItemStruct->itemState};
-        GetWindowText(face.text);
-        DrawFace(face);
+        DrawButton(memory, item, lpDrawItemStruct->itemState);
         target->BitBlt(0, 0, item.Width(), item.Height(), &memory, 0, 0, SRCCOPY);
     }
     if (m_maskColor != CLR_NONE && m_hBitmap != nullptr)
@@ -415,6 +412,18 @@ CRect CxShadeButton::GetCaptionArea(const CRect& item) const
         area.bottom -= m_border + 1;
     }
     return area;
+}
+
+void CxShadeButton::DrawButton(CDC& dc, const CRect& item, UINT state)
+{
+    const HGDIOBJ font = m_font.GetSafeHandle() != nullptr ? m_font.GetSafeHandle()
+                                                           : ::GetStockObject(DEFAULT_GUI_FONT);
+    const ScopedSelect fontSelected(dc, font);
+    dc.SetBkMode(TRANSPARENT);
+
+    Face face = {dc, item, GetCaptionArea(item), CString(), state};
+    GetWindowText(face.text);
+    DrawFace(face);
 }
 
 void CxShadeButton::DrawFace(Face& face)

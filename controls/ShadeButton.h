@@ -150,6 +150,7 @@ private:
 
     BOOL CorrectCapture();
     CRect GetCaptionArea(const CRect& item) const;
+    void DrawButton(CDC& dc, const CRect& item, UINT state);
     void DrawFace(Face& face);
     void DrawDisabledFace(Face& face);
     void DrawRaisedFace(Face& face);

@@ -1,5 +1,7 @@
 #include "dialogs/BaseDialog.h"
 
+#include "dialogs/BufferedPaint.h"
+
 #include "shell/WorkingFolder.h"
 
 #include "controls/FollowLayout.h"
@@ -86,6 +88,14 @@ void CBaseDialog::ShowPicture(UINT stringId)
     m_picture.ShowWindow(SW_SHOWNORMAL);
 }
 
+void CBaseDialog::SetBufferedPainting(bool on)
+{
+    if (on != (m_bufferedPaint != nullptr))
+        m_bufferedPaint.reset(on ? new umbra::BufferedPaint : nullptr);
+    if (GetSafeHwnd() != nullptr)
+        Invalidate();
+}
+
 void CBaseDialog::DoDataExchange(CDataExchange* pDX)
 {
     DDX_Control(pDX, IDCANCEL, m_btnCancel);
@@ -93,6 +103,20 @@ void CBaseDialog::DoDataExchange(CDataExchange* pDX)
         DDX_Control(pDX, IDOK, m_btnOk);
     if (m_bBack)
         DDX_Control(pDX, IDC_BACK, m_btnBack);
+}
+
+LRESULT CBaseDialog::WindowProc(UINT message, WPARAM wParam, LPARAM lParam)
+{
+    if (m_bufferedPaint != nullptr && !m_bShaped) {
+        if (message == WM_PAINT) {
+            m_bufferedPaint->Paint(*this);
+            return 0;
+        }
+        if (message == WM_ERASEBKGND &&
+            m_bufferedPaint->PutsErasingOff(*this, reinterpret_cast<HDC>(wParam)))
+            return TRUE;
+    }
+    return CDialogTS::WindowProc(message, wParam, lParam);
 }
 
 void CBaseDialog::OnPaint()

@@ -14,6 +14,12 @@
 #include "controls/ShadeButton.h"
 #include "controls/StaticTS.h"
 
+#include <memory>
+
+namespace umbra {
+class BufferedPaint;
+}
+
 /// The folder of the image files, with or without its last backslash; never empty. Set by the host
 /// before its first dialog is created.
 extern UMBRA_API CString g_strImageDir;
@@ -41,6 +47,13 @@ public:
     /// by 100 pixels. At most once for each dialog window. A missing image shows nothing.
     void ShowPicture(UINT stringId);
 
+    /// From then on the page, its labels, links and shaded buttons are painted into a buffer, which
+    /// is copied to the screen once: nothing flickers, and less work is asked of the system. They
+    /// show the same. Controls of other kinds paint themselves as ever, and so do all on a shaped
+    /// page or one with WS_CLIPCHILDREN. A page or control that draws more in an OnPaint of its own
+    /// handles WM_PRINTCLIENT, too, which is what it gets instead. Off at first.
+    void SetBufferedPainting(bool on);
+
 protected:
     CxShadeButton m_btnCancel; ///< IDCANCEL.
     CxShadeButton m_btnOk;     ///< IDOK.
@@ -58,6 +71,7 @@ protected:
     bool m_bCancelIcon;
 
     void DoDataExchange(CDataExchange* pDX) override;
+    LRESULT WindowProc(UINT message, WPARAM wParam, LPARAM lParam) override;
 
     DECLARE_MESSAGE_MAP()
     /// Paints the background strip. A page's own version is the one that runs.
@@ -71,4 +85,6 @@ private:
     CString PathOfStringImage(UINT stringId) const;
     void SetButton(CxShadeButton& button, const char* caption);
     void SetButtonIcon(CxShadeButton& button, UINT stringId);
+
+    std::unique_ptr<umbra::BufferedPaint> m_bufferedPaint; ///< While it is switched on.
 };
