@@ -11,4 +11,4 @@
 #include <classes/CFile.h>
 #include <classes/CFileFind.h>
 #include <classes/Trace.h>
-#include <afxcoll.h>
+#include <classes/Collections.h>

@@ -2,5 +2,6 @@
 #pragma once
 #include <afxwin.h>
 #include <afxdlgs.h>
+#include <afxtempl.h>
 #include <classes/CBitmapButton.h>
 #include <classes/CMetaFileDC.h>

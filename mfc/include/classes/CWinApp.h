@@ -9,13 +9,15 @@ enum AFX_HELP_TYPE { afxWinHelp = 0, afxHTMLHelp = 1 };
 
 #define _AFX_MRU_COUNT 4
 
-// The restart manager is not part of the subset; programs set these flags all the same.
+// What a program wants when the system restarts it. The subset registers nothing with the restart
+// manager; programs set these flags all the same.
 #define AFX_RESTART_MANAGER_SUPPORT_RESTART 0x01
 #define AFX_RESTART_MANAGER_SUPPORT_RECOVERY 0x02
 #define AFX_RESTART_MANAGER_AUTOSAVE_AT_RESTART 0x04
 #define AFX_RESTART_MANAGER_AUTOSAVE_AT_INTERVAL 0x08
 #define AFX_RESTART_MANAGER_REOPEN_PREVIOUS_FILES 0x10
 #define AFX_RESTART_MANAGER_RESTORE_AUTOSAVED_FILES 0x20
+#define AFX_RESTART_MANAGER_SUPPORT_NO_AUTOSAVE 0x13
 #define AFX_RESTART_MANAGER_SUPPORT_RESTART_ASPECTS 0x35
 #define AFX_RESTART_MANAGER_SUPPORT_RECOVERY_ASPECTS 0x2A
 #define AFX_RESTART_MANAGER_SUPPORT_ALL_ASPECTS 0x3F
@@ -83,6 +85,14 @@ public:
     /// Taskbar thumbnails are not part of the subset.
     BOOL EnableTaskbarInteraction(BOOL bEnable = TRUE);
     virtual BOOL IsTaskbarInteractionEnabled();
+
+    /// What m_dwRestartManagerSupportFlags says.
+    virtual BOOL SupportsRestartManager() const;
+    virtual BOOL SupportsApplicationRecovery() const;
+    virtual BOOL SupportsAutosaveAtRestart() const;
+    virtual BOOL SupportsAutosaveAtInterval() const;
+    virtual BOOL ReopenPreviousFilesAtRestart() const;
+    virtual BOOL RestoreAutosavedFilesAtRestart() const;
 
     /// To be overridden: one-time preparations before InitInstance.
     virtual BOOL InitApplication();

@@ -40,6 +40,8 @@
 
 #include <type_traits>
 
+#include <classes/MultibyteNames.h>
+
 // Function-like macros of the Windows headers over names of members.
 #undef GetNextWindow
 #undef GetCurrentTime

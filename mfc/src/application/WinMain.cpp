@@ -1,5 +1,6 @@
 // The start of every program that has a CWinApp object and no WinMain of its own.
 #include <classes/Application.h>
+#include <classes/CMFCVisualManager.h>
 #include <classes/CWnd.h>
 
 #include "application/ModuleState.h"
@@ -24,6 +25,7 @@ int RunProgram(HINSTANCE instance, HINSTANCE previous, LPTSTR commandLine, int s
     if (app == NULL || !AfxWinInit(instance, previous, commandLine, show))
         return -1;
     const int exitCode = RunInstance(*app);
+    CMFCVisualManager::DestroyInstance(TRUE);
     afxint::DropTemporaryObjects();
     if (afxint::Module().oleStarted)
         OleUninitialize();

@@ -248,3 +248,29 @@ TEST_CASE("a derived application may name the standard command that ends it")
         CHECK(window.m_hWnd == NULL);
     }
 }
+
+TEST_CASE("an application supports of restarts what its flags say")
+{
+    struct CRestartedApp : CWinApp
+    {
+        explicit CRestartedApp(DWORD flags) { m_dwRestartManagerSupportFlags = flags; }
+        std::vector<BOOL> Answers() const
+        {
+            return {SupportsRestartManager(),       SupportsApplicationRecovery(),
+                    SupportsAutosaveAtRestart(),    SupportsAutosaveAtInterval(),
+                    ReopenPreviousFilesAtRestart(), RestoreAutosavedFilesAtRestart()};
+        }
+    };
+    using Answers = std::vector<BOOL>;
+    CHECK(CRestartedApp(0).Answers() == Answers{0, 0, 0, 0, 0, 0});
+    CHECK(CRestartedApp(AFX_RESTART_MANAGER_SUPPORT_RESTART).Answers() ==
+          Answers{1, 0, 0, 0, 0, 0});
+    CHECK(CRestartedApp(AFX_RESTART_MANAGER_SUPPORT_NO_AUTOSAVE).Answers() ==
+          Answers{1, 1, 0, 0, 1, 0});
+    CHECK(CRestartedApp(AFX_RESTART_MANAGER_SUPPORT_RESTART_ASPECTS).Answers() ==
+          Answers{1, 0, 1, 0, 1, 1});
+    CHECK(CRestartedApp(AFX_RESTART_MANAGER_SUPPORT_RECOVERY_ASPECTS).Answers() ==
+          Answers{0, 1, 0, 1, 0, 1});
+    CHECK(CRestartedApp(AFX_RESTART_MANAGER_SUPPORT_ALL_ASPECTS).Answers() ==
+          Answers{1, 1, 1, 1, 1, 1});
+}
