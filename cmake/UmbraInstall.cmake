@@ -38,8 +38,13 @@ configure_package_config_file(cmake/umbraConfig.cmake.in umbraConfig.cmake
 write_basic_package_version_file(umbraConfigVersion.cmake COMPATIBILITY SameMinorVersion)
 install(FILES ${PROJECT_BINARY_DIR}/umbraConfig.cmake
   ${PROJECT_BINARY_DIR}/umbraConfigVersion.cmake DESTINATION lib/cmake/umbra)
-install(FILES cmake/UmbraDeploy.cmake cmake/UmbraShrink.cmake DESTINATION lib/cmake/umbra)
 install(FILES ${UMBRA_TERMINATE_HANDLER} DESTINATION share/umbra)
+install(FILES cmake/UmbraDeploy.cmake cmake/UmbraShrink.cmake cmake/UmbraHeaders.cmake
+  cmake/UmbraResources.cmake
+  DESTINATION lib/cmake/umbra)
+# For programs that come as projects of Visual Studio.
+install(PROGRAMS tools/umbra-import tools/umbra-rc DESTINATION bin)
+install(DIRECTORY tools/umbra_tools DESTINATION share/umbra/tools FILES_MATCHING PATTERN "*.py")
 # For hosts that are cross-compiled, too.
 install(FILES cmake/mingw-w64-x86_64.cmake cmake/mingw-w64-x86_64-clang.cmake
   DESTINATION lib/cmake/umbra)

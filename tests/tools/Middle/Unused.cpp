@@ -1,0 +1,1 @@
+#error This file is not a part of the release.

@@ -1,0 +1,5 @@
+// Version.h : what the version resource says
+
+#pragma once
+
+int CompanyNameLength();

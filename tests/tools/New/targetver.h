@@ -1,0 +1,5 @@
+#pragma once
+
+// Including SDKDDKVer.h defines the highest available Windows platform.
+
+#include <SDKDDKVer.h>

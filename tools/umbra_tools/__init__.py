@@ -1,0 +1,1 @@
+"""What umbra-rc and umbra-import are made of."""
