@@ -11,6 +11,6 @@ function(umbra_separate_symbols target)
     COMMAND ${CMAKE_OBJCOPY} --add-gnu-debuglink=${library}.debug ${library}
     VERBATIM)
   if(UMBRA_INSTALL)
-    install(FILES ${library}.debug DESTINATION bin COMPONENT debug-symbols)
+    install(FILES ${library}.debug DESTINATION ${UMBRA_BIN} COMPONENT debug-symbols)
   endif()
 endfunction()

@@ -1,4 +1,5 @@
-# The install tree that hosts rely on: bin/, lib/, include/umbra/, lib/cmake/umbra/.
+# The install tree that hosts rely on: bin/, lib/, include/umbra/, lib/cmake/umbra/; for 32-bit hosts
+# beside it bin32/, lib32/, lib/cmake/umbra-x86/ and the same include/umbra/.
 include(CMakePackageConfigHelpers)
 
 set(UMBRA_EXPORTED umbra)
@@ -11,9 +12,9 @@ endif()
 
 install(CODE "set(CMAKE_INSTALL_DO_STRIP TRUE)") # Of what follows; see SeparateSymbols.cmake.
 install(TARGETS ${UMBRA_EXPORTED} EXPORT umbraTargets
-  RUNTIME DESTINATION bin
-  ARCHIVE DESTINATION lib
-  LIBRARY DESTINATION lib
+  RUNTIME DESTINATION ${UMBRA_BIN}
+  ARCHIVE DESTINATION ${UMBRA_LIB}
+  LIBRARY DESTINATION ${UMBRA_LIB}
   FILE_SET HEADERS DESTINATION include/umbra
   FILE_SET forwarding DESTINATION include/umbra)
 
@@ -32,28 +33,35 @@ if(TARGET umbra_testing)
   install(DIRECTORY testing DESTINATION include/umbra FILES_MATCHING PATTERN "*.h")
 endif()
 
-install(EXPORT umbraTargets NAMESPACE umbra:: DESTINATION lib/cmake/umbra)
+install(EXPORT umbraTargets NAMESPACE umbra:: DESTINATION ${UMBRA_PACKAGE})
 configure_package_config_file(cmake/umbraConfig.cmake.in umbraConfig.cmake
-  INSTALL_DESTINATION lib/cmake/umbra)
+  INSTALL_DESTINATION ${UMBRA_PACKAGE})
 write_basic_package_version_file(umbraConfigVersion.cmake COMPATIBILITY SameMinorVersion)
 install(FILES ${PROJECT_BINARY_DIR}/umbraConfig.cmake
-  ${PROJECT_BINARY_DIR}/umbraConfigVersion.cmake DESTINATION lib/cmake/umbra)
+  ${PROJECT_BINARY_DIR}/umbraConfigVersion.cmake DESTINATION ${UMBRA_PACKAGE})
 install(FILES ${UMBRA_TERMINATE_HANDLER} DESTINATION share/umbra)
 install(FILES cmake/UmbraDeploy.cmake cmake/UmbraShrink.cmake cmake/UmbraHeaders.cmake
   cmake/UmbraResources.cmake
-  DESTINATION lib/cmake/umbra)
+  DESTINATION ${UMBRA_PACKAGE})
 # For programs that come as projects of Visual Studio.
 install(PROGRAMS tools/umbra-import tools/umbra-rc DESTINATION bin)
 install(DIRECTORY tools/umbra_tools DESTINATION share/umbra/tools FILES_MATCHING PATTERN "*.py")
 # For hosts that are cross-compiled, too.
-install(FILES cmake/mingw-w64-x86_64.cmake cmake/mingw-w64-x86_64-clang.cmake
-  DESTINATION lib/cmake/umbra)
+if(CMAKE_SIZEOF_VOID_P EQUAL 4)
+  install(FILES cmake/mingw-w64-i686.cmake DESTINATION ${UMBRA_PACKAGE})
+else()
+  install(FILES cmake/mingw-w64-x86_64.cmake cmake/mingw-w64-x86_64-clang.cmake
+    DESTINATION ${UMBRA_PACKAGE})
+endif()
 
 # For builds without CMake.
 if(NOT UMBRA_NATIVE_MFC)
+  list(JOIN UMBRA_SHARED_UNWINDING " " UMBRA_PLAIN_LINK_OPTIONS)
+  string(PREPEND UMBRA_PLAIN_LINK_OPTIONS "-Wl,-u,${UMBRA_WINMAIN} ")
+  string(STRIP "${UMBRA_PLAIN_LINK_OPTIONS}" UMBRA_PLAIN_LINK_OPTIONS)
   foreach(package umbra umbra-mfc)
     configure_file(cmake/${package}.pc.in ${package}.pc @ONLY)
-    install(FILES ${PROJECT_BINARY_DIR}/${package}.pc DESTINATION lib/pkgconfig)
+    install(FILES ${PROJECT_BINARY_DIR}/${package}.pc DESTINATION ${UMBRA_LIB}/pkgconfig)
   endforeach()
 endif()
 
@@ -62,6 +70,9 @@ set(CPACK_GENERATOR ZIP)
 set(CPACK_PACKAGE_VENDOR Umbra)
 set(CPACK_RESOURCE_FILE_LICENSE ${PROJECT_SOURCE_DIR}/LICENSE)
 set(CPACK_SYSTEM_NAME win64)
+if(CMAKE_SIZEOF_VOID_P EQUAL 4)
+  set(CPACK_SYSTEM_NAME win32)
+endif()
 set(CPACK_ARCHIVE_COMPONENT_INSTALL ON)
 set(CPACK_COMPONENTS_GROUPING ALL_COMPONENTS_IN_ONE)
 set(CPACK_COMPONENTS_ALL Unspecified)

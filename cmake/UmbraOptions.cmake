@@ -1,3 +1,14 @@
+# Both architectures can be installed in one folder: there each has its own place for what it is built of.
+# A package's folder begins with its name, and CMake passes over one of the other architecture.
+set(UMBRA_BIN bin)
+set(UMBRA_LIB lib)
+set(UMBRA_PACKAGE lib/cmake/umbra)
+if(CMAKE_SIZEOF_VOID_P EQUAL 4)
+  set(UMBRA_BIN bin32)
+  set(UMBRA_LIB lib32)
+  set(UMBRA_PACKAGE lib/cmake/umbra-x86)
+endif()
+
 # Compiler settings of the project's own code; not passed on to hosts.
 option(UMBRA_WARNINGS_ARE_ERRORS "End the build at the first warning" ${PROJECT_IS_TOP_LEVEL})
 add_library(umbra_options INTERFACE)
@@ -10,6 +21,12 @@ else()
   if(CMAKE_CXX_COMPILER_ID MATCHES Clang)
     # Programs call members of NULL objects, and the class library answers.
     target_compile_options(umbra_options INTERFACE -Wno-tautological-undefined-compare)
+  endif()
+  if(CMAKE_SIZEOF_VOID_P EQUAL 4)
+    # The floating-point results of 64-bit code, and its vectors; the system and hosts call with a
+    # stack that is aligned to 4 bytes only.
+    target_compile_options(umbra_options INTERFACE
+      $<$<COMPILE_LANGUAGE:C,CXX>:-msse2 -mfpmath=sse -mstackrealign>)
   endif()
   # Also for sources that include the Windows headers first.
   target_compile_definitions(umbra_options INTERFACE

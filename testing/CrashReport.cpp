@@ -3,6 +3,7 @@
 #include <csignal>
 #include <cstdio>
 #include <exception>
+#include <initializer_list>
 
 namespace umbra::testing {
 
@@ -32,14 +33,15 @@ const char* ExceptionName(DWORD code)
     }
 }
 
-void PrintPlace(DWORD64 address)
+void PrintPlace(ULONG_PTR address)
 {
+    constexpr int digits = 2 * sizeof address;
     HMODULE module = nullptr;
     ::GetModuleHandleExA(GET_MODULE_HANDLE_EX_FLAG_FROM_ADDRESS |
                              GET_MODULE_HANDLE_EX_FLAG_UNCHANGED_REFCOUNT,
                          reinterpret_cast<const char*>(address), &module);
     if (module == nullptr) {
-        std::fprintf(stderr, "  %016llx\n", address);
+        std::fprintf(stderr, "  %0*llx\n", digits, static_cast<unsigned long long>(address));
         return;
     }
     char path[MAX_PATH] = "";
@@ -49,14 +51,18 @@ void PrintPlace(DWORD64 address)
         if (*c == '\\')
             name = c + 1;
     }
-    std::fprintf(stderr, "  %016llx %s+0x%llx\n", address, name,
-                 address - reinterpret_cast<DWORD64>(module));
+    const ULONG_PTR offset = address - reinterpret_cast<ULONG_PTR>(module);
+    std::fprintf(stderr, "  %0*llx %s+0x%llx\n", digits, static_cast<unsigned long long>(address),
+                 name, static_cast<unsigned long long>(offset));
 }
+
+constexpr int mostCalls = 40;
+
+#ifdef _WIN64
 
 /// The innermost call first. Works by the unwind tables that every 64-bit module carries.
 void PrintStack(CONTEXT context)
 {
-    constexpr int mostCalls = 40;
     for (int i = 0; i < mostCalls && context.Rip != 0; ++i) {
         PrintPlace(context.Rip);
         DWORD64 base = 0;
@@ -74,6 +80,53 @@ void PrintStack(CONTEXT context)
                            &frame, nullptr);
     }
 }
+
+#else
+
+/// Whether the address lies in code and behind a call, so that it may be a way back.
+bool MayBeWayBack(DWORD address)
+{
+    MEMORY_BASIC_INFORMATION memory{};
+    constexpr DWORD code =
+        PAGE_EXECUTE | PAGE_EXECUTE_READ | PAGE_EXECUTE_READWRITE | PAGE_EXECUTE_WRITECOPY;
+    if (::VirtualQuery(reinterpret_cast<const void*>(address), &memory, sizeof memory) == 0 ||
+        memory.Type != MEM_IMAGE || (memory.Protect & code) == 0)
+        return false;
+    constexpr DWORD longestCall = 7;
+    if (address - reinterpret_cast<DWORD>(memory.BaseAddress) < longestCall)
+        return false;
+    const BYTE* end = reinterpret_cast<const BYTE*>(address);
+    if (end[-5] == 0xE8) // Relative.
+        return true;
+    for (const int length : {2, 3, 4, 6, 7}) { // Through a register, or through memory.
+        if (end[-length] == 0xFF && (end[1 - length] & 0x38) == 0x10)
+            return true;
+    }
+    return false;
+}
+
+/// The innermost call first. 32-bit code leaves no way to find its callers, so this is whatever on
+/// the stack looks like a way back; some are of calls that have ended.
+void PrintStack(const CONTEXT& context)
+{
+    PrintPlace(context.Eip);
+    const auto* stack = reinterpret_cast<const DWORD*>(context.Esp & ~3u);
+    MEMORY_BASIC_INFORMATION memory{};
+    if (::VirtualQuery(stack, &memory, sizeof memory) == 0 || memory.State != MEM_COMMIT ||
+        (memory.Protect & PAGE_GUARD) != 0)
+        return;
+    const auto* end = reinterpret_cast<const DWORD*>(static_cast<const BYTE*>(memory.BaseAddress) +
+                                                     memory.RegionSize);
+    int calls = 0;
+    for (; stack < end && calls < mostCalls; ++stack) {
+        if (!MayBeWayBack(*stack))
+            continue;
+        PrintPlace(*stack);
+        ++calls;
+    }
+}
+
+#endif
 
 void PrintHeading(const char* what)
 {

@@ -8,7 +8,8 @@ namespace umbra::testing {
 
 namespace {
 
-// The table of GDI handles that 64-bit Windows, and Wine after it, maps into each process.
+// The table of GDI handles that 64-bit Windows, and Wine after it, maps into each process; Wine's
+// is the same for 32-bit ones.
 struct GdiTableEntry
 {
     ULONGLONG object;
@@ -20,7 +21,7 @@ struct GdiTableEntry
 };
 static_assert(sizeof(GdiTableEntry) == 24);
 constexpr int gdiTableLength = 65536;
-constexpr size_t gdiTableOffsetInPeb = 0xF8;
+constexpr size_t gdiTableOffsetInPeb = sizeof(void*) == 8 ? 0xF8 : 0x94;
 
 const GdiTableEntry* FindGdiTable()
 {

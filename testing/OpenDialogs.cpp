@@ -58,15 +58,21 @@ bool IsOpenDialog(HWND window)
     return ::IsWindowVisible(window) && ::IsWindowEnabled(window) && IsDialog(window);
 }
 
+namespace {
+
+BOOL CALLBACK CollectDialog(HWND window, LPARAM dialogs)
+{
+    if (IsDialog(window))
+        reinterpret_cast<std::vector<HWND>*>(dialogs)->push_back(window);
+    return TRUE;
+}
+
+} // namespace
+
 std::vector<HWND> FindDialogs()
 {
     std::vector<HWND> dialogs;
-    const auto collect = [](HWND window, LPARAM found) -> BOOL {
-        if (IsDialog(window))
-            reinterpret_cast<std::vector<HWND>*>(found)->push_back(window);
-        return TRUE;
-    };
-    ::EnumThreadWindows(::GetCurrentThreadId(), collect, reinterpret_cast<LPARAM>(&dialogs));
+    ::EnumThreadWindows(::GetCurrentThreadId(), CollectDialog, reinterpret_cast<LPARAM>(&dialogs));
     return dialogs;
 }
 

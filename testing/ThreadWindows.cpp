@@ -8,15 +8,17 @@ namespace umbra::testing {
 
 namespace {
 
+BOOL CALLBACK CollectShown(HWND window, LPARAM windows)
+{
+    if (::IsWindowVisible(window))
+        reinterpret_cast<std::vector<HWND>*>(windows)->push_back(window);
+    return TRUE;
+}
+
 std::vector<HWND> FindWindows()
 {
     std::vector<HWND> windows;
-    const auto collect = [](HWND window, LPARAM found) -> BOOL {
-        if (::IsWindowVisible(window))
-            reinterpret_cast<std::vector<HWND>*>(found)->push_back(window);
-        return TRUE;
-    };
-    ::EnumThreadWindows(::GetCurrentThreadId(), collect, reinterpret_cast<LPARAM>(&windows));
+    ::EnumThreadWindows(::GetCurrentThreadId(), CollectShown, reinterpret_cast<LPARAM>(&windows));
     return windows;
 }
 

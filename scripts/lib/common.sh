@@ -28,10 +28,12 @@ quietly() {
     return 1
 }
 
-# The 64-bit Wine loader; the wrapper named wine complains where 32-bit Wine is missing.
+# The Wine loader of an architecture (win64 unless given, or win32); the wrapper named wine complains
+# where 32-bit Wine is missing, and takes it where it is not.
 find_wine() {
-    local candidate
-    for candidate in wine64 /usr/lib/wine/wine64 wine; do
+    local candidate candidates=(wine64 /usr/lib/wine/wine64 wine)
+    [ "${1:-win64}" = win64 ] || candidates=(/usr/lib/wine/wine wine)
+    for candidate in "${candidates[@]}"; do
         if command -v "$candidate" >/dev/null 2>&1; then
             command -v "$candidate"
             return 0
@@ -42,11 +44,11 @@ find_wine() {
 
 # What every program under Wine gets: English messages and code page 1252 whatever the user's
 # language is, UTF-8 file names, no chatter, none of the helpers that only cost time, and personal
-# folders that are not the user's.
+# folders that are not the user's. The prefix is a 64-bit one unless win32 is given.
 export_wine_environment() {
     export WINEPREFIX=$1
     export HOME=$1/home
-    export WINEARCH=win64
+    export WINEARCH=${2:-win64}
     export WINEDEBUG=${WINEDEBUG:--all}
     export WINEDLLOVERRIDES='winemenubuilder.exe=d;mscoree=d;mshtml=d;winhlp32.exe=n'
     export LC_ALL=C.UTF-8

@@ -841,7 +841,7 @@ TEST_CASE("the button's own procedure gets every mouse and key message that the 
     former = reinterpret_cast<WNDPROC>(::SetWindowLongPtr(
         window, GWLP_WNDPROC,
         reinterpret_cast<LONG_PTR>(static_cast<WNDPROC>(
-            [](HWND button, UINT message, WPARAM wParam, LPARAM lParam) -> LRESULT {
+            [](HWND button, UINT message, WPARAM wParam, LPARAM lParam) CALLBACK -> LRESULT {
                 got.push_back(message);
                 return ::CallWindowProc(former, button, message, wParam, lParam);
             }))));

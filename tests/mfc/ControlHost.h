@@ -65,3 +65,6 @@ inline void ClickWaitingControl(HWND control, CPoint client)
 
 /// The style of a child that shows.
 constexpr DWORD shownChild = WS_CHILD | WS_VISIBLE;
+
+/// Item data as wide as a pointer.
+constexpr auto wideItemData = static_cast<DWORD_PTR>(0x123456789abcull);

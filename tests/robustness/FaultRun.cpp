@@ -110,7 +110,7 @@ int WINAPI AnswerBox(HWND, LPCSTR text, LPCSTR, UINT)
 std::set<HWND> ListWindows()
 {
     std::set<HWND> windows;
-    const auto collect = [](HWND window, LPARAM found) -> BOOL {
+    const auto collect = [](HWND window, LPARAM found) CALLBACK -> BOOL {
         reinterpret_cast<std::set<HWND>*>(found)->insert(window);
         return TRUE;
     };

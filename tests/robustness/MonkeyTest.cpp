@@ -37,7 +37,7 @@ int CountThreadWindows()
     int count = 0;
     ::EnumThreadWindows(
         ::GetCurrentThreadId(),
-        [](HWND, LPARAM counter) -> BOOL {
+        [](HWND, LPARAM counter) CALLBACK -> BOOL {
             ++*reinterpret_cast<int*>(counter);
             return TRUE;
         },

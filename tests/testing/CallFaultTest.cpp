@@ -72,6 +72,19 @@ TEST_CASE("a failing call may return any value")
     CHECK(fault.Failed() == 2);
 }
 
+TEST_CASE("a failing call leaves the stack as the function itself does")
+{
+    const FailAlways fault(ThisModule(), "user32.dll", "CreateWindowExA");
+    REQUIRE(fault.IsInstalled());
+    constexpr int calls = 100000; // Their arguments take more than the whole stack.
+    bool made = false;
+    for (int i = 0; i < calls; ++i)
+        made |= ::CreateWindowExA(0, "Static", "", WS_POPUP, 1, 2, 3, 4, nullptr, nullptr, nullptr,
+                                  nullptr) != nullptr;
+    CHECK_FALSE(made);
+    CHECK(fault.Failed() == calls);
+}
+
 TEST_CASE("calls go through again when the fault has ended")
 {
     {

@@ -90,8 +90,8 @@ TEST_CASE("the items of a combo box carry data")
 {
     Combo combo;
     int target = 0;
-    CHECK(combo.box.SetItemData(0, 0x123456789abcull) != CB_ERR);
-    CHECK(combo.box.GetItemData(0) == 0x123456789abcull);
+    CHECK(combo.box.SetItemData(0, wideItemData) != CB_ERR);
+    CHECK(combo.box.GetItemData(0) == wideItemData);
     CHECK(combo.box.SetItemDataPtr(1, &target) != CB_ERR);
     CHECK(combo.box.GetItemDataPtr(1) == &target);
 }

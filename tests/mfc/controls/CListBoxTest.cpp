@@ -133,8 +133,8 @@ TEST_CASE("each item carries data")
 {
     List list;
     int target = 0;
-    CHECK(list.list.SetItemData(1, 0x123456789abcull) != LB_ERR);
-    CHECK(list.list.GetItemData(1) == 0x123456789abcull);
+    CHECK(list.list.SetItemData(1, wideItemData) != LB_ERR);
+    CHECK(list.list.GetItemData(1) == wideItemData);
     CHECK(list.list.SetItemDataPtr(2, &target) != LB_ERR);
     CHECK(list.list.GetItemDataPtr(2) == &target);
 }

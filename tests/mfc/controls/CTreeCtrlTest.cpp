@@ -54,8 +54,8 @@ TEST_CASE("the items of a tree have texts, data, states and images")
     CHECK(tree.tree.GetItemText(tree.apple) == "Apple");
     CHECK(tree.tree.SetItemText(tree.apple, "Quince"));
     CHECK(tree.tree.GetItemText(tree.apple) == "Quince");
-    CHECK(tree.tree.SetItemData(tree.apple, 0x123456789abcull));
-    CHECK(tree.tree.GetItemData(tree.apple) == 0x123456789abcull);
+    CHECK(tree.tree.SetItemData(tree.apple, wideItemData));
+    CHECK(tree.tree.GetItemData(tree.apple) == wideItemData);
     CHECK(tree.tree.SetItemState(tree.apple, TVIS_BOLD, TVIS_BOLD));
     CHECK(tree.tree.GetItemState(tree.apple, TVIS_BOLD) == TVIS_BOLD);
     CHECK(tree.tree.SetItemImage(tree.apple, 2, 3));

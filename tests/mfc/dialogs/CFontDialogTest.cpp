@@ -14,7 +14,8 @@ namespace {
 /// The name of a font of this system that exists in every size and is not a rotated one.
 CString FindScalableFace()
 {
-    const auto take = [](const LOGFONT* font, const TEXTMETRIC*, DWORD kind, LPARAM name) -> int {
+    const auto take = [](const LOGFONT* font, const TEXTMETRIC*, DWORD kind, LPARAM name)
+                          CALLBACK -> int {
         if (!(kind & TRUETYPE_FONTTYPE) || font->lfFaceName[0] == '@')
             return TRUE;
         *(CString*)name = font->lfFaceName;

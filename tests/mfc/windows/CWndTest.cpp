@@ -360,7 +360,7 @@ TEST_CASE("threads that come and go take their temporary objects with them")
     for (int round = 0; round < 20; ++round) {
         const HANDLE thread = ::CreateThread(
             NULL, 0,
-            [](LPVOID) -> DWORD {
+            [](LPVOID) WINAPI -> DWORD {
                 const HWND stranger = MakeStranger();
                 CPlain window;
                 window.Make();
@@ -422,7 +422,8 @@ TEST_CASE("a window that somebody else has subclassed on top keeps working witho
     CCountingEdit edit;
     REQUIRE(edit.SubclassWindow(stranger));
     edit.SetLimitText(10);
-    const WNDPROC front = [](HWND window, UINT message, WPARAM wParam, LPARAM lParam) {
+    const WNDPROC front = [](HWND window, UINT message, WPARAM wParam, LPARAM lParam)
+                              CALLBACK -> LRESULT {
         return ::CallWindowProc(inFrontOf, window, message, wParam, lParam);
     };
     inFrontOf = reinterpret_cast<WNDPROC>(
