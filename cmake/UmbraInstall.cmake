@@ -30,7 +30,8 @@ if(NOT UMBRA_NATIVE_MFC)
   install(DIRECTORY mfc/include/ DESTINATION include/umbra/mfc)
 endif()
 if(TARGET umbra_testing)
-  install(DIRECTORY testing DESTINATION include/umbra FILES_MATCHING PATTERN "*.h")
+  install(DIRECTORY testing DESTINATION include/umbra FILES_MATCHING PATTERN "*.h"
+    PATTERN StackArguments.h EXCLUDE)
 endif()
 
 install(EXPORT umbraTargets NAMESPACE umbra:: DESTINATION ${UMBRA_PACKAGE})

@@ -7,6 +7,8 @@
 
 #include "testing/CallFault.h"
 
+#include <array>
+#include <cstdint>
 #include <cstdlib>
 #include <cstring>
 
@@ -321,3 +323,67 @@ TEST_CASE("the system's colours are those of its buttons")
     CHECK(colors.face == ::GetSysColor(COLOR_BTNFACE));
     CHECK(colors.highlight == ::GetSysColor(COLOR_BTNHIGHLIGHT));
 }
+
+#ifndef _WIN64
+
+namespace {
+
+/// The arguments of FillShadeFaces.
+using FillArguments = std::array<std::uintptr_t, 8>;
+
+template <class Argument>
+std::uintptr_t AddressOf(const Argument& argument)
+{
+    return reinterpret_cast<std::uintptr_t>(&argument);
+}
+
+/// Calls it as 32-bit Windows calls windows: with a stack that is aligned to 4 bytes only.
+void FillWithStackAt(unsigned offset, const FillArguments& arguments)
+{
+    auto* function = &FillShadeFaces;
+    asm volatile("movl %%esp, %%edi\n\t"
+                 "andl $-16, %%esp\n\t"
+                 "subl %[offset], %%esp\n\t"
+                 "pushl 28(%[list])\n\t"
+                 "pushl 24(%[list])\n\t"
+                 "pushl 20(%[list])\n\t"
+                 "pushl 16(%[list])\n\t"
+                 "pushl 12(%[list])\n\t"
+                 "pushl 8(%[list])\n\t"
+                 "pushl 4(%[list])\n\t"
+                 "pushl (%[list])\n\t"
+                 "call *%[function]\n\t"
+                 "movl %%edi, %%esp"
+                 : [function] "+a"(function)
+                 : [offset] "b"(offset), [list] "S"(arguments.data())
+                 : "edi", "ecx", "edx", "memory", "cc");
+}
+
+} // namespace
+
+TEST_CASE("a stack that the caller has not aligned does no harm")
+{
+    for (const ShadeEngine engine : {ShadeEngine::Sse2, ShadeEngine::Avx2}) {
+        if (!HasShadeEngine(engine))
+            continue;
+        for (unsigned style = 0; style <= 9; ++style) {
+            CAPTURE(style);
+            const ShadeLook look = {style, 40, 10, 50, tint};
+            Faces expected;
+            ShadeRandom random(4711);
+            expected.Fill(83, 29, look, random);
+            for (const unsigned offset : {4u, 8u, 12u}) {
+                CAPTURE(offset);
+                Faces faces;
+                const ShadeFaces bitmaps = faces.Get();
+                ShadeRandom again(4711);
+                FillWithStackAt(offset, {AddressOf(bitmaps), 83, 29, 4, AddressOf(look),
+                                         AddressOf(plainColors), AddressOf(again),
+                                         static_cast<std::uintptr_t>(engine)});
+                CHECK(HaveSamePixels(faces.normal, expected.normal));
+            }
+        }
+    }
+}
+
+#endif

@@ -51,19 +51,17 @@ bool IsOwnedBy(HWND window, HWND owner)
     return window == owner;
 }
 
-BOOL CALLBACK CollectWindow(HWND window, LPARAM windows)
-{
-    return afxint::CalledBySystem(MSG{}, FALSE, [&] {
-        reinterpret_cast<std::vector<HWND>*>(windows)->push_back(window);
-        return TRUE;
-    });
-}
-
 /// The top-level windows of the thread that the owner owns, directly or through others.
 std::vector<HWND> FindOwned(HWND owner)
 {
     std::vector<HWND> windows;
-    EnumThreadWindows(GetCurrentThreadId(), CollectWindow, reinterpret_cast<LPARAM>(&windows));
+    const auto collect = [](HWND window, LPARAM found) CALLBACK -> BOOL {
+        return afxint::CalledBySystem(MSG{}, FALSE, [&] {
+            reinterpret_cast<std::vector<HWND>*>(found)->push_back(window);
+            return TRUE;
+        });
+    };
+    EnumThreadWindows(GetCurrentThreadId(), collect, reinterpret_cast<LPARAM>(&windows));
     std::erase_if(windows,
                   [owner](HWND window) { return window == owner || !IsOwnedBy(window, owner); });
     return windows;

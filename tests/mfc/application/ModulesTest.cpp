@@ -287,7 +287,7 @@ TEST_CASE("parts are taken out of a text")
 TEST_CASE("inside a DLL the functions answer the program's objects")
 {
     const Extension extension;
-    using Ask = void(WINAPI*)(CWinApp**, HINSTANCE*);
+    using Ask = void (*)(CWinApp**, HINSTANCE*);
     const auto ask = extension.Find<Ask>("AskForProgram");
     CWinApp* app = nullptr;
     HINSTANCE instance = nullptr;
@@ -313,8 +313,8 @@ TEST_CASE("classes of a DLL are known as long as it is loaded")
 TEST_CASE("an exception thrown in one module is caught in the other")
 {
     const Extension extension;
-    using Call = bool(WINAPI*)(void (*)());
-    using Throw = void(WINAPI*)();
+    using Call = bool (*)(void (*)());
+    using Throw = void (*)();
     const auto callAndCatch = extension.Find<Call>("CallAndCatch");
     const auto throwUser = extension.Find<Throw>("ThrowUser");
     CHECK(callAndCatch([] { AfxThrowUserException(); }));

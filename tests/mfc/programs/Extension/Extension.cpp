@@ -22,14 +22,14 @@ extern "C" int APIENTRY DllMain(HINSTANCE hInstance, DWORD dwReason, LPVOID)
     return 1;
 }
 
-extern "C" __declspec(dllexport) void WINAPI AskForProgram(CWinApp** app, HINSTANCE* instance)
+extern "C" __declspec(dllexport) void AskForProgram(CWinApp** app, HINSTANCE* instance)
 {
     AFX_MANAGE_STATE(AfxGetStaticModuleState());
     *app = AfxGetApp();
     *instance = AfxGetInstanceHandle();
 }
 
-extern "C" __declspec(dllexport) bool WINAPI CallAndCatch(void (*function)())
+extern "C" __declspec(dllexport) bool CallAndCatch(void (*function)())
 {
     try {
         function();
@@ -40,7 +40,7 @@ extern "C" __declspec(dllexport) bool WINAPI CallAndCatch(void (*function)())
     return false;
 }
 
-extern "C" __declspec(dllexport) void WINAPI ThrowUser()
+extern "C" __declspec(dllexport) void ThrowUser()
 {
     throw new CUserException;
 }
