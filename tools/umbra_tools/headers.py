@@ -6,7 +6,8 @@ from . import scripts, texts
 from .files import Mistake, find_file, is_absolute, read_file, with_slashes
 
 _INCLUDE = re.compile(r'^[ \t]*#[ \t]*include[ \t]*(?:"([^"\n]+)"|<([^>\n]+)>)', re.M)
-_LIBRARY = re.compile(r'^[ \t]*#[ \t]*pragma[ \t]+comment[ \t]*\([ \t]*lib[ \t]*,[ \t]*"([^"\n]+)"', re.M)
+_LIBRARY = re.compile(
+    r'^[ \t]*#[ \t]*pragma[ \t]+comment[ \t]*\([ \t]*lib[ \t]*,[ \t]*"([^"\n]+)"', re.M)
 # The only folders of the compiler's headers with large letters.
 _LARGE = {"gl": "GL", "khr": "KHR"}
 MAX_FILES = 20000
@@ -56,7 +57,7 @@ class Scan:
         return reached
 
     def _look(self, name, includer, quotes):
-        """The project's own file of that name, if it is one; notes when it has another name here."""
+        """The project's own file of that name, if any. Forwards to files with another name."""
         if is_absolute(name):
             return None
         beside = [(os.path.dirname(includer), True)] if quotes else []
@@ -67,8 +68,8 @@ class Scan:
         for folder, own in places:
             path = find_file(name, folder)
             if path is not None:
-                file = os.path.relpath(path, self._root) if own else "<%s>" % os.path.relpath(path, folder)
-                self._forward(name, file.replace(os.sep, "/"))
+                file = os.path.relpath(path, self._root if own else folder).replace(os.sep, "/")
+                self._forward(name, file if own else "<%s>" % file)
                 return path if own else None
         system = with_slashes(name).lower()
         first, slash, rest = system.partition("/")

@@ -10,7 +10,7 @@ _RESERVED = {"all", "clean", "edit_cache", "help", "install", "package", "rebuil
 _DEFAULT_LIBRARIES = {
     "advapi32", "comdlg32", "gdi32", "kernel32", "ole32", "oleaut32", "shell32", "user32", "uuid",
     "winspool",
-}  # fmt: skip
+}
 
 
 def argument(text):
@@ -35,20 +35,28 @@ def _call(command, words, per_line=False):
     return "%s%s%s)\n" % (command, "" if command.endswith("(") else " ", " ".join(words))
 
 
+def _private(command, target, words):
+    """A call about what a target uses itself."""
+    return _call("%s(%s PRIVATE" % (command, target), words)
+
+
 def write(project, forwards):
     """The text of the file."""
     target = target_name(project)
     head = "# Made by umbra-import from %s, configuration %s.\n" % (
         argument(project.path.replace("\\", "/").rpartition("/")[2]).strip('"'),
-        argument(project.configuration).strip('"'))  # fmt: skip
-    languages = "C CXX RC" if any(s.path.lower().endswith(".c") for s in project.sources) else "CXX RC"
+        argument(project.configuration).strip('"'))
+    has_c = any(source.path.lower().endswith(".c") for source in project.sources)
+    languages = "C CXX RC" if has_c else "CXX RC"
     library = (_library(project)[0] or ["umbra::mfc"])[0]
-    parts = [head + _beginning(target, languages, library), _target(project, target), _use(project, target)]
-    parts.append(_resources(project, target))
-    parts.append(_forwards(target, forwards))
-    parts.append(_precompiled(project, target))
+    parts = [
+        head + _beginning(target, languages, library), _target(project, target),
+        _use(project, target), _resources(project, target), _forwards(target, forwards),
+        _precompiled(project, target),
+    ]
     if project.mfc and project.kind in (model.PROGRAM, model.CONSOLE):
-        parts.append("# The libraries go beside it: it runs from where it is built.\numbra_deploy(%s)\n" % target)
+        comment = "# The libraries go beside it: it runs from where it is built.\n"
+        parts.append(comment + "umbra_deploy(%s)\n" % target)
     if project.notes:
         notes = "".join("#   %s\n" % note for note in project.notes)
         parts.append("# What umbra-import has not taken over:\n" + notes)
@@ -71,7 +79,7 @@ def _target(project, target):
     heads = {
         model.PROGRAM: "add_executable(%s WIN32", model.CONSOLE: "add_executable(%s",
         model.DLL: "add_library(%s SHARED", model.STATIC: "add_library(%s STATIC",
-    }  # fmt: skip
+    }
     sources = [argument(source.path) for source in project.sources]
     if not sources:
         raise Mistake("names no source that is there")
@@ -86,30 +94,39 @@ def _library(project):
         return [], "# No MFC.\n"
     if project.characters == model.UNICODE:
         return ["umbra::mfc-unicode"], "# The character set is Unicode.\n"
-    comment = "# The character set is %s: narrow strings.\n"
-    return ["umbra::mfc"], comment % ("multibyte" if project.characters == model.MULTIBYTE else "not set")
+    name = "multibyte" if project.characters == model.MULTIBYTE else "not set"
+    return ["umbra::mfc"], "# The character set is %s: narrow strings.\n" % name
 
 
 def _use(project, target):
-    libraries, comment = _library(project)
-    libraries += [l for l in project.libraries if l not in _DEFAULT_LIBRARIES]
-    text = comment + _call("target_link_libraries(%s PRIVATE" % target, [argument(l) for l in libraries])
-    definitions = [d for d in project.definitions if d.partition("=")[0] not in _OF_THE_BUILD]
+    libraries, text = _library(project)
+    libraries += [name for name in project.libraries if name not in _DEFAULT_LIBRARIES]
+    text += _private("target_link_libraries", target, [argument(name) for name in libraries])
+    text += _definitions(project, target)
+    folders = [argument(folder) for folder in project.folders if folder != "."]
+    folders = [folder.replace("@BUILD", "${CMAKE_CURRENT_BINARY_DIR}") for folder in folders]
+    # Sources below folders include headers from the project's own folder as well.
+    return text + _private("target_include_directories", target, ["."] + folders)
+
+
+def _definitions(project, target):
+    def wanted(word):
+        return word.partition("=")[0] not in _OF_THE_BUILD
+
+    definitions = [word for word in project.definitions if wanted(word)]
     if project.characters == model.MULTIBYTE and "_MBCS" not in definitions:
         definitions.append("_MBCS")
     if project.characters == model.UNICODE and not project.mfc:
         definitions += ["UNICODE", "_UNICODE"]
-    if any(d.partition("=")[0] in ("NDEBUG", "_DEBUG") for d in project.definitions):
+    text = ""
+    if any(word.partition("=")[0] in ("NDEBUG", "_DEBUG") for word in project.definitions):
         text += "# NDEBUG and _DEBUG come from the build type.\n"
-    text += _call("target_compile_definitions(%s PRIVATE" % target, [argument(d) for d in definitions])
-    others = [d for d in project.resource_definitions
-              if d.partition("=")[0] not in _OF_THE_BUILD and d not in definitions]  # fmt: skip
-    text += _call("target_compile_definitions(%s PRIVATE" % target,
-                  ["$<$<COMPILE_LANGUAGE:RC>:%s>" % d for d in others if re.fullmatch(r"[\w=.]+", d)])  # fmt: skip
-    folders = [argument(f).replace("@BUILD", "${CMAKE_CURRENT_BINARY_DIR}") for f in project.folders]
-    # Sources below folders include headers from the project's own folder as well.
-    text += _call("target_include_directories(%s PRIVATE" % target, ["."] + [f for f in folders if f != "."])
-    return text
+    words = [argument(word) for word in definitions]
+    text += _private("target_compile_definitions", target, words)
+    others = [word for word in project.resource_definitions
+              if wanted(word) and word not in definitions and re.fullmatch(r"[\w=.]+", word)]
+    words = ["$<$<COMPILE_LANGUAGE:RC>:%s>" % word for word in others]
+    return text + _private("target_compile_definitions", target, words)
 
 
 def _resources(project, target):
@@ -121,7 +138,7 @@ def _forwards(target, forwards):
         return ""
     lines = ["%s %s" % (argument(name), argument(file)) for name, file in sorted(forwards.items())]
     return ("# How #include lines name headers, and what they are called.\n" +
-            _call("umbra_forward_headers(%s" % target, lines, True))  # fmt: skip
+            _call("umbra_forward_headers(%s" % target, lines, True))
 
 
 def _precompiled(project, target):

@@ -51,7 +51,7 @@ class Project:
             "inputname": self.name, "projectdir": "./", "inputdir": "./",
             "msbuildprojectdirectory": ".", "msbuildthisfiledirectory": "./",
             "outdir": "@BUILD/", "intdir": "@BUILD/",
-        }  # fmt: skip
+        }
         missing = [v for v in re.findall(r"\$\((\w+)\)", text) if v.lower() not in known]
         if missing or "$(" in re.sub(r"\$\(\w+\)", "", text):
             self.note("%s: not taken over, its variables are not known here" % text)

@@ -7,7 +7,7 @@ import os
 import re
 
 from . import texts
-from .files import Mistake, find_file, is_absolute, printable, read_file, with_slashes
+from .files import MAX_SIZE, Mistake, find_file, is_absolute, printable, read_file, with_slashes
 
 MAX_DEPTH = 60
 MAX_INCLUDES = 2000
@@ -31,17 +31,17 @@ _HIGH_ESCAPES = re.compile(r'\\(?!\\)(?:[0-7]{1,3}|[xX][0-9a-fA-F]{1,2})')
 _MEMORY_FLAGS = {
     "DISCARDABLE", "FIXED", "IMPURE", "LOADONCALL", "MOVEABLE", "NONSHARED", "PRELOAD", "PURE",
     "SHARED",
-}  # fmt: skip
+}
 # Blocks with a grammar of their own; all others hold raw data.
 _GRAMMARS = {
     "ACCELERATORS", "DESIGNINFO", "DIALOG", "DIALOGEX", "MENU", "MENUEX", "STRINGTABLE", "TOOLBAR",
     "VERSIONINFO",
-}  # fmt: skip
+}
 # What stands outside of blocks and is no name or type of a resource.
 _HEADINGS = _GRAMMARS | {
     "CAPTION", "CHARACTERISTICS", "CLASS", "EXSTYLE", "FILEFLAGS", "FILEFLAGSMASK", "FILEOS",
     "FILESUBTYPE", "FILETYPE", "FILEVERSION", "LANGUAGE", "PRODUCTVERSION", "STYLE", "VERSION",
-}  # fmt: skip
+}
 
 
 def quoted(path):
@@ -70,8 +70,9 @@ def without_comments(text, is_script):
 class Conditions:
     """Which lines only the resource editor sees, or nobody."""
 
-    _DEAD = re.compile(r"(ifdef\s+APSTUDIO_INVOKED\b|if\s+defined\s*\(?\s*APSTUDIO_INVOKED\s*\)?\s*$|if\s+0\s*$)")
-    _LIVE = re.compile(r"(ifndef\s+APSTUDIO_INVOKED\b|if\s+!\s*defined\s*\(?\s*APSTUDIO_INVOKED\s*\)?\s*$|if\s+1\s*$)")
+    _DEFINED = r"defined\s*\(?\s*APSTUDIO_INVOKED\s*\)?\s*$"
+    _DEAD = re.compile(r"ifdef\s+APSTUDIO_INVOKED\b|if\s+0\s*$|if\s+" + _DEFINED)
+    _LIVE = re.compile(r"ifndef\s+APSTUDIO_INVOKED\b|if\s+1\s*$|if\s+!\s*" + _DEFINED)
 
     def __init__(self):
         self._stack = []  # True: dead; False: live, and its #else is dead; None: not known.
@@ -138,6 +139,7 @@ class Preparation:
         self.state = Statement()
         self._out = []
         self._includes = 0
+        self._size = 0
         self._stack = []
         self._once = {}
         self._main_folder = ""
@@ -161,7 +163,8 @@ class Preparation:
         if len(self._stack) >= MAX_DEPTH:
             raise Mistake("%s: includes are nested too deeply" % path)
         self._includes += 1
-        if self._includes > MAX_INCLUDES:
+        self._size += len(data)
+        if self._includes > MAX_INCLUDES or self._size > 2 * MAX_SIZE:
             raise Mistake("%s: includes too much" % self._stack[0])
         self._note(path)
         text = texts.read_text(data, path, page, sure)
@@ -361,7 +364,7 @@ class FileReader:
 
 
 def _pairs(characters, codes):
-    """Each character with the escape that it came from; only the ASCII ones, a byte each, are asked."""
+    """Each character with the escape that it came from; only those of the ASCII ones count."""
     if len(characters) == len(codes):
         return zip(characters, codes)
     return ((c, c if c.isprintable() else "\\%03o" % ord(c)) for c in characters)

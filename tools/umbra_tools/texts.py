@@ -7,7 +7,7 @@ from .files import Mistake
 WESTERN = 1252
 UTF8 = 65001
 
-# Where a script names no code page, its language does: of these primary languages by number and name.
+# Where a script names no code page, its language does: primary languages by number and name.
 _PAGES_OF_LANGUAGES = {
     0x01: 1256, "ARABIC": 1256, 0x04: 936, "CHINESE": 936, 0x05: 1250, "CZECH": 1250,
     0x08: 1253, "GREEK": 1253, 0x0D: 1255, "HEBREW": 1255, 0x0E: 1250, "HUNGARIAN": 1250,
@@ -16,7 +16,7 @@ _PAGES_OF_LANGUAGES = {
     0x1E: 874, "THAI": 874, 0x1F: 1254, "TURKISH": 1254, 0x22: 1251, "UKRAINIAN": 1251,
     0x24: 1250, "SLOVENIAN": 1250, 0x25: 1257, "ESTONIAN": 1257, 0x26: 1257, "LATVIAN": 1257,
     0x27: 1257, "LITHUANIAN": 1257, 0x2A: 1258, "VIETNAMESE": 1258,
-}  # fmt: skip
+}
 _TRADITIONAL = re.compile(rb"TRADITIONAL|HONGKONG|MACAU|,\s*(0x0*)?[135]\b", re.I)
 _PRAGMA = re.compile(rb"(?im)^[ \t]*#[ \t]*pragma[ \t]+code_page[ \t]*\([ \t]*(\w+)[ \t]*\)")
 _LANGUAGE = re.compile(rb"[ \t]*LANGUAGE\s+(?:LANG_(\w+)|(0x[0-9a-f]+|\d+))\s*,\s*\w+", re.I)
@@ -109,7 +109,7 @@ def _page_of_language(line):
 
 
 def read_text(data, name, page=None, sure=False):
-    """The text of a script or header. `page` is the code page until another one is named; unless that
+    """The text of a script or header. `page` is the code page until another one is named; unless it
     is sure, UTF-8 goes before it, and so does what the language of the script tells."""
     codec, mark = encoding_of(data)
     if codec is not None:

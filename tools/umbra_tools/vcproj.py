@@ -38,7 +38,7 @@ def _take_configuration(result, chosen):
         raise Mistake("makes neither a program nor a library")
     result.mfc = chosen.get("UseOfMFC", "0") != "0"
     result.characters = {"1": model.UNICODE, "2": model.MULTIBYTE}.get(
-        chosen.get("CharacterSet"), model.PLAIN)  # fmt: skip
+        chosen.get("CharacterSet"), model.PLAIN)
     for sheet in _words(chosen.get("InheritedPropertySheets")):
         if sheet.strip():
             result.note("%s: what property sheets say was not taken over" % sheet.strip())
@@ -50,7 +50,7 @@ def _take_configuration(result, chosen):
         result.precompiled = compiler.get("PrecompiledHeaderThrough") or "stdafx.h"
     resources = _tool(chosen, "VCResourceCompilerTool")
     result.add_definitions(
-        _words(resources.get("PreprocessorDefinitions")), result.resource_definitions)  # fmt: skip
+        _words(resources.get("PreprocessorDefinitions")), result.resource_definitions)
     linker = _tool(chosen, "VCLinkerTool")
     result.add_libraries(re.findall(r'"[^"]+"|\S+', linker.get("AdditionalDependencies") or ""))
     if result.kind == model.PROGRAM and linker.get("SubSystem") == "1":

@@ -70,13 +70,13 @@ class _Reader:
         result = self._result
         result.name = self._last("ProjectName") or self._last("RootNamespace") or result.name
         kinds = {"application": model.PROGRAM, "dynamiclibrary": model.DLL,
-                 "staticlibrary": model.STATIC}  # fmt: skip
+                 "staticlibrary": model.STATIC}
         result.kind = kinds.get(self._last("ConfigurationType", "Application").lower())
         if result.kind is None:
             raise Mistake("makes neither a program nor a library")
         result.mfc = self._last("UseOfMfc", "false").lower() not in ("", "false")
         result.characters = {"unicode": model.UNICODE, "multibyte": model.MULTIBYTE}.get(
-            self._last("CharacterSet").lower(), model.PLAIN)  # fmt: skip
+            self._last("CharacterSet").lower(), model.PLAIN)
 
     def _take_definitions(self):
         result = self._result
@@ -90,8 +90,8 @@ class _Reader:
 
         result.add_definitions(words("ClCompile", "PreprocessorDefinitions"), result.definitions)
         result.add_folders(words("ClCompile", "AdditionalIncludeDirectories"))
-        result.add_definitions(
-            words("ResourceCompile", "PreprocessorDefinitions"), result.resource_definitions)  # fmt: skip
+        resources = words("ResourceCompile", "PreprocessorDefinitions")
+        result.add_definitions(resources, result.resource_definitions)
         result.add_libraries(words("Link", "AdditionalDependencies"))
         use = [word.strip() for word in words("ClCompile", "PrecompiledHeader")][-1:]
         header = [word.strip() for word in words("ClCompile", "PrecompiledHeaderFile")][-1:]

@@ -3,7 +3,7 @@
 // for unsigned ones that they stand for.
 #pragma once
 
-#ifdef _MBCS
+#if defined(_MBCS) && !defined(_UNICODE)
 #include <mbstring.h>
 #include <tchar.h>
 
