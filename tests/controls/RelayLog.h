@@ -25,6 +25,8 @@ public:
     RelayLog& operator=(const RelayLog&) = delete;
 
     const std::vector<MSG>& Relayed() const { return m_relayed; }
+    /// The first parameter of the last TTM_RELAYEVENT.
+    WPARAM Parameter() const { return m_parameter; }
 
 private:
     UINT_PTR Id() const { return reinterpret_cast<UINT_PTR>(this); }
@@ -34,6 +36,7 @@ private:
     {
         if (message == TTM_RELAYEVENT) {
             auto* log = reinterpret_cast<RelayLog*>(self);
+            log->m_parameter = wParam;
             log->m_relayed.push_back(*reinterpret_cast<const MSG*>(lParam));
             if (log->m_onRelay)
                 log->m_onRelay();
@@ -45,5 +48,6 @@ private:
 
     HWND m_toolTip;
     std::function<void()> m_onRelay;
-    std::vector<MSG> m_relayed;
+    mutable std::vector<MSG> m_relayed; // Noted also while the log itself is constant.
+    mutable WPARAM m_parameter = 1;
 };

@@ -435,6 +435,18 @@ TEST_CASE("a hot button shows its hot face, which a pressed one shows too")
           "the same");
 }
 
+TEST_CASE("without edges the normal and the hot face fill the button from its first pixel on")
+{
+    Button button;
+    button.control.SetShade(SHADE_NOISE, 0, 100, 100, tint);
+    button.control.Set3dBorder(FALSE);
+    const COLORREF text = Sys(COLOR_BTNTEXT);
+    CHECK(button.Draw().Compare(Expected(tint).Caption(text).ToPicture()) == "the same");
+    button.control.m_hover = TRUE;
+    CHECK(button.Draw().Compare(Expected(Sys(COLOR_BTNHIGHLIGHT)).Caption(text).ToPicture()) ==
+          "the same");
+}
+
 TEST_CASE("a flat button shows no edge until the mouse is over it, and a sunken line when pressed")
 {
     Button button(BS_FLAT);
@@ -962,6 +974,20 @@ TEST_CASE("setting the check leaves a push button unchecked, and takes any numbe
     CHECK(check.control.SendMessage(BM_GETCHECK) == 1);
     check.control.SendMessage(WM_SHADE_UNCHECK);
     CHECK(check.control.SendMessage(BM_GETCHECK) == 0);
+}
+
+TEST_CASE("a check that is set and a face that is made anew are painted")
+{
+    Button check(BS_AUTOCHECKBOX);
+    CHECK(check.control.SetShade(SHADE_DIAGONAL, 0, 0, 100, tint) == TRUE);
+    check.host.Show();
+    const MessageLog log(check.control.m_hWnd);
+    check.control.SendMessage(BM_SETCHECK, 1);
+    PumpMessages();
+    CHECK(log.Count(WM_PAINT) == 1);
+    CHECK(check.control.UpdateShade() == TRUE);
+    PumpMessages();
+    CHECK(log.Count(WM_PAINT) == 2);
 }
 
 TEST_CASE("a radio button that is checked unchecks its group by posting, and no other group")

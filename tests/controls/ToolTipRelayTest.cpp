@@ -37,6 +37,7 @@ TEST_CASE("a relayed message carries the control, its numbers and no time")
     CHECK(relayed.time == 0);
     CHECK(relayed.pt.x == 7);
     CHECK(relayed.pt.y == 8);
+    CHECK(relays.Parameter() == 0);
 }
 
 TEST_CASE("coordinates left of and above the control are relayed as unsigned numbers")

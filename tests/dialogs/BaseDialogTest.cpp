@@ -91,6 +91,18 @@ public:
     using CBaseDialog::m_strImageDir;
 };
 
+CRect pictureAskedFor;
+
+/// Notes where the picture is to be made, and makes it.
+HWND WINAPI NotePicture(DWORD exStyle, LPCSTR className, LPCSTR text, DWORD style, int x, int y,
+                        int width, int height, HWND parent, HMENU menu, HINSTANCE module,
+                        LPVOID parameter)
+{
+    pictureAskedFor = CRect(CPoint(x, y), CSize(width, height));
+    return ::CreateWindowExA(exStyle, className, text, style, x, y, width, height, parent, menu,
+                             module, parameter);
+}
+
 /// What the rules ask of one button: not bound, or its caption ("" is the template's) and the name
 /// of its icon's file ("" is none).
 struct ExpectedButton
@@ -384,6 +396,40 @@ TEST_CASE("a shown picture is a visible child near its place, keyed black, with 
     CHECK(abs(place.top - 15) < 4);
     CHECK(abs(place.Width() - 80) < 4);
     CHECK(abs(place.Height() - 100) < 4);
+}
+
+TEST_CASE("the picture is asked for in its box, before it snaps to the grid")
+{
+    const HostSettings settings;
+    TestPage dialog{Flags()};
+    const DialogTemplate source = MakePageTemplate();
+    Page page(dialog, source);
+    pictureAskedFor.SetRectEmpty();
+    const ImportHook creation(FindModule("umbra-mfc.dll"), "user32", "CreateWindowExA",
+                              NotePicture);
+    REQUIRE(creation.IsInstalled());
+    dialog.ShowPicture(IDS_IMAGE_INFO);
+    CHECK(pictureAskedFor == CRect(540, 15, 620, 115));
+}
+
+TEST_CASE("data is exchanged before the image folder is taken over")
+{
+    const HostSettings settings;
+    class Exchanging : public TestPage
+    {
+    public:
+        using TestPage::TestPage;
+        void DoDataExchange(CDataExchange* pDX) override
+        {
+            m_folderThen = m_strImageDir;
+            TestPage::DoDataExchange(pDX);
+        }
+        CString m_folderThen = "not exchanged";
+    } dialog{Flags()};
+    const DialogTemplate source = MakePageTemplate();
+    const Page page(dialog, source);
+    CHECK(dialog.m_folderThen == "");
+    CHECK(dialog.m_strImageDir != "");
 }
 
 TEST_CASE("a picture is loaded with the image folder as the working directory")
