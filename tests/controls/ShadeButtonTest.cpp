@@ -1026,8 +1026,11 @@ TEST_CASE("checking a hidden or disabled radio button ends, and unchecks the oth
     row.buttons[0]->SendMessage(BM_SETCHECK, 1);
     PumpMessages();
     row.buttons[2]->EnableWindow(FALSE);
+    const MessageLog first(row.buttons[0]->m_hWnd), second(row.buttons[1]->m_hWnd);
     row.buttons[2]->SendMessage(BM_SETCHECK, 1);
     PumpMessages();
+    CHECK(first.Count(WM_SHADE_UNCHECK) == 1); // Once around, although the walk cannot come back.
+    CHECK(second.Count(WM_SHADE_UNCHECK) == 1);
     CHECK(row.Checked() == std::vector<int>{0, 0, 1});
     row.buttons[1]->ShowWindow(SW_HIDE);
     row.buttons[1]->SendMessage(BM_SETCHECK, 1);

@@ -96,7 +96,11 @@ TEST_CASE("a trail byte that looks like a percent sign or quote is no placeholde
     // bytes there, so the pair stands for itself and must not be taken apart.
     char command[] = "run.exe \x83\x25\x31 x";
     const BOOL cut = CutPlaceholder(command);
+    char following[] = "run.exe \x83\x5C%1"; // Right behind a character of two bytes.
+    const BOOL followingCut = CutPlaceholder(following);
     _setmbcp(former);
     CHECK_FALSE(cut);
+    CHECK(followingCut);
+    CHECK(std::string(following) == "run.exe \x83\x5C");
     CHECK(std::string(command) == "run.exe \x83\x25\x31 x");
 }

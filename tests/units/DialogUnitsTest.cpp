@@ -85,6 +85,14 @@ struct WorkedBase
     ImportHook systemBase{umbra, "user32", "GetDialogBaseUnits", AnswerWorkedBase};
 };
 
+LOGFONTA notedFont;
+
+HFONT WINAPI NoteFont(const LOGFONTA* font)
+{
+    notedFont = *font;
+    return ::CreateFontIndirectA(font);
+}
+
 } // namespace
 
 TEST_CASE("an exact half is rounded down, towards minus infinity")
@@ -238,6 +246,20 @@ TEST_CASE("the base units are those of the reference font where it is installed,
     ::ReleaseDC(nullptr, screen);
     CHECK(horizontal == static_cast<unsigned int>((alphabet + 26) / 52));
     CHECK(vertical == static_cast<unsigned int>(metrics.tmHeight + metrics.tmExternalLeading));
+}
+
+TEST_CASE("the reference font is asked for in its size and weight, in any character set")
+{
+    if (!HasReferenceFont())
+        return; // The other run of this file has the font.
+    const ImportHook creation(FindModule("umbra.dll"), "gdi32", "CreateFontIndirectA", NoteFont);
+    REQUIRE(creation.IsInstalled());
+    unsigned int horizontal, vertical;
+    GetFontBaseUnits(&horizontal, &vertical);
+    CHECK(notedFont.lfHeight < 0);
+    CHECK(notedFont.lfWeight == FW_NORMAL);
+    CHECK(notedFont.lfCharSet == DEFAULT_CHARSET);
+    CHECK(lstrcmpA(notedFont.lfFaceName, "MS Mincho") == 0);
 }
 
 TEST_CASE("the vertical base includes the external leading")
