@@ -53,7 +53,7 @@ int main(int count, char** arguments)
         return Fail("its page does not show");
     if (!HasText(page, IDOK, "Confirm") || !HasText(page, IDCANCEL, "Close"))
         return Fail("its buttons are not captioned");
-    if (!IsWindowVisible(page))
+    if (!Wait([&] { return IsWindowVisible(page) != FALSE; }))
         return Fail("its page is hidden");
 
     PostMessageA(page, WM_COMMAND, IDCANCEL, 0);
