@@ -8,12 +8,12 @@ namespace {
 
 struct ClassAtom
 {
-    const char* name;
+    LPCTSTR name;
     WORD atom;
 };
-constexpr ClassAtom classAtoms[] = {{"Button", 0x0080},    {"Edit", 0x0081},
-                                    {"Static", 0x0082},    {"ListBox", 0x0083},
-                                    {"ScrollBar", 0x0084}, {"ComboBox", 0x0085}};
+constexpr ClassAtom classAtoms[] = {{_T("Button"), 0x0080},    {_T("Edit"), 0x0081},
+                                    {_T("Static"), 0x0082},    {_T("ListBox"), 0x0083},
+                                    {_T("ScrollBar"), 0x0084}, {_T("ComboBox"), 0x0085}};
 
 void AppendRaw(std::vector<WORD>& memory, const void* data, size_t bytes)
 {
@@ -22,18 +22,16 @@ void AppendRaw(std::vector<WORD>& memory, const void* data, size_t bytes)
     std::memcpy(&memory[end], data, bytes);
 }
 
-void AppendText(std::vector<WORD>& memory, const std::string& text)
+void AppendText(std::vector<WORD>& memory, const TString& text)
 {
-    const int length = ::MultiByteToWideChar(CP_ACP, 0, text.c_str(), -1, nullptr, 0);
-    std::vector<wchar_t> wide(static_cast<size_t>(length));
-    ::MultiByteToWideChar(CP_ACP, 0, text.c_str(), -1, wide.data(), length);
-    memory.insert(memory.end(), wide.begin(), wide.end());
+    const std::wstring wide = Widened(text);
+    memory.insert(memory.end(), wide.c_str(), wide.c_str() + wide.size() + 1);
 }
 
-void AppendClass(std::vector<WORD>& memory, const std::string& className)
+void AppendClass(std::vector<WORD>& memory, const TString& className)
 {
     for (const ClassAtom& known : classAtoms) {
-        if (::lstrcmpiA(known.name, className.c_str()) != 0)
+        if (::lstrcmpi(known.name, className.c_str()) != 0)
             continue;
         memory.push_back(0xFFFF);
         memory.push_back(known.atom);
@@ -50,7 +48,7 @@ void AlignToDword(std::vector<WORD>& memory)
 
 } // namespace
 
-DialogTemplate::DialogTemplate(int x, int y, int width, int height, DWORD style, const char* title,
+DialogTemplate::DialogTemplate(int x, int y, int width, int height, DWORD style, LPCTSTR title,
                                DWORD extendedStyle)
     : m_title(title)
 {
@@ -62,7 +60,7 @@ DialogTemplate::DialogTemplate(int x, int y, int width, int height, DWORD style,
     m_head.cy = static_cast<short>(height);
 }
 
-DialogTemplate& DialogTemplate::Font(int points, const char* face)
+DialogTemplate& DialogTemplate::Font(int points, LPCTSTR face)
 {
     m_head.style |= DS_SETFONT;
     m_points = points;
@@ -70,7 +68,7 @@ DialogTemplate& DialogTemplate::Font(int points, const char* face)
     return *this;
 }
 
-DialogTemplate& DialogTemplate::Add(const char* className, int id, const char* text, int x, int y,
+DialogTemplate& DialogTemplate::Add(LPCTSTR className, int id, LPCTSTR text, int x, int y,
                                     int width, int height, DWORD style, DWORD extendedStyle)
 {
     Item item;
@@ -87,32 +85,32 @@ DialogTemplate& DialogTemplate::Add(const char* className, int id, const char* t
     return *this;
 }
 
-DialogTemplate& DialogTemplate::Button(int id, const char* text, int x, int y, int width,
-                                       int height, DWORD style)
+DialogTemplate& DialogTemplate::Button(int id, LPCTSTR text, int x, int y, int width, int height,
+                                       DWORD style)
 {
-    return Add("Button", id, text, x, y, width, height, style);
+    return Add(_T("Button"), id, text, x, y, width, height, style);
 }
 
-DialogTemplate& DialogTemplate::Edit(int id, const char* text, int x, int y, int width, int height,
+DialogTemplate& DialogTemplate::Edit(int id, LPCTSTR text, int x, int y, int width, int height,
                                      DWORD style)
 {
-    return Add("Edit", id, text, x, y, width, height, style);
+    return Add(_T("Edit"), id, text, x, y, width, height, style);
 }
 
-DialogTemplate& DialogTemplate::Label(int id, const char* text, int x, int y, int width, int height,
+DialogTemplate& DialogTemplate::Label(int id, LPCTSTR text, int x, int y, int width, int height,
                                       DWORD style)
 {
-    return Add("Static", id, text, x, y, width, height, style);
+    return Add(_T("Static"), id, text, x, y, width, height, style);
 }
 
 DialogTemplate& DialogTemplate::ListBox(int id, int x, int y, int width, int height, DWORD style)
 {
-    return Add("ListBox", id, "", x, y, width, height, style);
+    return Add(_T("ListBox"), id, _T(""), x, y, width, height, style);
 }
 
 DialogTemplate& DialogTemplate::ComboBox(int id, int x, int y, int width, int height, DWORD style)
 {
-    return Add("ComboBox", id, "", x, y, width, height, style);
+    return Add(_T("ComboBox"), id, _T(""), x, y, width, height, style);
 }
 
 const DLGTEMPLATE* DialogTemplate::Get() const

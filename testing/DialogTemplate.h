@@ -1,6 +1,8 @@
 // Builds dialog templates in memory, for dialogs without a resource.
 #pragma once
 
+#include "testing/Text.h"
+
 #include <windows.h>
 
 #include <string>
@@ -20,20 +22,20 @@ public:
     static constexpr DWORD visibleChild = WS_CHILD | WS_VISIBLE;
     static constexpr DWORD tabStop = visibleChild | WS_TABSTOP;
 
-    DialogTemplate(int x, int y, int width, int height, DWORD style = popup, const char* title = "",
+    DialogTemplate(int x, int y, int width, int height, DWORD style = popup, LPCTSTR title = _T(""),
                    DWORD extendedStyle = 0);
 
     /// Without it the dialog uses the system font.
-    DialogTemplate& Font(int points, const char* face);
+    DialogTemplate& Font(int points, LPCTSTR face);
 
     /// A control of any class.
-    DialogTemplate& Add(const char* className, int id, const char* text, int x, int y, int width,
+    DialogTemplate& Add(LPCTSTR className, int id, LPCTSTR text, int x, int y, int width,
                         int height, DWORD style = visibleChild, DWORD extendedStyle = 0);
-    DialogTemplate& Button(int id, const char* text, int x, int y, int width, int height,
+    DialogTemplate& Button(int id, LPCTSTR text, int x, int y, int width, int height,
                            DWORD style = tabStop | BS_PUSHBUTTON);
-    DialogTemplate& Edit(int id, const char* text, int x, int y, int width, int height,
+    DialogTemplate& Edit(int id, LPCTSTR text, int x, int y, int width, int height,
                          DWORD style = tabStop | WS_BORDER | ES_AUTOHSCROLL);
-    DialogTemplate& Label(int id, const char* text, int x, int y, int width, int height,
+    DialogTemplate& Label(int id, LPCTSTR text, int x, int y, int width, int height,
                           DWORD style = visibleChild | SS_LEFT);
     DialogTemplate& ListBox(int id, int x, int y, int width, int height,
                             DWORD style = tabStop | WS_BORDER | LBS_NOTIFY);
@@ -47,14 +49,14 @@ private:
     struct Item
     {
         DLGITEMTEMPLATE place;
-        std::string className;
-        std::string text;
+        TString className;
+        TString text;
     };
 
     DLGTEMPLATE m_head{};
-    std::string m_title;
+    TString m_title;
     int m_points = 0;
-    std::string m_face;
+    TString m_face;
     std::vector<Item> m_items;
     mutable std::vector<WORD> m_memory;
 };

@@ -15,14 +15,16 @@ namespace {
 using Clock = std::chrono::steady_clock;
 
 /// A file of the working directory, named after the program and the number of the failure.
-std::string NamePicture()
+TString NamePicture()
 {
     static int count = 0;
-    char program[MAX_PATH] = "";
-    ::GetModuleFileNameA(nullptr, program, MAX_PATH);
-    std::string name(program);
-    name = name.substr(name.find_last_of("\\/") + 1);
-    return name.substr(0, name.rfind('.')) + "-never-closed-" + std::to_string(++count) + ".png";
+    TCHAR program[MAX_PATH] = _T("");
+    ::GetModuleFileName(nullptr, program, MAX_PATH);
+    TString name(program);
+    name = name.substr(name.find_last_of(_T("\\/")) + 1);
+    const std::string number = std::to_string(++count);
+    return name.substr(0, name.rfind('.')) + _T("-never-closed-") +
+           TString(number.begin(), number.end()) + _T(".png");
 }
 
 /// As its own code would, so that also the class library's modal loop ends.
@@ -89,7 +91,7 @@ private:
     bool m_isInStep = false;
     bool m_hasGivenUp = false;
     std::string m_failure;
-    std::string m_pictureFile;
+    TString m_pictureFile;
     std::exception_ptr m_thrown;
     Ticker m_ticker{[this] { Tick(); }};
 };

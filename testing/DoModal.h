@@ -2,6 +2,7 @@
 #pragma once
 
 #include "testing/Page.h"
+#include "testing/Text.h"
 
 #include <chrono>
 #include <functional>
@@ -18,10 +19,10 @@ using Steps = std::vector<Step>;
 /// What became of modal dialogs that were driven.
 struct ModalOutcome
 {
-    INT_PTR result = -1;     ///< What the caller of the dialogs got.
-    std::string failure;     ///< Empty: all steps have run, and all dialogs have closed by them.
-    std::string pictureFile; ///< Of what was open when the time was up, a PNG; empty otherwise.
-    bool hasQuit = false;    ///< WM_QUIT came, after which no modal dialog shows; it was taken.
+    INT_PTR result = -1;  ///< What the caller of the dialogs got.
+    std::string failure;  ///< Empty: all steps have run, and all dialogs have closed by them.
+    TString pictureFile;  ///< Of what was open when the time was up, a PNG; empty otherwise.
+    bool hasQuit = false; ///< WM_QUIT came, after which no modal dialog shows; it was taken.
 };
 
 /// How long a step may take, and a dialog to come or to close after its last step.

@@ -1,5 +1,6 @@
 #include "testing/Input.h"
 #include "testing/Pump.h"
+#include "testing/Text.h"
 
 #include <optional>
 #include <vector>
@@ -138,15 +139,14 @@ void AddKey(std::vector<INPUT>& inputs, WORD virtualKey, DWORD flags)
     inputs.push_back(KeyInput(virtualKey, scanCode, flags));
 }
 
-void AddCharacter(std::vector<INPUT>& inputs, char character)
+void AddCharacter(std::vector<INPUT>& inputs, TCHAR character)
 {
     const SHORT key = ::VkKeyScan(character);
     const WORD virtualKey = LOBYTE(key);
     const int modifiers = HIBYTE(key);
     constexpr int shiftOnly = 1;
     if (key == -1 || (modifiers & ~shiftOnly) != 0) {
-        wchar_t wide = 0;
-        ::MultiByteToWideChar(CP_ACP, 0, &character, 1, &wide, 1);
+        const wchar_t wide = Widened(TString(1, character))[0];
         inputs.push_back(KeyInput(0, wide, KEYEVENTF_UNICODE));
         inputs.push_back(KeyInput(0, wide, KEYEVENTF_UNICODE | KEYEVENTF_KEYUP));
         return;
@@ -274,7 +274,7 @@ KeyResult PressKey(WORD virtualKey, WORD modifier)
     return SendKeys(inputs);
 }
 
-bool TypeText(const char* text)
+bool TypeText(LPCTSTR text)
 {
     std::vector<INPUT> inputs;
     for (; *text != '\0'; ++text)

@@ -43,6 +43,6 @@ enum KeyResult {
 KeyResult PressKey(WORD virtualKey, WORD modifier = 0);
 /// Types a text into the window that has the focus, key by key of the current layout; characters
 /// that the layout lacks arrive as characters without a key.
-bool TypeText(const char* text);
+bool TypeText(LPCTSTR text);
 
 } // namespace umbra::testing

@@ -8,9 +8,9 @@ namespace umbra::testing {
 namespace {
 
 /// The texts of its static controls; an icon has none.
-std::string TextIn(HWND box)
+TString TextIn(HWND box)
 {
-    std::string text;
+    TString text;
     for (HWND child = ::GetWindow(box, GW_CHILD); child != nullptr;
          child = ::GetWindow(child, GW_HWNDNEXT)) {
         char kind[16] = "";

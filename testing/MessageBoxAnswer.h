@@ -2,6 +2,7 @@
 #pragma once
 
 #include "testing/NextDialog.h"
+#include "testing/Text.h"
 
 #include <string>
 
@@ -22,15 +23,15 @@ public:
     /// gets IDABORT.
     bool HasAnswered() const { return m_hasAnswered; }
     /// Of the box that came; empty before.
-    const std::string& Text() const { return m_text; }
-    const std::string& Title() const { return m_title; }
+    const TString& Text() const { return m_text; }
+    const TString& Title() const { return m_title; }
 
 private:
     void Answer(HWND box, int button);
 
     bool m_hasAnswered = false;
-    std::string m_text;
-    std::string m_title;
+    TString m_text;
+    TString m_title;
     NextDialog m_box;
 };
 

@@ -46,7 +46,7 @@ bool Page::Hover(int id)
     return MovePointer(Control(id));
 }
 
-bool Page::Type(int id, const char* text)
+bool Page::Type(int id, LPCTSTR text)
 {
     ::SendMessage(m_window, WM_NEXTDLGCTL, reinterpret_cast<WPARAM>(Control(id)), TRUE);
     ::SendMessage(Control(id), EM_SETSEL, 0, -1);
@@ -58,12 +58,12 @@ KeyResult Page::PressKey(WORD virtualKey, WORD modifier)
     return testing::PressKey(virtualKey, modifier);
 }
 
-std::string Page::Text(int id) const
+TString Page::Text(int id) const
 {
     return TextOf(Control(id));
 }
 
-std::string Page::Title() const
+TString Page::Title() const
 {
     return TextOf(m_window);
 }

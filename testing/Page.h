@@ -6,6 +6,7 @@
 #include "testing/DialogTemplate.h"
 #include "testing/Input.h"
 #include "testing/Picture.h"
+#include "testing/Text.h"
 
 #include <string>
 
@@ -35,12 +36,12 @@ public:
     bool DoubleClick(int id);
     bool Hover(int id);
     /// Gives the control the focus and types in place of its text.
-    bool Type(int id, const char* text);
+    bool Type(int id, LPCTSTR text);
     /// Goes to the control that has the focus.
     KeyResult PressKey(WORD virtualKey, WORD modifier = 0);
 
-    std::string Text(int id) const;
-    std::string Title() const;
+    TString Text(int id) const;
+    TString Title() const;
     bool IsChecked(int id) const { return ::IsDlgButtonChecked(m_window, id) == BST_CHECKED; }
 
     /// What the screen shows of the page, or of one control.

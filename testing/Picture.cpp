@@ -1,5 +1,6 @@
 #include "testing/Canvas.h"
 #include "testing/Picture.h"
+#include "testing/Text.h"
 
 #include <objidl.h>
 // The header of GDI+ takes these from the global namespace.
@@ -159,7 +160,7 @@ std::string Picture::Compare(const Picture& other) const
     return text;
 }
 
-bool Picture::SavePng(const char* path) const
+bool Picture::SavePng(LPCTSTR path) const
 {
     constexpr CLSID pngEncoder = {
         0x557CF406, 0x1A04, 0x11D3, {0x9A, 0x73, 0x00, 0x00, 0xF8, 0x1E, 0xF3, 0x2E}};
@@ -173,9 +174,7 @@ bool Picture::SavePng(const char* path) const
     {
         auto* bytes = reinterpret_cast<BYTE*>(const_cast<DWORD*>(m_pixels.data()));
         Gdiplus::Bitmap bitmap(m_width, m_height, m_width * 4, PixelFormat32bppRGB, bytes);
-        wchar_t widePath[MAX_PATH] = L"";
-        ::MultiByteToWideChar(CP_ACP, 0, path, -1, widePath, MAX_PATH);
-        saved = bitmap.Save(widePath, &pngEncoder, nullptr) == Gdiplus::Ok;
+        saved = bitmap.Save(Widened(path).c_str(), &pngEncoder, nullptr) == Gdiplus::Ok;
     }
     Gdiplus::GdiplusShutdown(session);
     return saved;

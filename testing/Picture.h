@@ -48,7 +48,7 @@ public:
     friend bool operator!=(const Picture& a, const Picture& b) { return !(a == b); }
 
     /// Writes a PNG file, for a person to look at. Returns false when that fails.
-    bool SavePng(const char* path) const;
+    bool SavePng(LPCTSTR path) const;
 
 private:
     int m_width = 0;

@@ -41,7 +41,7 @@ void Describe(HWND window, int level, std::string& list)
     list += std::string(static_cast<size_t>(level) * 2, ' ');
     if (level > 0)
         list += std::to_string(static_cast<short>(::GetDlgCtrlID(window))) + " ";
-    list += std::string(kind) + " \"" + TextOf(window) + "\"" + where;
+    list += std::string(kind) + " \"" + Printable(TextOf(window)) + "\"" + where;
     const LONG style = ::GetWindowLong(window, GWL_STYLE);
     list += (style & WS_VISIBLE) == 0 ? ", hidden" : "";
     list += (style & WS_DISABLED) != 0 ? ", disabled" : "";
@@ -53,11 +53,11 @@ void Describe(HWND window, int level, std::string& list)
 
 } // namespace
 
-std::string TextOf(HWND window)
+TString TextOf(HWND window)
 {
-    std::string text(static_cast<size_t>(::GetWindowTextLengthA(window)) + 1, '\0');
+    TString text(static_cast<size_t>(::GetWindowTextLength(window)) + 1, '\0');
     text.resize(
-        static_cast<size_t>(::GetWindowTextA(window, text.data(), static_cast<int>(text.size()))));
+        static_cast<size_t>(::GetWindowText(window, text.data(), static_cast<int>(text.size()))));
     return text;
 }
 

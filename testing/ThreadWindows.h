@@ -2,13 +2,14 @@
 #pragma once
 
 #include "testing/Picture.h"
+#include "testing/Text.h"
 
 #include <string>
 
 namespace umbra::testing {
 
 /// The text of a window or control, however long.
-std::string TextOf(HWND window);
+TString TextOf(HWND window);
 
 /// Each window that is shown, the one in front first, and its controls, a line each: id, class,
 /// text, place on the screen, and whether it is hidden or disabled.

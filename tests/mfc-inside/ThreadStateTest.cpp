@@ -18,7 +18,7 @@ class Acting : public CWnd
 {
 public:
     void (*m_act)() = nullptr;
-    Acting() { CreateEx(0, AfxRegisterWndClass(0), "", WS_POPUP, 0, 0, 10, 10, NULL, NULL); }
+    Acting() { CreateEx(0, AfxRegisterWndClass(0), _T(""), WS_POPUP, 0, 0, 10, 10, NULL, NULL); }
     ~Acting() override { DestroyWindow(); }
 
 protected:
@@ -153,7 +153,7 @@ TEST_CASE("temporary objects are gone after the idle time")
 {
     CWinThread* thread = AfxGetThread();
     const HWND strange =
-        ::CreateWindow("Static", "", WS_POPUP, 0, 0, 10, 10, NULL, NULL, NULL, NULL);
+        ::CreateWindow(_T("Static"), _T(""), WS_POPUP, 0, 0, 10, 10, NULL, NULL, NULL, NULL);
     struct CProbe : CWnd
     {
         CWnd* m_pSeen = nullptr;
@@ -165,7 +165,7 @@ TEST_CASE("temporary objects are gone after the idle time")
             return CWnd::WindowProc(message, wParam, lParam);
         }
     } probe;
-    REQUIRE(probe.CreateEx(0, AfxRegisterWndClass(0), "", WS_POPUP, 0, 0, 10, 10, NULL, NULL));
+    REQUIRE(probe.CreateEx(0, AfxRegisterWndClass(0), _T(""), WS_POPUP, 0, 0, 10, 10, NULL, NULL));
     probe.m_hStrange = strange;
     probe.SendMessage(askNow);
     REQUIRE(probe.m_pSeen != nullptr);

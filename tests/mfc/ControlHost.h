@@ -17,8 +17,8 @@ public:
     {
         const LPCTSTR windowClass =
             AfxRegisterWndClass(0, ::LoadCursor(NULL, IDC_ARROW), (HBRUSH)(COLOR_BTNFACE + 1));
-        CreateEx(0, windowClass, "Control host", WS_POPUP | WS_VISIBLE | WS_CLIPCHILDREN, 40, 40,
-                 420, 320, NULL, NULL);
+        CreateEx(0, windowClass, _T("Control host"), WS_POPUP | WS_VISIBLE | WS_CLIPCHILDREN, 40,
+                 40, 420, 320, NULL, NULL);
     }
 
     /// The WM_COMMAND and WM_NOTIFY codes that came, in their order.

@@ -3,6 +3,8 @@
 
 #include "testing/ImportHook.h"
 
+#include "tests/LibraryFiles.h"
+
 #include <cstdlib>
 
 /// While it lives, the library gets no block of `bigBlock` bytes or more.
@@ -20,7 +22,7 @@ private:
         return size < bigBlock ? std::realloc(block, size) : nullptr;
     }
 
-    const HMODULE library_ = umbra::testing::FindModule("umbra-mfc.dll");
+    const HMODULE library_ = umbra::testing::FindModule(UMBRA_MFC_DLL);
     umbra::testing::ImportHook plain_{library_, "msvcrt.dll", "malloc", Allocate};
     umbra::testing::ImportHook again_{library_, "msvcrt.dll", "realloc", Reallocate};
 };

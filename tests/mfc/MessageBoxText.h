@@ -1,17 +1,15 @@
 // What a message box says.
 #pragma once
 
-#include <windows.h>
-
-#include <string>
+#include <afx.h>
 
 /// The text of the box: its label that is not empty. The icon is a label without a text.
-inline std::string MessageBoxText(HWND box)
+inline CString MessageBoxText(HWND box)
 {
-    for (HWND label = ::FindWindowExA(box, nullptr, "Static", nullptr); label != nullptr;
-         label = ::FindWindowExA(box, label, "Static", nullptr)) {
-        char text[512] = "";
-        if (::GetWindowTextA(label, text, sizeof(text)) > 0)
+    for (HWND label = ::FindWindowEx(box, nullptr, _T("Static"), nullptr); label != nullptr;
+         label = ::FindWindowEx(box, label, _T("Static"), nullptr)) {
+        TCHAR text[512] = _T("");
+        if (::GetWindowText(label, text, _countof(text)) > 0)
             return text;
     }
     return {};

@@ -35,3 +35,10 @@ AFX_EXPORTED void AFXAPI AfxEnableControlContainer();
 [[noreturn]] AFX_EXPORTED void AFXAPI AfxAbort();
 AFX_EXPORTED BOOL AFXAPI AfxIsValidAddress(const void* lp, UINT nBytes, BOOL bReadWrite = TRUE);
 AFX_EXPORTED BOOL AFXAPI AfxIsValidString(LPCSTR lpsz, int nLength = -1);
+/// A template, so that NULL means narrow text without ambiguity.
+template <class Char, std::enable_if_t<std::is_same_v<Char, wchar_t>, int> = 0>
+BOOL AfxIsValidString(const Char* lpsz, int nLength = -1)
+{
+    const UINT_PTR length = nLength < 0 ? INT_MAX : static_cast<UINT_PTR>(nLength);
+    return lpsz != NULL && !::IsBadStringPtrW(lpsz, length);
+}

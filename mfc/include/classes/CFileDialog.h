@@ -39,6 +39,9 @@ public:
     // While the dialog is open.
     CString GetFolderPath() const;
     void SetControlText(int nID, LPCSTR lpsz);
+#ifdef UNICODE
+    void SetControlText(int nID, LPCWSTR lpsz);
+#endif
     void HideControl(int nID);
     void SetDefExt(LPCSTR lpsz);
 

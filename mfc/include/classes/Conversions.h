@@ -1,7 +1,7 @@
 // Conversions between narrow and wide strings: the classes CA2W, CW2A, CT2A and their kin, and the
 // older macros that need USES_CONVERSION.
 //
-// Letters of the names: A narrow, W wide, T the character of this build (narrow), OLE wide, C a
+// Letters of the names: A narrow, W wide, T the character of this build, OLE wide, C a
 // constant result. NULL converts to NULL. Failed allocation throws CMemoryException.
 #pragma once
 
@@ -158,6 +158,27 @@ using CW2W = CW2WEX<>;
 
 #define CA2CWEX CA2WEX
 #define CW2CAEX CW2AEX
+#define CA2CW CA2W
+#define CW2CA CW2A
+
+#ifdef _UNICODE
+#define CA2TEX CA2WEX
+#define CA2CTEX CA2WEX
+#define CT2AEX CW2AEX
+#define CT2CAEX CW2AEX
+#define CW2TEX CW2WEX
+#define CW2CTEX CW2WEX
+#define CT2WEX CW2WEX
+#define CT2CWEX CW2WEX
+#define CA2T CA2W
+#define CA2CT CA2W
+#define CT2A CW2A
+#define CT2CA CW2A
+#define CW2T CW2W
+#define CW2CT CW2CW
+#define CT2W CW2W
+#define CT2CW CW2CW
+#else
 #define CA2TEX CA2AEX
 #define CA2CTEX CA2AEX
 #define CT2AEX CA2AEX
@@ -166,9 +187,6 @@ using CW2W = CW2WEX<>;
 #define CW2CTEX CW2AEX
 #define CT2WEX CA2WEX
 #define CT2CWEX CA2WEX
-
-#define CA2CW CA2W
-#define CW2CA CW2A
 #define CA2T CA2A
 #define CA2CT CA2CA
 #define CT2A CA2A
@@ -177,10 +195,11 @@ using CW2W = CW2WEX<>;
 #define CW2CT CW2A
 #define CT2W CA2W
 #define CT2CW CA2W
-#define COLE2T CW2A
-#define COLE2CT CW2A
-#define CT2OLE CA2W
-#define CT2COLE CA2W
+#endif
+#define COLE2T CW2T
+#define COLE2CT CW2CT
+#define CT2OLE CT2W
+#define CT2COLE CT2CW
 
 #define USES_CONVERSION [[maybe_unused]] ::AFX_CONVERSIONS afxConversions
 
@@ -188,6 +207,16 @@ using CW2W = CW2WEX<>;
 #define W2A(lpw) (afxConversions.Narrow(lpw))
 #define A2CW(lpa) (static_cast<LPCWSTR>(A2W(lpa)))
 #define W2CA(lpw) (static_cast<LPCSTR>(W2A(lpw)))
+#ifdef _UNICODE
+#define T2A(lp) W2A(lp)
+#define A2T(lp) A2W(lp)
+#define T2CA(lp) W2CA(lp)
+#define A2CT(lp) A2CW(lp)
+#define T2W(lp) (::afxint::NotConst(lp))
+#define W2T(lp) (::afxint::NotConst(lp))
+#define T2CW(lp) (static_cast<LPCWSTR>(lp))
+#define W2CT(lp) (static_cast<LPCWSTR>(lp))
+#else
 #define T2A(lp) (::afxint::NotConst(lp))
 #define A2T(lp) (::afxint::NotConst(lp))
 #define T2CA(lp) (static_cast<LPCSTR>(lp))
@@ -196,10 +225,11 @@ using CW2W = CW2WEX<>;
 #define W2T(lp) W2A(lp)
 #define T2CW(lp) A2CW(lp)
 #define W2CT(lp) W2CA(lp)
-#define T2OLE(lp) A2W(lp)
-#define OLE2T(lp) W2A(lp)
-#define T2COLE(lp) A2CW(lp)
-#define OLE2CT(lp) W2CA(lp)
+#endif
+#define T2OLE(lp) T2W(lp)
+#define OLE2T(lp) W2T(lp)
+#define T2COLE(lp) T2CW(lp)
+#define OLE2CT(lp) W2CT(lp)
 #define A2OLE(lp) A2W(lp)
 #define OLE2A(lp) W2A(lp)
 #define A2COLE(lp) A2CW(lp)
@@ -212,5 +242,9 @@ using CW2W = CW2WEX<>;
 /// The caller frees the results with SysFreeString.
 AFX_EXPORTED BSTR A2BSTR(LPCSTR lp);
 AFX_EXPORTED BSTR W2BSTR(LPCWSTR lp);
+#ifdef _UNICODE
+#define T2BSTR W2BSTR
+#else
 #define T2BSTR A2BSTR
+#endif
 #define OLE2BSTR W2BSTR

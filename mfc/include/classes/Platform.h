@@ -2,6 +2,23 @@
 // library, and the diagnostics.
 #pragma once
 
+// The characters of the program and of the library that it links have to be the same. UMBRA_NARROW
+// and UMBRA_UNICODE come with the library's targets.
+#if defined(UMBRA_NARROW) && defined(UMBRA_UNICODE)
+#error "a program links one flavour of Umbra: umbra::umbra, or umbra::umbra-unicode"
+#elif defined(UMBRA_NARROW) && (defined(UNICODE) || defined(_UNICODE))
+#error "UNICODE is defined, but the narrow Umbra is linked: link umbra::umbra-unicode"
+#elif defined(UMBRA_UNICODE) && !(defined(UNICODE) && defined(_UNICODE))
+#error "the Unicode Umbra is linked: define UNICODE and _UNICODE, or link umbra::umbra"
+#elif defined(UNICODE) != defined(_UNICODE)
+#error "UNICODE is for the Windows headers and _UNICODE for tchar.h: define both or neither"
+#endif
+#if defined(UNICODE) && !defined(_UNICODE) // So that the error above stays the only one.
+#define _UNICODE
+#elif defined(_UNICODE) && !defined(UNICODE)
+#define UNICODE
+#endif
+
 #ifndef NOMINMAX
 #define NOMINMAX // The min and max macros break the standard library; templates stand in below.
 #endif

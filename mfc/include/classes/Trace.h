@@ -23,13 +23,13 @@ namespace afxint {
 template <class... Arguments>
 void Trace(LPCTSTR format, const Arguments&... arguments)
 {
-    ::AfxTrace(format, PlainArgument(arguments)...);
+    ::AfxTrace(format, PlainArgument<TCHAR>(arguments)...);
 }
 
 template <class... Arguments>
 void Trace(DWORD, UINT, LPCTSTR format, const Arguments&... arguments)
 {
-    ::AfxTrace(format, PlainArgument(arguments)...);
+    ::AfxTrace(format, PlainArgument<TCHAR>(arguments)...);
 }
 
 } // namespace afxint
@@ -43,3 +43,16 @@ void Trace(DWORD, UINT, LPCTSTR format, const Arguments&... arguments)
 #define TRACE1(format, p1) TRACE(format, p1)
 #define TRACE2(format, p1, p2) TRACE(format, p1, p2)
 #define TRACE3(format, p1, p2, p3) TRACE(format, p1, p2, p3)
+
+#ifdef UNICODE
+namespace afxint {
+
+// TRACE0 to TRACE3 take narrow formats, too; their %s means the strings of this build.
+template <class... Arguments>
+void Trace(LPCSTR format, const Arguments&... arguments)
+{
+    Trace(CString(format).GetString(), arguments...);
+}
+
+} // namespace afxint
+#endif

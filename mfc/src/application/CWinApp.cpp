@@ -8,6 +8,7 @@
 #include <afxres.h>
 
 #include "application/ModuleState.h"
+#include "application/ProgramArguments.h"
 #include "threads/ThreadState.h"
 
 IMPLEMENT_DYNAMIC(CWinApp, CWinThread)
@@ -108,10 +109,11 @@ HICON CWinApp::LoadOEMIcon(UINT nIDIcon) const
 
 void CWinApp::ParseCommandLine(CCommandLineInfo& rCmdInfo)
 {
-    for (int i = 1; i < __argc; ++i) {
-        LPCTSTR parameter = __targv[i];
+    const afxint::ProgramArguments arguments;
+    for (int i = 1; i < arguments.Count(); ++i) {
+        LPCTSTR parameter = arguments[i];
         const bool flag = parameter[0] == '-' || parameter[0] == '/';
-        rCmdInfo.ParseParam(flag ? parameter + 1 : parameter, flag, i + 1 == __argc);
+        rCmdInfo.ParseParam(flag ? parameter + 1 : parameter, flag, i + 1 == arguments.Count());
     }
 }
 
@@ -264,12 +266,17 @@ void CWinApp::WinHelp(DWORD_PTR dwData, UINT nCmd)
 void CWinApp::HtmlHelp(DWORD_PTR dwData, UINT nCmd)
 {
     const CWaitCursor wait;
-    using Show = HWND(WINAPI*)(HWND, LPCSTR, UINT, DWORD_PTR);
+    using Show = HWND(WINAPI*)(HWND, LPCTSTR, UINT, DWORD_PTR);
+#ifdef UNICODE
+    constexpr char function[] = "HtmlHelpW";
+#else
+    constexpr char function[] = "HtmlHelpA";
+#endif
     // The viewer is loaded on demand: few programs need it, and not every system has it.
     static const HMODULE viewer = ::LoadLibrary(_T("hhctrl.ocx"));
     Show show = NULL;
     if (viewer != NULL)
-        show = reinterpret_cast<Show>(reinterpret_cast<void*>(GetProcAddress(viewer, "HtmlHelpA")));
+        show = reinterpret_cast<Show>(reinterpret_cast<void*>(GetProcAddress(viewer, function)));
     if (show == NULL || show(m_pMainWnd->GetSafeHwnd(), m_pszHelpFilePath, nCmd, dwData) == NULL)
         AfxMessageBox(AFX_IDP_FAILED_TO_LAUNCH_HELP);
 }

@@ -1,6 +1,8 @@
 // The settings of a program: in the registry once SetRegistryKey was called, else in a file.
 #include <classes/CWinApp.h>
 
+#include "application/ProfileFile.h"
+
 #include <vector>
 
 namespace {
@@ -46,6 +48,12 @@ public:
 private:
     HKEY key_;
 };
+
+BOOL WriteToFile(LPCTSTR file, LPCTSTR section, LPCTSTR entry, LPCTSTR value)
+{
+    afxint::PrepareProfileFile(file);
+    return ::WritePrivateProfileString(section, entry, value, file);
+}
 
 // A file holds bytes as two letters each, A to P for the upper and the lower half.
 CString SpellBytes(const BYTE* data, UINT size)
@@ -98,7 +106,7 @@ BOOL CWinApp::WriteProfileInt(LPCTSTR lpszSection, LPCTSTR lpszEntry, int nValue
     if (m_pszRegistryKey == NULL) {
         CString text;
         text.Format(_T("%d"), nValue);
-        return ::WritePrivateProfileString(lpszSection, lpszEntry, text, m_pszProfileName);
+        return WriteToFile(m_pszProfileName, lpszSection, lpszEntry, text);
     }
     const ScopedKey section(GetSectionKey(lpszSection));
     return section && section.Write(lpszEntry, REG_DWORD, &nValue, sizeof(nValue));
@@ -129,7 +137,7 @@ CString CWinApp::GetProfileString(LPCTSTR lpszSection, LPCTSTR lpszEntry, LPCTST
 BOOL CWinApp::WriteProfileString(LPCTSTR lpszSection, LPCTSTR lpszEntry, LPCTSTR lpszValue)
 {
     if (m_pszRegistryKey == NULL)
-        return ::WritePrivateProfileString(lpszSection, lpszEntry, lpszValue, m_pszProfileName);
+        return WriteToFile(m_pszProfileName, lpszSection, lpszEntry, lpszValue);
     if (lpszEntry == NULL) {
         const ScopedKey application(GetAppRegistryKey());
         return application && DelRegTree(application.Get(), lpszSection) == ERROR_SUCCESS;

@@ -19,6 +19,31 @@ int RunInstance(CWinApp& app)
     return app.ExitInstance();
 }
 
+// The command line in the characters of the library, whichever WinMain a program begins with.
+#ifdef UNICODE
+LPTSTR CommandLineOf(LPSTR)
+{
+    return ::PathGetArgs(::GetCommandLine()); // The narrow one may have lost characters.
+}
+
+LPTSTR CommandLineOf(LPWSTR commandLine)
+{
+    return commandLine;
+}
+#else
+LPTSTR CommandLineOf(LPSTR commandLine)
+{
+    return commandLine;
+}
+
+LPTSTR CommandLineOf(LPWSTR commandLine)
+{
+    static CString narrow; // As long as the program, which may keep m_lpCmdLine.
+    narrow = commandLine;
+    return narrow.GetBuffer();
+}
+#endif
+
 int RunProgram(HINSTANCE instance, HINSTANCE previous, LPTSTR commandLine, int show)
 {
     CWinApp* app = AfxGetApp();
@@ -41,15 +66,11 @@ int RunProgram(HINSTANCE instance, HINSTANCE previous, LPTSTR commandLine, int s
 extern "C" AFX_EXPORTED int WINAPI WinMain(HINSTANCE instance, HINSTANCE previous,
                                            LPSTR commandLine, int show)
 {
-    return RunProgram(instance, previous, commandLine, show);
+    return RunProgram(instance, previous, CommandLineOf(commandLine), show);
 }
 
-// The strings of the library are narrow, so the command line is taken over in that form.
 extern "C" AFX_EXPORTED int WINAPI wWinMain(HINSTANCE instance, HINSTANCE previous,
                                             LPWSTR commandLine, int show)
 {
-    const int size = WideCharToMultiByte(CP_ACP, 0, commandLine, -1, NULL, 0, NULL, NULL);
-    CString narrow;
-    WideCharToMultiByte(CP_ACP, 0, commandLine, -1, narrow.GetBuffer(size), size, NULL, NULL);
-    return RunProgram(instance, previous, narrow.GetBuffer(0), show);
+    return RunProgram(instance, previous, CommandLineOf(commandLine), show);
 }

@@ -52,9 +52,9 @@ private:
 void TraceMissingTemplate(LPCTSTR name)
 {
     if (IS_INTRESOURCE(name))
-        TRACE("There is no dialog template %d.\n", static_cast<int>(LOWORD(name)));
+        TRACE(_T("There is no dialog template %d.\n"), static_cast<int>(LOWORD(name)));
     else
-        TRACE("There is no dialog template %s.\n", name);
+        TRACE(_T("There is no dialog template %s.\n"), name);
 }
 
 /// The template in the resources; NULL when no module has it.
@@ -105,7 +105,7 @@ CDialog::~CDialog()
 {
     // The base would find the window with the base's map only.
     if (m_hWnd != NULL) {
-        TRACE("A CDialog object goes before its window.\n");
+        TRACE(_T("A CDialog object goes before its window.\n"));
         CWnd::DestroyWindow();
     }
 }
@@ -226,7 +226,7 @@ BOOL CDialog::OnInitDialog()
     const BOOL filled =
         dialogInit_ != NULL ? ExecuteDlgInit(dialogInit_) : ExecuteDlgInit(templateName_);
     if (!filled || !UpdateData(FALSE)) {
-        TRACE("The controls of a dialog could not be filled.\n");
+        TRACE(_T("The controls of a dialog could not be filled.\n"));
         EndDialog(-1);
         return FALSE;
     }
@@ -287,7 +287,7 @@ BOOL CDialog::CreateFromTemplate(LPCDLGTEMPLATE dialogTemplate, CWnd* parent, HI
             ::CreateDialogIndirectParam(module, dialogTemplate, owner, &afxint::DialogProcedure, 0);
     }
     if (window == NULL)
-        TRACE("A dialog could not be created, error %u.\n", GetLastError());
+        TRACE(_T("A dialog could not be created, error %u.\n"), GetLastError());
     if (!creation.Finish(window))
         PostNcDestroy();
     return window != NULL;

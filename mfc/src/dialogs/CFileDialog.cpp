@@ -1,5 +1,6 @@
 #include <classes/CFileDialog.h>
 
+#include <classes/Conversions.h>
 #include <classes/Modules.h>
 
 #include "dialogs/CommonDialogHook.h"
@@ -127,8 +128,16 @@ CString CFileDialog::GetFolderPath() const
 
 void CFileDialog::SetControlText(int nID, LPCSTR lpsz)
 {
+    const CA2CT text(lpsz);
+    GetParent()->SendMessage(CDM_SETCONTROLTEXT, nID, reinterpret_cast<LPARAM>(text.m_psz));
+}
+
+#ifdef UNICODE
+void CFileDialog::SetControlText(int nID, LPCWSTR lpsz)
+{
     GetParent()->SendMessage(CDM_SETCONTROLTEXT, nID, reinterpret_cast<LPARAM>(lpsz));
 }
+#endif
 
 void CFileDialog::HideControl(int nID)
 {
@@ -137,7 +146,8 @@ void CFileDialog::HideControl(int nID)
 
 void CFileDialog::SetDefExt(LPCSTR lpsz)
 {
-    GetParent()->SendMessage(CDM_SETDEFEXT, 0, reinterpret_cast<LPARAM>(lpsz));
+    const CA2CT extension(lpsz);
+    GetParent()->SendMessage(CDM_SETDEFEXT, 0, reinterpret_cast<LPARAM>(extension.m_psz));
 }
 
 UINT CFileDialog::OnShareViolation(LPCTSTR)

@@ -53,7 +53,7 @@ void WriteText(HWND control, LPCTSTR text)
 
 bool OnlyBlanksFollow(LPCTSTR text)
 {
-    while (_istspace(static_cast<unsigned char>(*text)))
+    while (_istspace(static_cast<_TUCHAR>(*text)))
         ++text;
     return *text == '\0';
 }

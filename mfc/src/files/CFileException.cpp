@@ -123,7 +123,7 @@ BOOL CFileException::GetErrorMessage(LPTSTR lpszError, UINT nMaxError, PUINT pnH
         *pnHelpContext = 0;
     CString text = m_strFileName;
     if (!text.IsEmpty())
-        text += ": ";
+        text += _T(": ");
     CString reason;
     const DWORD length =
         m_lOsError <= 0
@@ -132,7 +132,7 @@ BOOL CFileException::GetErrorMessage(LPTSTR lpszError, UINT nMaxError, PUINT pnH
                               m_lOsError, 0, reason.GetBuffer(512), 512, NULL);
     reason.ReleaseBufferSetLength(static_cast<int>(length));
     if (reason.TrimRight().IsEmpty())
-        reason.Format("file error %d", m_cause);
+        reason.Format(_T("file error %d"), m_cause);
     lstrcpyn(lpszError, text + reason, static_cast<int>(nMaxError));
     return TRUE;
 }

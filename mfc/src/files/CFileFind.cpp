@@ -42,7 +42,7 @@ CString CFileFind::GetFileURL() const
 {
     CString path = GetFilePath();
     path.Replace('\\', '/');
-    return "file://" + path;
+    return _T("file://") + path;
 }
 
 CString CFileFind::GetRoot() const
@@ -90,7 +90,7 @@ BOOL CFileFind::MatchesMask(DWORD dwMask) const
 BOOL CFileFind::IsDots() const
 {
     const CString name = GetFileName();
-    return IsDirectory() && (name == "." || name == "..");
+    return IsDirectory() && (name == _T(".") || name == _T(".."));
 }
 
 BOOL CFileFind::IsReadOnly() const
@@ -145,7 +145,7 @@ BOOL CFileFind::FindFile(LPCTSTR pstrName, DWORD /*dwUnused*/)
 {
     Close();
     if (pstrName == NULL)
-        pstrName = "*.*";
+        pstrName = _T("*.*");
     context_ = ::FindFirstFile(pstrName, &next_);
     if (context_ == INVALID_HANDLE_VALUE)
         return FALSE;

@@ -1,4 +1,5 @@
 #include <classes/Application.h>
+#include <classes/Conversions.h>
 
 BOOL AFXAPI AfxAssertFailedLine(LPCSTR file, int line)
 {
@@ -7,8 +8,8 @@ BOOL AFXAPI AfxAssertFailedLine(LPCSTR file, int line)
               "Assertion failed in %s, line %d.\n\nRetry stops in the debugger.", file, line);
     text[sizeof(text) - 1] = '\0';
     OutputDebugStringA(text);
-    const int answer =
-        MessageBoxA(NULL, text, AfxGetAppName(), MB_ABORTRETRYIGNORE | MB_ICONERROR | MB_TASKMODAL);
+    const int answer = MessageBoxA(NULL, text, CT2CA(AfxGetAppName()),
+                                   MB_ABORTRETRYIGNORE | MB_ICONERROR | MB_TASKMODAL);
     if (answer == IDABORT)
         AfxAbort();
     return answer == IDRETRY;

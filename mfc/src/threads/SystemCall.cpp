@@ -33,7 +33,7 @@ LRESULT Answer(CException& e, const MSG& message)
 
 LRESULT AnswerForeign(const MSG& message)
 {
-    TRACE("Message 0x%04X: the handler failed with a foreign exception.\n", message.message);
+    TRACE(_T("Message 0x%04X: the handler failed with a foreign exception.\n"), message.message);
     ForeignException e;
     return Answer(e, message);
 }
@@ -70,7 +70,7 @@ LRESULT AnswerException(const MSG& message) noexcept
     } catch (CException* e) {
         e->Delete(); // The answer failed as well.
     } catch (...) {
-        TRACE("The answer to an exception failed with another one.\n");
+        TRACE(_T("The answer to an exception failed with another one.\n"));
     }
     return AnswerFailure(message);
 }

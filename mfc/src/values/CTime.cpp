@@ -61,9 +61,11 @@ CString FormatParts(const struct tm* parts, LPCTSTR format)
     // A result of no characters cannot be told from one that did not fit: a mark at the end helps.
     const CString marked = CString(format) + '.';
     for (int room = 128; room <= 128 * 1024; room *= 4) {
-        const size_t length = strftime(result.GetBuffer(room), room, marked, parts);
-        result.ReleaseBufferSetLength(length == 0 ? 0 : static_cast<int>(length) - 1);
-        if (length != 0)
+        const size_t length = _tcsftime(result.GetBuffer(room), room, marked, parts);
+        // Not every C library answers 0 when the result did not fit.
+        const bool fits = length != 0 && length < static_cast<size_t>(room);
+        result.ReleaseBufferSetLength(fits ? static_cast<int>(length) - 1 : 0);
+        if (fits)
             return result;
     }
     AfxThrowInvalidArgException();

@@ -131,16 +131,16 @@ CString CTimeSpan::Format(LPCTSTR pFormat) const
             text += '%';
             break;
         case 'D':
-            text.AppendFormat("%I64d", GetDays());
+            text.AppendFormat(_T("%I64d"), GetDays());
             break;
         case 'H':
-            text.AppendFormat("%02ld", GetHours());
+            text.AppendFormat(_T("%02ld"), GetHours());
             break;
         case 'M':
-            text.AppendFormat("%02ld", GetMinutes());
+            text.AppendFormat(_T("%02ld"), GetMinutes());
             break;
         case 'S':
-            text.AppendFormat("%02ld", GetSeconds());
+            text.AppendFormat(_T("%02ld"), GetSeconds());
             break;
         default:
             AfxThrowInvalidArgException();

@@ -81,7 +81,7 @@ BOOL CFrameWnd::Create(LPCTSTR lpszClassName, LPCTSTR lpszWindowName, DWORD dwSt
 {
     menu_ = LoadMenuOf(lpszMenuName);
     if (lpszMenuName != NULL && menu_ == NULL) {
-        TRACE("The menu of a frame window is missing.\n");
+        TRACE(_T("The menu of a frame window is missing.\n"));
         PostNcDestroy();
         return FALSE;
     }

@@ -42,7 +42,7 @@ CWnd::~CWnd()
     // Temporary objects and the constants of SetWindowPos own no window.
     if (m_hWnd == NULL || FromHandlePermanent(m_hWnd) != this)
         return;
-    TRACE("A CWnd object goes before its window 0x%p.\n", static_cast<void*>(m_hWnd));
+    TRACE(_T("A CWnd object goes before its window 0x%p.\n"), static_cast<void*>(m_hWnd));
     CWnd::DestroyWindow();
 }
 
@@ -160,7 +160,7 @@ BOOL CWnd::CreateEx(DWORD dwExStyle, LPCTSTR lpszClassName, LPCTSTR lpszWindowNa
                                   create.lpCreateParams);
     }
     if (window == NULL)
-        TRACE("A window could not be created, error %u.\n", GetLastError());
+        TRACE(_T("A window could not be created, error %u.\n"), GetLastError());
     // The object may have deleted itself when the creation failed.
     if (!creation.Finish(window))
         PostNcDestroy();
@@ -187,7 +187,7 @@ void CWnd::PreSubclassWindow()
 BOOL CWnd::SubclassWindow(HWND hWnd)
 {
     if (hWnd == NULL || m_hWnd != NULL || FromHandlePermanent(hWnd) != NULL) {
-        TRACE("Window 0x%p cannot be subclassed.\n", static_cast<void*>(hWnd));
+        TRACE(_T("Window 0x%p cannot be subclassed.\n"), static_cast<void*>(hWnd));
         return FALSE;
     }
     return WindowMessages::TakeOver(this, hWnd);
@@ -197,7 +197,7 @@ BOOL CWnd::SubclassDlgItem(UINT nID, CWnd* pParent)
 {
     const HWND control = ::GetDlgItem(pParent->GetSafeHwnd(), static_cast<int>(nID));
     if (control == NULL) {
-        TRACE("There is no control with id %u.\n", nID);
+        TRACE(_T("There is no control with id %u.\n"), nID);
         return FALSE;
     }
     return SubclassWindow(control);

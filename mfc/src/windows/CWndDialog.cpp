@@ -194,7 +194,7 @@ BOOL CWnd::ExecuteDlgInit(LPVOID lpResource)
 BOOL CWnd::UpdateData(BOOL bSaveAndValidate)
 {
     if (Has(exchanging)) {
-        TRACE("UpdateData was called from within UpdateData.\n");
+        TRACE(_T("UpdateData was called from within UpdateData.\n"));
         return FALSE;
     }
     struct Scope

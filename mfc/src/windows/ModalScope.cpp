@@ -59,7 +59,7 @@ ModalScope::~ModalScope()
     } catch (CException* e) {
         e->Delete(); // Another exception may be under way.
     } catch (...) {
-        TRACE("A foreign exception came out of DestroyWindow.\n");
+        TRACE(_T("A foreign exception came out of DestroyWindow.\n"));
     }
 }
 

@@ -22,7 +22,7 @@ struct Tip
 thread_local Tip tip;
 
 /// The size of the structure in the first version of the common controls that has lParam.
-const UINT toolSize = TTTOOLINFOA_V2_SIZE;
+const UINT toolSize = CCSIZEOF_STRUCT(TOOLINFO, lParam);
 
 void Send(UINT message, WPARAM wParam, LPARAM lParam)
 {

@@ -16,7 +16,7 @@ bool IsInputMethodWindow(HWND window, const CREATESTRUCT& create)
     if ((GetClassLongPtr(window, GCL_STYLE) & CS_IME) != 0)
         return true;
     // Not every system marks the class of its own.
-    return !IS_INTRESOURCE(create.lpszClass) && lstrcmpi(create.lpszClass, "IME") == 0;
+    return !IS_INTRESOURCE(create.lpszClass) && lstrcmpi(create.lpszClass, _T("IME")) == 0;
 }
 
 } // namespace

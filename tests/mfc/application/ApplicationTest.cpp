@@ -21,11 +21,11 @@ TEST_CASE("registering a class twice succeeds")
     WNDCLASS windowClass{};
     windowClass.lpfnWndProc = ::DefWindowProc;
     windowClass.hInstance = AfxGetInstanceHandle();
-    windowClass.lpszClassName = "UmbraTwice";
+    windowClass.lpszClassName = _T("UmbraTwice");
     CHECK(AfxRegisterClass(&windowClass));
     CHECK(AfxRegisterClass(&windowClass));
-    ::UnregisterClass("UmbraTwice", AfxGetInstanceHandle());
-    windowClass.lpszClassName = "";
+    ::UnregisterClass(_T("UmbraTwice"), AfxGetInstanceHandle());
+    windowClass.lpszClassName = _T("");
     CHECK_FALSE(AfxRegisterClass(&windowClass));
 }
 

@@ -7,16 +7,16 @@
 namespace {
 
 /// Gives the words of a command line to the object, flags without their sign.
-void Parse(CCommandLineInfo& info, std::initializer_list<const char*> words)
+void Parse(CCommandLineInfo& info, std::initializer_list<LPCTSTR> words)
 {
-    for (const char* const* word = words.begin(); word != words.end(); ++word) {
+    for (const LPCTSTR* word = words.begin(); word != words.end(); ++word) {
         const bool flag = **word == '/';
         info.ParseParam(*word + (flag ? 1 : 0), flag, word + 1 == words.end());
     }
 }
 
 /// The shell command of a command line.
-int CommandOf(std::initializer_list<const char*> words)
+int CommandOf(std::initializer_list<LPCTSTR> words)
 {
     CCommandLineInfo info;
     Parse(info, words);
@@ -38,7 +38,7 @@ TEST_CASE("an empty command line asks for a new document, with the splash screen
 TEST_CASE("the first file is opened, further ones are left out")
 {
     CCommandLineInfo info;
-    Parse(info, {"letter.txt", "second.txt"});
+    Parse(info, {_T("letter.txt"), _T("second.txt")});
     CHECK(info.m_nShellCommand == CCommandLineInfo::FileOpen);
     CHECK(info.m_strFileName == "letter.txt");
     CHECK(info.m_strPrinterName.IsEmpty());
@@ -47,29 +47,29 @@ TEST_CASE("the first file is opened, further ones are left out")
 TEST_CASE("the file is opened only when the command line is at its end")
 {
     CCommandLineInfo info;
-    info.ParseParam("letter.txt", FALSE, FALSE);
+    info.ParseParam(_T("letter.txt"), FALSE, FALSE);
     CHECK(info.m_nShellCommand == CCommandLineInfo::FileNew);
-    info.ParseParam("unknown", TRUE, TRUE);
+    info.ParseParam(_T("unknown"), TRUE, TRUE);
     CHECK(info.m_nShellCommand == CCommandLineInfo::FileOpen);
 }
 
 TEST_CASE("each flag asks for its command, in capitals or not")
 {
-    CHECK(CommandOf({"/p", "letter.txt"}) == CCommandLineInfo::FilePrint);
-    CHECK(CommandOf({"/P", "letter.txt"}) == CCommandLineInfo::FilePrint);
-    CHECK(CommandOf({"/pt", "letter.txt"}) == CCommandLineInfo::FilePrintTo);
-    CHECK(CommandOf({"/dde"}) == CCommandLineInfo::FileDDE);
-    CHECK(CommandOf({"/Register"}) == CCommandLineInfo::AppRegister);
-    CHECK(CommandOf({"/regserver"}) == CCommandLineInfo::AppRegister);
-    CHECK(CommandOf({"/Unregister"}) == CCommandLineInfo::AppUnregister);
-    CHECK(CommandOf({"/unregserver"}) == CCommandLineInfo::AppUnregister);
-    CHECK(CommandOf({"/unknown"}) == CCommandLineInfo::FileNew);
+    CHECK(CommandOf({_T("/p"), _T("letter.txt")}) == CCommandLineInfo::FilePrint);
+    CHECK(CommandOf({_T("/P"), _T("letter.txt")}) == CCommandLineInfo::FilePrint);
+    CHECK(CommandOf({_T("/pt"), _T("letter.txt")}) == CCommandLineInfo::FilePrintTo);
+    CHECK(CommandOf({_T("/dde")}) == CCommandLineInfo::FileDDE);
+    CHECK(CommandOf({_T("/Register")}) == CCommandLineInfo::AppRegister);
+    CHECK(CommandOf({_T("/regserver")}) == CCommandLineInfo::AppRegister);
+    CHECK(CommandOf({_T("/Unregister")}) == CCommandLineInfo::AppUnregister);
+    CHECK(CommandOf({_T("/unregserver")}) == CCommandLineInfo::AppUnregister);
+    CHECK(CommandOf({_T("/unknown")}) == CCommandLineInfo::FileNew);
 }
 
 TEST_CASE("a word like a flag is a file without the sign before it")
 {
     CCommandLineInfo info;
-    Parse(info, {"dde"});
+    Parse(info, {_T("dde")});
     CHECK(info.m_nShellCommand == CCommandLineInfo::FileOpen);
     CHECK(info.m_strFileName == "dde");
 }
@@ -77,7 +77,7 @@ TEST_CASE("a word like a flag is a file without the sign before it")
 TEST_CASE("printing to a printer takes the file, the printer, its driver and its port")
 {
     CCommandLineInfo info;
-    Parse(info, {"/pt", "letter.txt", "printer", "driver", "port", "more"});
+    Parse(info, {_T("/pt"), _T("letter.txt"), _T("printer"), _T("driver"), _T("port"), _T("more")});
     CHECK(info.m_nShellCommand == CCommandLineInfo::FilePrintTo);
     CHECK(info.m_strFileName == "letter.txt");
     CHECK(info.m_strPrinterName == "printer");
@@ -88,13 +88,13 @@ TEST_CASE("printing to a printer takes the file, the printer, its driver and its
 TEST_CASE("a program that serves another one shows no splash screen")
 {
     CCommandLineInfo embedded;
-    Parse(embedded, {"/Embedding"});
+    Parse(embedded, {_T("/Embedding")});
     CHECK(embedded.m_bRunEmbedded);
     CHECK_FALSE(embedded.m_bRunAutomated);
     CHECK_FALSE(embedded.m_bShowSplash);
 
     CCommandLineInfo automated;
-    Parse(automated, {"/Automation"});
+    Parse(automated, {_T("/Automation")});
     CHECK(automated.m_bRunAutomated);
     CHECK_FALSE(automated.m_bRunEmbedded);
     CHECK_FALSE(automated.m_bShowSplash);

@@ -13,7 +13,7 @@ using umbra::testing::NextDialog;
 
 namespace {
 
-constexpr char company[] = "Umbra Tests";
+constexpr TCHAR company[] = _T("Umbra Tests");
 
 /// A second application object, for its settings; the program's own stays what it is.
 class CSettingsApp : public CWinApp
@@ -28,7 +28,7 @@ public:
 /// Settings in the registry, removed at the end.
 struct RegistryApp
 {
-    CSettingsApp app{"Settings"};
+    CSettingsApp app{_T("Settings")};
     RegistryApp() { app.SetRegistryKey(company); }
     ~RegistryApp() { app.DelRegTree(HKEY_CURRENT_USER, CString("Software\\") + company); }
 };
@@ -36,13 +36,13 @@ struct RegistryApp
 /// Settings in a file of the temporary folder.
 struct FileApp
 {
-    CSettingsApp app{"Settings"};
+    CSettingsApp app{_T("Settings")};
     CString path;
     FileApp()
     {
-        char folder[MAX_PATH];
-        ::GetTempPathA(MAX_PATH, folder);
-        path.Format("%sumbra-%lu.ini", folder, ::GetCurrentProcessId());
+        TCHAR folder[MAX_PATH];
+        ::GetTempPath(MAX_PATH, folder);
+        path.Format(_T("%sumbra-%lu.ini"), folder, ::GetCurrentProcessId());
         app.m_pszProfileName = _tcsdup(path);
     }
     ~FileApp() { ::DeleteFile(path); }
@@ -50,30 +50,30 @@ struct FileApp
 
 void CheckSettings(CWinApp& app)
 {
-    CHECK(app.GetProfileInt("Window", "Left", 42) == 42);
-    CHECK(app.WriteProfileInt("Window", "Left", -7));
-    CHECK(int(app.GetProfileInt("Window", "Left", 42)) == -7);
+    CHECK(app.GetProfileInt(_T("Window"), _T("Left"), 42) == 42);
+    CHECK(app.WriteProfileInt(_T("Window"), _T("Left"), -7));
+    CHECK(int(app.GetProfileInt(_T("Window"), _T("Left"), 42)) == -7);
 
-    CHECK(app.GetProfileString("Window", "Title", "none") == "none");
-    CHECK(app.GetProfileString("Window", "Title") == "");
-    CHECK(app.WriteProfileString("Window", "Title", "A title"));
-    CHECK(app.GetProfileString("Window", "Title", "none") == "A title");
+    CHECK(app.GetProfileString(_T("Window"), _T("Title"), _T("none")) == _T("none"));
+    CHECK(app.GetProfileString(_T("Window"), _T("Title")) == _T(""));
+    CHECK(app.WriteProfileString(_T("Window"), _T("Title"), _T("A title")));
+    CHECK(app.GetProfileString(_T("Window"), _T("Title"), _T("none")) == _T("A title"));
     const CString longText('x', 6000);
-    CHECK(app.WriteProfileString("Window", "Long", longText));
-    CHECK(app.GetProfileString("Window", "Long") == longText);
+    CHECK(app.WriteProfileString(_T("Window"), _T("Long"), longText));
+    CHECK(app.GetProfileString(_T("Window"), _T("Long")) == longText);
 
-    CHECK(app.WriteProfileString("Window", "Title", NULL));
-    CHECK(app.GetProfileString("Window", "Title", "gone") == "gone");
-    CHECK(app.WriteProfileString("Window", NULL, NULL));
-    CHECK(app.GetProfileInt("Window", "Left", 42) == 42);
+    CHECK(app.WriteProfileString(_T("Window"), _T("Title"), NULL));
+    CHECK(app.GetProfileString(_T("Window"), _T("Title"), _T("gone")) == _T("gone"));
+    CHECK(app.WriteProfileString(_T("Window"), NULL, NULL));
+    CHECK(app.GetProfileInt(_T("Window"), _T("Left"), 42) == 42);
 
     BYTE written[] = {0, 1, 0x7F, 0x80, 0xFF};
     LPBYTE read = nullptr;
     UINT size = 99;
-    CHECK_FALSE(app.GetProfileBinary("Window", "Place", &read, &size));
+    CHECK_FALSE(app.GetProfileBinary(_T("Window"), _T("Place"), &read, &size));
     CHECK(read == nullptr);
-    CHECK(app.WriteProfileBinary("Window", "Place", written, sizeof(written)));
-    REQUIRE(app.GetProfileBinary("Window", "Place", &read, &size));
+    CHECK(app.WriteProfileBinary(_T("Window"), _T("Place"), written, sizeof(written)));
+    REQUIRE(app.GetProfileBinary(_T("Window"), _T("Place"), &read, &size));
     CHECK(std::vector<BYTE>(read, read + size) == std::vector<BYTE>(written, written + 5));
     delete[] read;
 }
@@ -87,7 +87,7 @@ TEST_CASE("the one application object is known everywhere")
     CHECK(AfxGetThread() == app);
     CHECK(app->m_hInstance == ::GetModuleHandle(nullptr));
     CHECK(app->m_nThreadID == ::GetCurrentThreadId());
-    const CSettingsApp second("Second");
+    const CSettingsApp second(_T("Second"));
     CHECK(AfxGetApp() == app);
 }
 
@@ -98,7 +98,7 @@ TEST_CASE("the application is named after its file unless it has a title of its 
     CHECK(CString(AfxGetAppName()) == "test-mfc");
     CHECK(CString(app->m_pszProfileName) == "test-mfc.INI");
     CHECK(CString(app->m_pszHelpFilePath).Right(13) == "\\test-mfc.hlp");
-    CHECK(CString(CSettingsApp("Own name").m_pszAppName) == "Own name");
+    CHECK(CString(CSettingsApp(_T("Own name")).m_pszAppName) == _T("Own name"));
 }
 
 TEST_CASE("settings are kept in the registry after SetRegistryKey")
@@ -107,7 +107,7 @@ TEST_CASE("settings are kept in the registry after SetRegistryKey")
     CHECK(CString(settings.app.m_pszProfileName) == "Settings");
     CheckSettings(settings.app);
 
-    settings.app.WriteProfileInt("Window", "Top", 5);
+    settings.app.WriteProfileInt(_T("Window"), _T("Top"), 5);
     DWORD value = 0;
     DWORD size = sizeof(value);
     CHECK(::SHGetValueA(HKEY_CURRENT_USER, "Software\\Umbra Tests\\Settings\\Window", "Top",
@@ -119,7 +119,7 @@ TEST_CASE("the keys of the application and of a section can be had")
 {
     RegistryApp settings;
     const HKEY application = settings.app.GetAppRegistryKey();
-    const HKEY section = settings.app.GetSectionKey("Colours");
+    const HKEY section = settings.app.GetSectionKey(_T("Colours"));
     CHECK(application != nullptr);
     CHECK(section != nullptr);
     HKEY below = nullptr;
@@ -132,21 +132,21 @@ TEST_CASE("without SetRegistryKey settings are kept in a file")
 {
     FileApp settings;
     CheckSettings(settings.app);
-    settings.app.WriteProfileInt("Window", "Top", 5);
-    CHECK(::GetPrivateProfileIntA("Window", "Top", 0, settings.path) == 5);
+    settings.app.WriteProfileInt(_T("Window"), _T("Top"), 5);
+    CHECK(::GetPrivateProfileInt(_T("Window"), _T("Top"), 0, settings.path) == 5);
 }
 
 TEST_CASE("three-dimensional controls are taken for granted")
 {
-    CSettingsApp app("Settings");
+    CSettingsApp app(_T("Settings"));
     CHECK(app.Enable3dControls());
     CHECK(app.Enable3dControlsStatic());
 }
 
 TEST_CASE("switches for automation are taken out of the command line")
 {
-    CSettingsApp app("Settings");
-    char line[] = "file.txt -embedding /Automations";
+    CSettingsApp app(_T("Settings"));
+    TCHAR line[] = _T("file.txt -embedding /Automations");
     app.m_lpCmdLine = line;
     CHECK(app.RunEmbedded());
     CHECK_FALSE(app.RunEmbedded());
@@ -166,21 +166,21 @@ TEST_CASE("standard cursors and icons are loaded")
 
 TEST_CASE("message boxes carry the application's name and give back the button")
 {
-    char title[64] = "";
-    std::string text;
+    TCHAR title[64] = _T("");
+    CString text;
     NextDialog answer([&](HWND box) {
-        ::GetWindowTextA(box, title, sizeof(title));
+        ::GetWindowText(box, title, _countof(title));
         text = MessageBoxText(box);
         ::PostMessage(box, WM_COMMAND, IDNO, 0);
     });
-    CHECK(AfxMessageBox("Go on?", MB_YESNO | MB_ICONQUESTION) == IDNO);
+    CHECK(AfxMessageBox(_T("Go on?"), MB_YESNO | MB_ICONQUESTION) == IDNO);
     CHECK(text == "Go on?");
     CHECK(CString(title) == AfxGetAppName());
 }
 
 TEST_CASE("a message box shows a string resource")
 {
-    std::string text;
+    CString text;
     NextDialog answer([&](HWND box) {
         text = MessageBoxText(box);
         ::PostMessage(box, WM_COMMAND, IDOK, 0);
@@ -194,8 +194,8 @@ TEST_CASE("a message box shows a string resource")
 TEST_CASE("the main window owns message boxes, and a dialog over it before that")
 {
     CWnd frame;
-    REQUIRE(frame.CreateEx(0, AfxRegisterWndClass(0), "main", WS_OVERLAPPEDWINDOW | WS_VISIBLE, 0,
-                           0, 200, 100, NULL, NULL));
+    REQUIRE(frame.CreateEx(0, AfxRegisterWndClass(0), _T("main"), WS_OVERLAPPEDWINDOW | WS_VISIBLE,
+                           0, 0, 200, 100, NULL, NULL));
     CWinThread* thread = AfxGetThread();
     thread->m_pMainWnd = &frame;
     const auto ownerOfBox = [] {
@@ -204,14 +204,14 @@ TEST_CASE("the main window owns message boxes, and a dialog over it before that"
             owner = ::GetWindow(box, GW_OWNER);
             ::PostMessage(box, WM_COMMAND, IDOK, 0);
         });
-        AfxMessageBox("text");
+        AfxMessageBox(_T("text"));
         return owner;
     };
     CHECK(ownerOfBox() == frame.m_hWnd);
 
     CWnd popup;
-    REQUIRE(popup.CreateEx(0, AfxRegisterWndClass(0), "popup", WS_POPUP | WS_VISIBLE, 0, 0, 50, 50,
-                           frame.m_hWnd, NULL));
+    REQUIRE(popup.CreateEx(0, AfxRegisterWndClass(0), _T("popup"), WS_POPUP | WS_VISIBLE, 0, 0, 50,
+                           50, frame.m_hWnd, NULL));
     popup.SetActiveWindow();
     CHECK(ownerOfBox() == popup.m_hWnd);
     popup.DestroyWindow();
@@ -242,7 +242,8 @@ TEST_CASE("a derived application may name the standard command that ends it")
         CAPTURE(command);
         CLeavingApp app;
         CWnd window;
-        REQUIRE(window.CreateEx(0, AfxRegisterWndClass(0), "", WS_POPUP, 0, 0, 9, 9, NULL, NULL));
+        REQUIRE(
+            window.CreateEx(0, AfxRegisterWndClass(0), _T(""), WS_POPUP, 0, 0, 9, 9, NULL, NULL));
         app.m_pMainWnd = &window;
         CHECK(app.OnCmdMsg(command, CN_COMMAND, NULL, NULL));
         CHECK(window.m_hWnd == NULL);

@@ -14,7 +14,7 @@ namespace {
 class Extension
 {
 public:
-    Extension() : m_hModule(AfxLoadLibrary("mfc-test-extension.dll")) {}
+    Extension() : m_hModule(AfxLoadLibrary(_T("mfc-test-extension.dll"))) {}
     ~Extension() { AfxFreeLibrary(m_hModule); }
     Extension(const Extension&) = delete;
     Extension& operator=(const Extension&) = delete;
@@ -34,7 +34,7 @@ CString LoadOne(UINT id)
 {
     TCHAR text[256];
     const int length = AfxLoadString(id, text);
-    CHECK(length == int(strlen(text)));
+    CHECK(length == int(_tcslen(text)));
     return text;
 }
 
@@ -56,10 +56,10 @@ class ExtensionCopy
 public:
     ExtensionCopy()
     {
-        char folder[MAX_PATH], original[MAX_PATH];
+        TCHAR folder[MAX_PATH], original[MAX_PATH];
         ::GetTempPath(MAX_PATH, folder);
-        REQUIRE(::GetTempFileName(folder, "ext", 0, path_) != 0);
-        ::GetModuleFileName(::GetModuleHandle("mfc-test-extension.dll"), original, MAX_PATH);
+        REQUIRE(::GetTempFileName(folder, _T("ext"), 0, path_) != 0);
+        ::GetModuleFileName(::GetModuleHandle(_T("mfc-test-extension.dll")), original, MAX_PATH);
         REQUIRE(::CopyFile(original, path_, FALSE));
         m_hModule = AfxLoadLibrary(path_);
         REQUIRE(m_hModule != nullptr);
@@ -75,7 +75,7 @@ public:
     HMODULE m_hModule = nullptr;
 
 private:
-    char path_[MAX_PATH];
+    TCHAR path_[MAX_PATH];
 };
 
 } // namespace
@@ -186,7 +186,7 @@ TEST_CASE("the templates and contents of dialogs are looked for in the extension
     CHECK(painted.SetBackgroundImage(EXT_BITMAP));
 
     CPropertyPage page(EXT_DIALOG);
-    CPropertySheet sheet("sheet");
+    CPropertySheet sheet(_T("sheet"));
     sheet.AddPage(&page);
     REQUIRE(sheet.Create());
     CHECK(page.m_hWnd != NULL);
@@ -251,35 +251,35 @@ TEST_CASE("a long string is cut to the buffer")
 {
     TCHAR text[8];
     CHECK(AfxLoadString(AFX_IDP_PARSE_INT, text, 8) == 7);
-    CHECK(strlen(text) == 7);
+    CHECK(_tcslen(text) == 7);
     CHECK(AfxLoadString(AFX_IDP_PARSE_INT, text, 0) == 0);
 }
 
 TEST_CASE("placeholders of a string are replaced")
 {
     CString text;
-    AfxFormatString2(text, EXT_STRING_WITH_PLACES, "left", "right");
+    AfxFormatString2(text, EXT_STRING_WITH_PLACES, _T("left"), _T("right"));
     CHECK(text == "right before left, 100% %3");
-    AfxFormatString1(text, EXT_STRING_WITH_PLACES, "left");
+    AfxFormatString1(text, EXT_STRING_WITH_PLACES, _T("left"));
     CHECK(text == "%2 before left, 100% %3");
-    AfxFormatString2(text, EXT_STRING_WITH_PLACES, NULL, "%1");
+    AfxFormatString2(text, EXT_STRING_WITH_PLACES, NULL, _T("%1"));
     CHECK(text == "%1 before , 100% %3");
 }
 
 TEST_CASE("parts are taken out of a text")
 {
     CString part;
-    CHECK(AfxExtractSubString(part, "one\ntwo\n\nfour", 0));
+    CHECK(AfxExtractSubString(part, _T("one\ntwo\n\nfour"), 0));
     CHECK(part == "one");
-    CHECK(AfxExtractSubString(part, "one\ntwo\n\nfour", 1));
+    CHECK(AfxExtractSubString(part, _T("one\ntwo\n\nfour"), 1));
     CHECK(part == "two");
-    CHECK(AfxExtractSubString(part, "one\ntwo\n\nfour", 2));
+    CHECK(AfxExtractSubString(part, _T("one\ntwo\n\nfour"), 2));
     CHECK(part == "");
-    CHECK(AfxExtractSubString(part, "one\ntwo\n\nfour", 3));
+    CHECK(AfxExtractSubString(part, _T("one\ntwo\n\nfour"), 3));
     CHECK(part == "four");
-    CHECK_FALSE(AfxExtractSubString(part, "one\ntwo\n\nfour", 4));
+    CHECK_FALSE(AfxExtractSubString(part, _T("one\ntwo\n\nfour"), 4));
     CHECK(part == "");
-    CHECK(AfxExtractSubString(part, "a;b", 1, ';'));
+    CHECK(AfxExtractSubString(part, _T("a;b"), 1, ';'));
     CHECK(part == "b");
     CHECK_FALSE(AfxExtractSubString(part, NULL, 0));
 }

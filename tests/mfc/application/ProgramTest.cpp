@@ -175,7 +175,7 @@ TEST_CASE("the wizard's program refuses wrong data and stays open")
         program.PostClick(IDOK);
         const HWND box = program.Find("mfc-test-wizard");
         REQUIRE(box != nullptr);
-        const std::string text = MessageBoxText(box);
+        const CString text = MessageBoxText(box);
         CHECK_FALSE(::IsWindowEnabled(program.window));
         ::PostMessage(box, WM_COMMAND, IDOK, 0);
         CHECK(WaitFor([&] { return !::IsWindow(box); }));

@@ -14,7 +14,7 @@ TEST_CASE("an animation that is missing is not opened")
     CAnimateCtrl clip;
     REQUIRE(clip.Create(shownChild | ACS_CENTER, CRect(10, 10, 110, 60), &host, 33));
     CHECK((clip.GetStyle() & ACS_CENTER) != 0);
-    CHECK_FALSE(clip.Open("C:\\no such file.avi"));
+    CHECK_FALSE(clip.Open(_T("C:\\no such file.avi")));
     CHECK_FALSE(clip.Open(4711u));
     CHECK_FALSE(clip.IsPlaying());
 }

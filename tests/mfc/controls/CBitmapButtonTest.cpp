@@ -27,7 +27,7 @@ TEST_CASE("a bitmap button shows the bitmap of its state")
 {
     ControlHost host;
     CBitmapButton button;
-    REQUIRE(button.Create("", shownChild | BS_OWNERDRAW, place, &host, 7));
+    REQUIRE(button.Create(_T(""), shownChild | BS_OWNERDRAW, place, &host, 7));
     REQUIRE(button.LoadBitmaps(redBitmap, blueBitmap, 0, greenBitmap));
     button.Invalidate();
     CHECK(Shown(button) == red);
@@ -43,7 +43,7 @@ TEST_CASE("a bitmap button falls back on its normal bitmap")
 {
     ControlHost host;
     CBitmapButton button;
-    REQUIRE(button.Create("", shownChild | BS_OWNERDRAW, place, &host, 7));
+    REQUIRE(button.Create(_T(""), shownChild | BS_OWNERDRAW, place, &host, 7));
     REQUIRE(button.LoadBitmaps(redBitmap));
     button.SetState(TRUE);
     CHECK(Shown(button) == red);
@@ -63,7 +63,8 @@ TEST_CASE("a bitmap button takes over a control with bitmaps named after its cap
 {
     ControlHost host;
     CWnd plain;
-    REQUIRE(plain.CreateEx(0, "BUTTON", "SIGNAL", shownChild | BS_OWNERDRAW, place, &host, 7));
+    REQUIRE(
+        plain.CreateEx(0, _T("BUTTON"), _T("SIGNAL"), shownChild | BS_OWNERDRAW, place, &host, 7));
     plain.UnsubclassWindow();
     CBitmapButton button;
     REQUIRE(button.AutoLoad(7, &host));

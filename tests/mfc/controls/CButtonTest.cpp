@@ -72,7 +72,7 @@ TEST_CASE("a button is made with its text, place, style and id")
 {
     ControlHost host;
     CButton button;
-    REQUIRE(button.Create("&Go", shownChild | BS_PUSHBUTTON, place, &host, buttonId));
+    REQUIRE(button.Create(_T("&Go"), shownChild | BS_PUSHBUTTON, place, &host, buttonId));
     CString text;
     button.GetWindowText(text);
     CHECK(text == "&Go");
@@ -91,7 +91,7 @@ TEST_CASE("a click reaches the parent as BN_CLICKED")
 {
     ControlHost host;
     CButton button;
-    REQUIRE(button.Create("Go", shownChild | BS_PUSHBUTTON, place, &host, buttonId));
+    REQUIRE(button.Create(_T("Go"), shownChild | BS_PUSHBUTTON, place, &host, buttonId));
     REQUIRE(Click(button.m_hWnd));
     CHECK(host.Heard(BN_CLICKED));
 }
@@ -100,7 +100,7 @@ TEST_CASE("a button gets its own click back when the parent does not handle it")
 {
     ControlHost host;
     CCountedButton button;
-    REQUIRE(button.Create("Go", shownChild | BS_PUSHBUTTON, place, &host, buttonId));
+    REQUIRE(button.Create(_T("Go"), shownChild | BS_PUSHBUTTON, place, &host, buttonId));
     REQUIRE(Click(button.m_hWnd));
     CHECK(button.clicks == 1);
 }
@@ -109,7 +109,7 @@ TEST_CASE("a check box is checked, unchecked and, with three states, undecided")
 {
     ControlHost host;
     CButton button;
-    REQUIRE(button.Create("Box", shownChild | BS_AUTO3STATE, place, &host, buttonId));
+    REQUIRE(button.Create(_T("Box"), shownChild | BS_AUTO3STATE, place, &host, buttonId));
     CHECK(button.GetCheck() == BST_UNCHECKED);
     button.SetCheck(BST_CHECKED);
     CHECK(button.GetCheck() == BST_CHECKED);
@@ -124,7 +124,7 @@ TEST_CASE("SetState presses a button without a click")
 {
     ControlHost host;
     CButton button;
-    REQUIRE(button.Create("Go", shownChild | BS_PUSHBUTTON, place, &host, buttonId));
+    REQUIRE(button.Create(_T("Go"), shownChild | BS_PUSHBUTTON, place, &host, buttonId));
     button.SetState(TRUE);
     CHECK((button.GetState() & BST_PUSHED) != 0);
     button.SetState(FALSE);
@@ -136,7 +136,7 @@ TEST_CASE("SetButtonStyle makes a button the default one")
 {
     ControlHost host;
     CButton button;
-    REQUIRE(button.Create("Go", shownChild | BS_PUSHBUTTON, place, &host, buttonId));
+    REQUIRE(button.Create(_T("Go"), shownChild | BS_PUSHBUTTON, place, &host, buttonId));
     button.SetButtonStyle(BS_DEFPUSHBUTTON);
     CHECK((button.GetButtonStyle() & BS_TYPEMASK) == BS_DEFPUSHBUTTON);
 }
@@ -145,8 +145,8 @@ TEST_CASE("a button keeps icon, bitmap and cursor, and gives the former one back
 {
     ControlHost host;
     CButton iconButton, bitmapButton;
-    REQUIRE(iconButton.Create("", shownChild | BS_ICON, place, &host, buttonId));
-    REQUIRE(bitmapButton.Create("", shownChild | BS_BITMAP, place, &host, buttonId + 1));
+    REQUIRE(iconButton.Create(_T(""), shownChild | BS_ICON, place, &host, buttonId));
+    REQUIRE(bitmapButton.Create(_T(""), shownChild | BS_BITMAP, place, &host, buttonId + 1));
 
     const HICON icon = ::LoadIcon(NULL, IDI_INFORMATION);
     CHECK(iconButton.GetIcon() == NULL);
@@ -165,7 +165,7 @@ TEST_CASE("a cursor goes to the button as its image")
 {
     ControlHost host;
     CButton button;
-    REQUIRE(button.Create("", shownChild | BS_ICON, place, &host, buttonId));
+    REQUIRE(button.Create(_T(""), shownChild | BS_ICON, place, &host, buttonId));
     const HCURSOR cursor = ::LoadCursor(NULL, IDC_CROSS);
     MessageLog log(button.m_hWnd);
     button.SetCursor(cursor);
@@ -182,7 +182,7 @@ TEST_CASE("an owner-drawn button draws itself through its virtual DrawItem")
 {
     ControlHost host;
     CPaintedButton button;
-    REQUIRE(button.Create("", shownChild | BS_OWNERDRAW, place, &host, buttonId));
+    REQUIRE(button.Create(_T(""), shownChild | BS_OWNERDRAW, place, &host, buttonId));
     button.UpdateWindow();
     CHECK(button.draws > 0);
     CHECK(button.lastId == buttonId);
@@ -198,7 +198,7 @@ TEST_CASE("a parent that handles WM_DRAWITEM decides whether the button draws it
 {
     CDrawingHost host;
     CPaintedButton button;
-    REQUIRE(button.Create("", shownChild | BS_OWNERDRAW, place, &host, buttonId));
+    REQUIRE(button.Create(_T(""), shownChild | BS_OWNERDRAW, place, &host, buttonId));
     button.UpdateWindow();
     CHECK(host.draws > 0);
     CHECK(button.draws == 0);

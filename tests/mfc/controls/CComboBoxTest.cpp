@@ -22,7 +22,7 @@ struct Combo
     explicit Combo(DWORD style = CBS_DROPDOWN)
     {
         REQUIRE(box.Create(shownChild | WS_VSCROLL | style, place, &host, 40));
-        for (const char* item : {"delta", "alpha", "charlie", "bravo"})
+        for (LPCTSTR item : {_T("delta"), _T("alpha"), _T("charlie"), _T("bravo")})
             box.AddString(item);
     }
     CString Text(int index)
@@ -59,10 +59,10 @@ TEST_CASE("the items of a combo box are added, inserted, deleted and read")
 {
     Combo combo;
     CHECK(combo.box.GetCount() == 4);
-    CHECK(combo.box.InsertString(2, "new") == 2);
+    CHECK(combo.box.InsertString(2, _T("new")) == 2);
     CHECK(combo.Text(2) == "new");
     CHECK(combo.box.GetLBTextLen(2) == 3);
-    char text[10];
+    TCHAR text[10];
     CHECK(combo.box.GetLBText(2, text) == 3);
     CHECK(combo.box.DeleteString(2) == 4);
     CString unchanged = "former";
@@ -76,9 +76,9 @@ TEST_CASE("the items of a combo box are found and selected by their text")
 {
     Combo combo;
     CHECK(combo.box.GetCurSel() == CB_ERR);
-    CHECK(combo.box.FindString(-1, "ch") == 2);
-    CHECK(combo.box.FindStringExact(-1, "ch") == CB_ERR);
-    CHECK(combo.box.SelectString(-1, "br") == 3);
+    CHECK(combo.box.FindString(-1, _T("ch")) == 2);
+    CHECK(combo.box.FindStringExact(-1, _T("ch")) == CB_ERR);
+    CHECK(combo.box.SelectString(-1, _T("br")) == 3);
     CHECK(combo.box.GetCurSel() == 3);
     CHECK(combo.box.SetCurSel(1) == 1);
     CString shown;
@@ -127,7 +127,7 @@ TEST_CASE("a key in a combo box selects, and the parent hears of it")
 TEST_CASE("the field of a combo box is edited, limited and goes through the clipboard")
 {
     Combo combo;
-    combo.box.SetWindowText("one two");
+    combo.box.SetWindowText(_T("one two"));
     CHECK(combo.box.SetEditSel(0, 3));
     CHECK(combo.box.GetEditSel() == MAKELONG(0, 3));
     combo.box.Cut();
@@ -145,9 +145,9 @@ TEST_CASE("the field of a combo box is edited, limited and goes through the clip
     CHECK(text == "twoone");
 
     combo.box.LimitText(2);
-    combo.box.SetWindowText("");
+    combo.box.SetWindowText(_T(""));
     combo.box.SetFocus();
-    TypeText("abcd");
+    TypeText(_T("abcd"));
     combo.box.GetWindowText(text);
     CHECK(text == "ab");
 }
@@ -156,7 +156,7 @@ TEST_CASE("a combo box has heights, a top item, a width to scroll and a locale")
 {
     Combo combo(CBS_SIMPLE);
     for (int i = 0; i < 100; ++i)
-        combo.box.AddString("more");
+        combo.box.AddString(_T("more"));
     const int height = combo.box.GetItemHeight(-1); // The system adds room of its own.
     CHECK(combo.box.SetItemHeight(-1, height + 10) != CB_ERR);
     CHECK(combo.box.GetItemHeight(-1) > height);
@@ -185,7 +185,7 @@ TEST_CASE("Dir lists files in a combo box")
     ControlHost host;
     CComboBox box;
     REQUIRE(box.Create(shownChild | CBS_DROPDOWNLIST, place, &host, 40));
-    CHECK(box.Dir(DDL_READWRITE, "C:\\windows\\*.*") != CB_ERR);
+    CHECK(box.Dir(DDL_READWRITE, _T("C:\\windows\\*.*")) != CB_ERR);
     CHECK(box.GetCount() > 0);
 }
 

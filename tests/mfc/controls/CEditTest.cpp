@@ -34,7 +34,7 @@ struct Lines : Field
 {
     Lines() : Field(ES_MULTILINE | ES_AUTOVSCROLL | ES_AUTOHSCROLL)
     {
-        edit.SetWindowText("first\r\nsecond line\r\nthird");
+        edit.SetWindowText(_T("first\r\nsecond line\r\nthird"));
     }
 };
 
@@ -44,7 +44,7 @@ TEST_CASE("typing changes the text, and the parent hears of it")
 {
     Field field;
     field.edit.SetFocus();
-    REQUIRE(TypeText("abc"));
+    REQUIRE(TypeText(_T("abc")));
     CHECK(field.Text() == "abc");
     CHECK(field.edit.GetModify());
     CHECK(field.host.Heard(EN_CHANGE));
@@ -55,7 +55,7 @@ TEST_CASE("typing changes the text, and the parent hears of it")
 TEST_CASE("a selection is set and told in both forms")
 {
     Field field;
-    field.edit.SetWindowText("0123456789");
+    field.edit.SetWindowText(_T("0123456789"));
     field.edit.SetSel(2, 5);
     int start = -1, end = -1;
     field.edit.GetSel(start, end);
@@ -75,9 +75,9 @@ TEST_CASE("a selection is set and told in both forms")
 TEST_CASE("ReplaceSel replaces the selection and can be undone")
 {
     Field field;
-    field.edit.SetWindowText("one two");
+    field.edit.SetWindowText(_T("one two"));
     field.edit.SetSel(0, 3);
-    field.edit.ReplaceSel("three", TRUE);
+    field.edit.ReplaceSel(_T("three"), TRUE);
     CHECK(field.Text() == "three two");
     CHECK(field.edit.CanUndo());
     CHECK(field.edit.Undo());
@@ -89,7 +89,7 @@ TEST_CASE("ReplaceSel replaces the selection and can be undone")
 TEST_CASE("cut, copy, paste and clear go through the clipboard")
 {
     Field field;
-    field.edit.SetWindowText("one two");
+    field.edit.SetWindowText(_T("one two"));
     field.edit.SetSel(0, 4);
     field.edit.Cut();
     CHECK(field.Text() == "two");
@@ -111,7 +111,7 @@ TEST_CASE("the limit holds for typing")
     field.edit.SetLimitText(3);
     CHECK(field.edit.GetLimitText() == 3);
     field.edit.SetFocus();
-    REQUIRE(TypeText("abcdef"));
+    REQUIRE(TypeText(_T("abcdef")));
     CHECK(field.Text() == "abc");
     field.edit.LimitText(20);
     CHECK(field.edit.GetLimitText() == 20);
@@ -123,7 +123,7 @@ TEST_CASE("a read-only field refuses typing")
     CHECK(field.edit.SetReadOnly());
     CHECK((field.edit.GetStyle() & ES_READONLY) != 0);
     field.edit.SetFocus();
-    TypeText("abc");
+    TypeText(_T("abc"));
     CHECK(field.Text() == "");
     CHECK(field.edit.SetReadOnly(FALSE));
     CHECK((field.edit.GetStyle() & ES_READONLY) == 0);
@@ -148,12 +148,12 @@ TEST_CASE("lines are counted, found and copied")
     CHECK(field.edit.LineLength(7) == 11);
     CHECK(field.edit.GetFirstVisibleLine() == 0);
 
-    char line[40] = {};
-    CHECK(field.edit.GetLine(1, line, sizeof(line)) == 11);
-    CHECK(std::string(line, 11) == "second line");
-    char few[40] = {};
+    TCHAR line[40] = {};
+    CHECK(field.edit.GetLine(1, line, _countof(line)) == 11);
+    CHECK(CString(line, 11) == "second line");
+    TCHAR few[40] = {};
     CHECK(field.edit.GetLine(1, few, 4) == 4);
-    CHECK(std::string(few, 4) == "seco");
+    CHECK(CString(few, 4) == "seco");
 
     field.edit.SetSel(8, 8);
     CHECK(field.edit.LineFromChar() == 1);
@@ -203,7 +203,7 @@ TEST_CASE("margins and the formatting rectangle are kept")
 TEST_CASE("tab stops move the text behind a tab")
 {
     Field field(ES_MULTILINE);
-    field.edit.SetWindowText("a\tb");
+    field.edit.SetWindowText(_T("a\tb"));
     CHECK(field.edit.SetTabStops(20));
     const int near20 = field.edit.PosFromChar(2).x;
     CHECK(field.edit.SetTabStops(60));

@@ -20,10 +20,10 @@ struct Header
     {
         REQUIRE(
             header.Create(shownChild | HDS_HORZ | HDS_BUTTONS, CRect(10, 10, 310, 35), &host, 99));
-        Insert("first", 100);
-        Insert("second", 80);
+        Insert(_T("first"), 100);
+        Insert(_T("second"), 80);
     }
-    void Insert(const char* text, int width, int format = HDF_LEFT | HDF_STRING)
+    void Insert(LPCTSTR text, int width, int format = HDF_LEFT | HDF_STRING)
     {
         HDITEM item = {};
         item.mask = HDI_TEXT | HDI_WIDTH | HDI_FORMAT;
@@ -47,13 +47,13 @@ TEST_CASE("a header has items with texts and widths")
 {
     Header header;
     CHECK(header.header.GetItemCount() == 2);
-    char text[20] = {};
+    TCHAR text[20] = {};
     HDITEM item = {};
     item.mask = HDI_TEXT | HDI_WIDTH;
     item.pszText = text;
-    item.cchTextMax = sizeof(text);
+    item.cchTextMax = _countof(text);
     CHECK(header.header.GetItem(1, &item));
-    CHECK(std::string(text) == "second");
+    CHECK(CString(text) == _T("second"));
     CHECK(item.cxy == 80);
     item.mask = HDI_WIDTH;
     item.cxy = 44;

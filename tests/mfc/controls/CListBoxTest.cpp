@@ -25,7 +25,7 @@ struct List
     explicit List(DWORD style = LBS_NOTIFY | LBS_HASSTRINGS)
     {
         REQUIRE(list.Create(shownChild | style, place, &host, 30));
-        for (const char* item : {"delta", "alpha", "charlie", "bravo"})
+        for (LPCTSTR item : {_T("delta"), _T("alpha"), _T("charlie"), _T("bravo")})
             list.AddString(item);
     }
     CString Text(int index)
@@ -80,12 +80,12 @@ TEST_CASE("items are added, inserted, deleted and read")
     List list;
     CHECK(list.list.GetCount() == 4);
     CHECK(list.Text(1) == "alpha");
-    CHECK(list.list.InsertString(1, "new") == 1);
+    CHECK(list.list.InsertString(1, _T("new")) == 1);
     CHECK(list.Text(1) == "new");
     CHECK(list.list.GetTextLen(1) == 3);
-    char text[10];
+    TCHAR text[10];
     CHECK(list.list.GetText(1, text) == 3);
-    CHECK(std::string(text) == "new");
+    CHECK(CString(text) == "new");
     CHECK(list.list.DeleteString(1) == 4);
     CHECK(list.list.DeleteString(99) == LB_ERR);
     CString unchanged = "former";
@@ -105,11 +105,11 @@ TEST_CASE("a sorted list puts each item at its place")
 TEST_CASE("items are found and selected by their text")
 {
     List list;
-    CHECK(list.list.FindString(-1, "ch") == 2);
-    CHECK(list.list.FindStringExact(-1, "ch") == LB_ERR);
-    CHECK(list.list.FindStringExact(-1, "bravo") == 3);
+    CHECK(list.list.FindString(-1, _T("ch")) == 2);
+    CHECK(list.list.FindStringExact(-1, _T("ch")) == LB_ERR);
+    CHECK(list.list.FindStringExact(-1, _T("bravo")) == 3);
     CHECK(list.list.GetCurSel() == LB_ERR);
-    CHECK(list.list.SelectString(-1, "cha") == 2);
+    CHECK(list.list.SelectString(-1, _T("cha")) == 2);
     CHECK(list.list.GetCurSel() == 2);
     CHECK(list.list.SetCurSel(0) != LB_ERR);
     CHECK(list.list.GetCurSel() == 0);
@@ -171,7 +171,7 @@ TEST_CASE("a list scrolls, and its items have heights and columns")
 {
     List list(WS_VSCROLL | WS_HSCROLL);
     for (int i = 0; i < 50; ++i)
-        list.list.AddString("more");
+        list.list.AddString(_T("more"));
     CHECK(list.list.SetTopIndex(20) != LB_ERR);
     CHECK(list.list.GetTopIndex() == 20);
     CHECK(list.list.SetItemHeight(0, 25) != LB_ERR);
@@ -200,7 +200,7 @@ TEST_CASE("Dir lists files")
     ControlHost host;
     CListBox list;
     REQUIRE(list.Create(shownChild, place, &host, 30));
-    CHECK(list.Dir(DDL_READWRITE, "C:\\windows\\*.*") != LB_ERR);
+    CHECK(list.Dir(DDL_READWRITE, _T("C:\\windows\\*.*")) != LB_ERR);
     CHECK(list.GetCount() > 0);
 }
 

@@ -19,9 +19,9 @@ struct Report
     explicit Report(DWORD style = LVS_REPORT)
     {
         REQUIRE(list.Create(shownChild | style, CRect(10, 10, 310, 210), &host, 90));
-        list.InsertColumn(0, "Name", LVCFMT_LEFT, 120);
-        list.InsertColumn(1, "Size", LVCFMT_RIGHT, 80, 1);
-        for (const char* item : {"delta", "alpha", "charlie"})
+        list.InsertColumn(0, _T("Name"), LVCFMT_LEFT, 120);
+        list.InsertColumn(1, _T("Size"), LVCFMT_RIGHT, 80, 1);
+        for (LPCTSTR item : {_T("delta"), _T("alpha"), _T("charlie")})
             list.InsertItem(list.GetItemCount(), item);
     }
 };
@@ -45,13 +45,13 @@ TEST_CASE("a list control has items with texts in columns")
     Report report;
     CHECK(report.list.GetItemCount() == 3);
     CHECK(report.list.GetItemText(1, 0) == "alpha");
-    CHECK(report.list.SetItemText(1, 1, "12 bytes"));
+    CHECK(report.list.SetItemText(1, 1, _T("12 bytes")));
     CHECK(report.list.GetItemText(1, 1) == "12 bytes");
     const CString longText('x', 400);
     CHECK(report.list.SetItemText(0, 1, longText));
     CHECK(report.list.GetItemText(0, 1).GetLength() >= 259);
-    char text[10];
-    CHECK(report.list.GetItemText(1, 1, text, sizeof(text)) == 8);
+    TCHAR text[10];
+    CHECK(report.list.GetItemText(1, 1, text, _countof(text)) == 8);
     CHECK(report.list.DeleteItem(1));
     CHECK(report.list.GetItemText(1, 0) == "charlie");
     CHECK(report.list.DeleteAllItems());
@@ -64,13 +64,13 @@ TEST_CASE("a list control has columns with a width and an order")
     CHECK(report.list.GetColumnWidth(0) == 120);
     CHECK(report.list.SetColumnWidth(0, 99));
     CHECK(report.list.GetColumnWidth(0) == 99);
-    char text[20];
+    TCHAR text[20];
     LVCOLUMN column = {};
     column.mask = LVCF_TEXT | LVCF_FMT;
     column.pszText = text;
-    column.cchTextMax = sizeof(text);
+    column.cchTextMax = _countof(text);
     CHECK(report.list.GetColumn(1, &column));
-    CHECK(std::string(text) == "Size");
+    CHECK(CString(text) == "Size");
     CHECK((column.fmt & LVCFMT_JUSTIFYMASK) == LVCFMT_RIGHT);
     int order[] = {1, 0};
     CHECK(report.list.SetColumnOrderArray(2, order));
@@ -114,7 +114,7 @@ TEST_CASE("the items of a list control carry data and are sorted by it")
 
     LVFINDINFO sought = {};
     sought.flags = LVFI_STRING;
-    sought.psz = "delta";
+    sought.psz = _T("delta");
     CHECK(report.list.FindItem(&sought) == 1);
 }
 
@@ -204,12 +204,12 @@ TEST_CASE("a label of a list control is edited in place")
 TEST_CASE("a list control measures")
 {
     Report report;
-    CHECK(report.list.GetStringWidth("a long text") > report.list.GetStringWidth("a"));
+    CHECK(report.list.GetStringWidth(_T("a long text")) > report.list.GetStringWidth(_T("a")));
     CHECK(report.list.GetCountPerPage() > 3);
     CHECK(report.list.GetTopIndex() == 0);
     CHECK(report.list.ApproximateViewRect().cx >= 200);
     for (int i = 0; i < 100; ++i)
-        report.list.InsertItem(i, "more");
+        report.list.InsertItem(i, _T("more"));
     CHECK(report.list.EnsureVisible(90, FALSE));
     CHECK(report.list.GetTopIndex() > 50);
     CHECK(report.list.Scroll(CSize(0, -10000)));
@@ -222,8 +222,8 @@ TEST_CASE("an owner-drawn list control draws through its virtual DrawItem")
     CPaintedList list;
     const DWORD style = LVS_REPORT | LVS_OWNERDRAWFIXED;
     REQUIRE(list.Create(shownChild | style, CRect(10, 10, 210, 110), &host, 91));
-    list.InsertColumn(0, "Name", LVCFMT_LEFT, 100);
-    list.InsertItem(0, "one");
+    list.InsertColumn(0, _T("Name"), LVCFMT_LEFT, 100);
+    list.InsertItem(0, _T("one"));
     list.UpdateWindow();
     CHECK(list.draws > 0);
 }

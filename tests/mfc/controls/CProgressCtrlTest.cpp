@@ -25,7 +25,7 @@ struct Bar
 /// A themed bar has the colours of its theme.
 void WithoutTheme(HWND control)
 {
-    const HMODULE themes = ::LoadLibrary("uxtheme.dll");
+    const HMODULE themes = ::LoadLibrary(_T("uxtheme.dll"));
     REQUIRE(themes != NULL);
     typedef HRESULT(WINAPI * SetTheme)(HWND, LPCWSTR, LPCWSTR);
     const auto setTheme = (SetTheme)(void*)::GetProcAddress(themes, "SetWindowTheme");

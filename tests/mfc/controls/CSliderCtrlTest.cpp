@@ -120,8 +120,8 @@ TEST_CASE("a slider has companions at its ends, and tool tips")
 {
     Slider slider(TBS_HORZ | TBS_TOOLTIPS);
     CStatic left, right;
-    REQUIRE(left.Create("0", shownChild, CRect(0, 0, 20, 20), &slider.host));
-    REQUIRE(right.Create("9", shownChild, CRect(0, 0, 20, 20), &slider.host));
+    REQUIRE(left.Create(_T("0"), shownChild, CRect(0, 0, 20, 20), &slider.host));
+    REQUIRE(right.Create(_T("9"), shownChild, CRect(0, 0, 20, 20), &slider.host));
     CHECK(slider.slider.SetBuddy(&left) == NULL);
     CHECK(slider.slider.SetBuddy(&right, FALSE) == NULL);
     CHECK(slider.slider.GetBuddy() == &left);

@@ -43,9 +43,9 @@ TEST_CASE("a spin button writes its position into its companion")
     CHECK(spin.spin.SetPos(18) == 17);
     CHECK(LOWORD(spin.spin.GetPos()) == 18);
     CHECK(HIWORD(spin.spin.GetPos()) == 0);
-    spin.field.SetWindowText("23");
+    spin.field.SetWindowText(_T("23"));
     CHECK(LOWORD(spin.spin.GetPos()) == 23);
-    spin.field.SetWindowText("no number");
+    spin.field.SetWindowText(_T("no number"));
     CHECK(HIWORD(spin.spin.GetPos()) != 0);
 }
 
@@ -85,7 +85,7 @@ TEST_CASE("a spin button counts in tens or sixteens")
     CHECK(spin.spin.SetBase(16) == 10);
     CHECK(spin.spin.GetBase() == 16);
     spin.spin.SetPos(255);
-    CHECK(spin.Text().Right(2).CompareNoCase("FF") == 0);
+    CHECK(spin.Text().Right(2).CompareNoCase(_T("FF")) == 0);
 }
 
 TEST_CASE("a spin button keeps what it accelerates by")

@@ -68,8 +68,8 @@ TEST_CASE("a label is made with the id of all labels unless another is given")
 {
     ControlHost host;
     CStatic label, named;
-    REQUIRE(label.Create("Text", shownChild, place, &host));
-    REQUIRE(named.Create("Text", shownChild, place, &host, 77));
+    REQUIRE(label.Create(_T("Text"), shownChild, place, &host));
+    REQUIRE(named.Create(_T("Text"), shownChild, place, &host, 77));
     CHECK((label.GetDlgCtrlID() & 0xffff) == 0xffff);
     CHECK(named.GetDlgCtrlID() == 77);
     CString text;
@@ -82,7 +82,7 @@ TEST_CASE("a label made in code sees its own WM_CREATE")
 {
     ControlHost host;
     CWatchedStatic label;
-    REQUIRE(label.Create("Text", shownChild, place, &host));
+    REQUIRE(label.Create(_T("Text"), shownChild, place, &host));
     CHECK(label.creations == 1);
 }
 
@@ -91,7 +91,7 @@ TEST_CASE("a label keeps the picture of its kind and gives the former one back")
     ControlHost host;
 
     CStatic iconLabel;
-    REQUIRE(iconLabel.Create("", shownChild | SS_ICON, place, &host));
+    REQUIRE(iconLabel.Create(_T(""), shownChild | SS_ICON, place, &host));
     const HICON icon = ::LoadIcon(NULL, IDI_WARNING);
     CHECK(iconLabel.SetIcon(icon) == NULL);
     CHECK(iconLabel.GetIcon() == icon);
@@ -100,14 +100,14 @@ TEST_CASE("a label keeps the picture of its kind and gives the former one back")
     CHECK(iconLabel.GetCursor() == cursor);
 
     CStatic bitmapLabel;
-    REQUIRE(bitmapLabel.Create("", shownChild | SS_BITMAP, place, &host));
+    REQUIRE(bitmapLabel.Create(_T(""), shownChild | SS_BITMAP, place, &host));
     CBitmap bitmap;
     REQUIRE(bitmap.CreateBitmap(8, 8, 1, 1, NULL));
     CHECK(bitmapLabel.SetBitmap(bitmap) == NULL);
     CHECK(bitmapLabel.GetBitmap() == (HBITMAP)bitmap);
 
     CStatic fileLabel;
-    REQUIRE(fileLabel.Create("", shownChild | SS_ENHMETAFILE, place, &host));
+    REQUIRE(fileLabel.Create(_T(""), shownChild | SS_ENHMETAFILE, place, &host));
     const HENHMETAFILE metafile = ::CloseEnhMetaFile(::CreateEnhMetaFile(NULL, NULL, NULL, NULL));
     REQUIRE(metafile != NULL);
     CHECK(fileLabel.SetEnhMetaFile(metafile) == NULL);
@@ -120,7 +120,7 @@ TEST_CASE("an owner-drawn label draws itself through its virtual DrawItem")
 {
     ControlHost host;
     CPaintedStatic label;
-    REQUIRE(label.Create("", shownChild | SS_OWNERDRAW, place, &host, 5));
+    REQUIRE(label.Create(_T(""), shownChild | SS_OWNERDRAW, place, &host, 5));
     label.UpdateWindow();
     CHECK(label.draws > 0);
     CHECK(Picture::OfWindow(label.m_hWnd).CountOf(ownColor) == place.Width() * place.Height());
@@ -130,7 +130,7 @@ TEST_CASE("a label may choose its own colours")
 {
     ControlHost host;
     CColoredStatic label;
-    REQUIRE(label.Create("", shownChild, place, &host));
+    REQUIRE(label.Create(_T(""), shownChild, place, &host));
     label.UpdateWindow();
     CHECK(Picture::OfWindow(label.m_hWnd).CountOf(ownColor) == place.Width() * place.Height());
 }

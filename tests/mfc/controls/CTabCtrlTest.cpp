@@ -19,9 +19,9 @@ struct Tabs
     explicit Tabs(DWORD style = 0)
     {
         REQUIRE(tabs.Create(shownChild | style, CRect(10, 10, 310, 210), &host, 97));
-        tabs.InsertItem(0, "first");
-        tabs.InsertItem(1, "second");
-        tabs.InsertItem(2, "third");
+        tabs.InsertItem(0, _T("first"));
+        tabs.InsertItem(1, _T("second"));
+        tabs.InsertItem(2, _T("third"));
     }
 };
 
@@ -38,14 +38,14 @@ TEST_CASE("tabs are inserted, read, changed and deleted")
 {
     Tabs tabs;
     CHECK(tabs.tabs.GetItemCount() == 3);
-    char text[20] = {};
+    TCHAR text[20] = {};
     TCITEM item = {};
     item.mask = TCIF_TEXT;
     item.pszText = text;
-    item.cchTextMax = sizeof(text);
+    item.cchTextMax = _countof(text);
     CHECK(tabs.tabs.GetItem(1, &item));
-    CHECK(std::string(item.pszText) == "second");
-    CHECK(tabs.tabs.InsertItem(TCIF_TEXT | TCIF_PARAM, 0, "zero", -1, 77) == 0);
+    CHECK(CString(item.pszText) == _T("second"));
+    CHECK(tabs.tabs.InsertItem(TCIF_TEXT | TCIF_PARAM, 0, _T("zero"), -1, 77) == 0);
     item.mask = TCIF_PARAM;
     CHECK(tabs.tabs.GetItem(0, &item));
     CHECK(item.lParam == 77);
@@ -108,7 +108,7 @@ TEST_CASE("owner-drawn tabs are drawn through the virtual DrawItem")
     CPaintedTabs tabs;
     const DWORD style = TCS_OWNERDRAWFIXED;
     REQUIRE(tabs.Create(shownChild | style, CRect(10, 10, 210, 110), &host, 98));
-    tabs.InsertItem(0, "one");
+    tabs.InsertItem(0, _T("one"));
     tabs.UpdateWindow();
     CHECK(tabs.draws > 0);
 }

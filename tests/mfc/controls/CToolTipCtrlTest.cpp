@@ -24,8 +24,8 @@ public:
 
     CTipHost()
     {
-        REQUIRE(first.Create("1", shownChild, CRect(20, 60, 120, 90), this, 1));
-        REQUIRE(second.Create("2", shownChild, CRect(20, 160, 120, 190), this, 2));
+        REQUIRE(first.Create(_T("1"), shownChild, CRect(20, 60, 120, 90), this, 1));
+        REQUIRE(second.Create(_T("2"), shownChild, CRect(20, 160, 120, 190), this, 2));
         REQUIRE(tip.Create(this, TTS_ALWAYSTIP));
         tip.SetDelayTime(TTDT_INITIAL, 30);
     }
@@ -46,7 +46,7 @@ protected:
     afx_msg BOOL OnNeedText(UINT, NMHDR* header, LRESULT*)
     {
         ++questions;
-        ((TOOLTIPTEXT*)header)->lpszText = const_cast<LPTSTR>("asked for");
+        ((TOOLTIPTEXT*)header)->lpszText = const_cast<LPTSTR>(_T("asked for"));
         return TRUE;
     }
     DECLARE_MESSAGE_MAP()
@@ -71,15 +71,15 @@ TEST_CASE("a tool tip is made as a popup of its parent")
 TEST_CASE("texts of tools are copied, given back, changed and taken away")
 {
     CTipHost host;
-    char text[] = "the first";
+    TCHAR text[] = _T("the first");
     CHECK(host.tip.AddTool(&host.first, text));
     text[0] = 'X';
-    CHECK(host.tip.AddTool(&host.second, "the second"));
+    CHECK(host.tip.AddTool(&host.second, _T("the second")));
     CHECK(host.tip.GetToolCount() == 2);
     CHECK(host.TextOf(&host.first) == "the first");
     CHECK(host.TextOf(&host.second) == "the second");
 
-    host.tip.UpdateTipText("changed", &host.first);
+    host.tip.UpdateTipText(_T("changed"), &host.first);
     CHECK(host.TextOf(&host.first) == "changed");
 
     host.tip.DelTool(&host.first);
@@ -117,7 +117,7 @@ TEST_CASE("a rectangle is a tool under an id of its own")
 {
     CTipHost host;
     const CRect area(200, 10, 300, 60);
-    CHECK(host.tip.AddTool(&host, "the area", area, 5));
+    CHECK(host.tip.AddTool(&host, _T("the area"), area, 5));
     CHECK(host.TextOf(&host, 5) == "the area");
 
     TOOLINFO hit = {};
@@ -132,15 +132,15 @@ TEST_CASE("a rectangle is a tool under an id of its own")
 TEST_CASE("a tool tells all about itself")
 {
     CTipHost host;
-    CHECK(host.tip.AddTool(&host, "the area", CRect(200, 10, 300, 60), 5));
+    CHECK(host.tip.AddTool(&host, _T("the area"), CRect(200, 10, 300, 60), 5));
     CToolInfo info;
     REQUIRE(host.tip.GetToolInfo(info, &host, 5));
     CHECK(info.hwnd == host.m_hWnd);
     CHECK(CRect(info.rect) == CRect(200, 10, 300, 60));
-    CHECK(std::string(info.lpszText) == "the area");
-    CHECK(std::string(info.szText) == "the area");
+    CHECK(CString(info.lpszText) == _T("the area"));
+    CHECK(CString(info.szText) == _T("the area"));
 
-    info.lpszText = const_cast<LPTSTR>("another");
+    info.lpszText = const_cast<LPTSTR>(_T("another"));
     host.tip.SetToolInfo(&info);
     CHECK(host.TextOf(&host, 5) == "another");
     CHECK_FALSE(host.tip.GetToolInfo(info, &host, 6));
@@ -150,7 +150,7 @@ TEST_CASE("the tip pops up while the mouse rests over a tool, and goes with Pop"
 {
     CTipHost host;
     host.SetForegroundWindow();
-    CHECK(host.tip.AddTool(&host.first, "the first"));
+    CHECK(host.tip.AddTool(&host.first, _T("the first")));
     MovePointerAway();
     REQUIRE(MovePointer(host.first.m_hWnd));
     CHECK(WaitUntil([&] { return host.tip.IsWindowVisible(); }));
@@ -165,7 +165,7 @@ TEST_CASE("an inactive tip does not pop up")
 {
     CTipHost host;
     host.SetForegroundWindow();
-    CHECK(host.tip.AddTool(&host.first, "the first"));
+    CHECK(host.tip.AddTool(&host.first, _T("the first")));
     host.tip.Activate(FALSE);
     MovePointerAway();
     REQUIRE(MovePointer(host.first.m_hWnd));
@@ -213,8 +213,8 @@ TEST_CASE("a tip keeps times, width, margins and colours")
 TEST_CASE("a tip has a title, a size, and room around its text")
 {
     CTipHost host;
-    CHECK(host.tip.SetTitle(TTI_INFO, "The title"));
-    CHECK(host.tip.AddTool(&host.first, "a text of some length"));
+    CHECK(host.tip.SetTitle(TTI_INFO, _T("The title")));
+    CHECK(host.tip.AddTool(&host.first, _T("a text of some length")));
     CToolInfo info;
     REQUIRE(host.tip.GetToolInfo(info, &host.first));
     const CSize size = host.tip.GetBubbleSize(&info);

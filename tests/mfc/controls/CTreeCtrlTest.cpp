@@ -21,10 +21,10 @@ struct Tree
     {
         const DWORD style = TVS_HASBUTTONS | TVS_LINESATROOT | TVS_HASLINES | TVS_EDITLABELS;
         REQUIRE(tree.Create(shownChild | style, CRect(10, 10, 210, 210), &host, 95));
-        fruit = tree.InsertItem("Fruit");
-        pear = tree.InsertItem("Pear", fruit);
-        apple = tree.InsertItem("Apple", fruit, TVI_FIRST);
-        stone = tree.InsertItem("Stone");
+        fruit = tree.InsertItem(_T("Fruit"));
+        pear = tree.InsertItem(_T("Pear"), fruit);
+        apple = tree.InsertItem(_T("Apple"), fruit, TVI_FIRST);
+        stone = tree.InsertItem(_T("Stone"));
     }
 };
 
@@ -52,7 +52,7 @@ TEST_CASE("the items of a tree have texts, data, states and images")
 {
     Tree tree;
     CHECK(tree.tree.GetItemText(tree.apple) == "Apple");
-    CHECK(tree.tree.SetItemText(tree.apple, "Quince"));
+    CHECK(tree.tree.SetItemText(tree.apple, _T("Quince")));
     CHECK(tree.tree.GetItemText(tree.apple) == "Quince");
     CHECK(tree.tree.SetItemData(tree.apple, wideItemData));
     CHECK(tree.tree.GetItemData(tree.apple) == wideItemData);
@@ -99,7 +99,7 @@ TEST_CASE("a click on an item of a tree selects it, and the parent hears of it")
 TEST_CASE("the children of a tree's item are sorted")
 {
     Tree tree;
-    const HTREEITEM banana = tree.tree.InsertItem("Banana", tree.fruit);
+    const HTREEITEM banana = tree.tree.InsertItem(_T("Banana"), tree.fruit);
     CHECK(tree.tree.SortChildren(tree.fruit));
     CHECK(tree.tree.GetNextSiblingItem(tree.apple) == banana);
 }
@@ -111,7 +111,7 @@ TEST_CASE("a label of a tree is edited in place")
     CEdit* field = tree.tree.EditLabel(tree.stone);
     REQUIRE(field != NULL);
     CHECK(tree.tree.GetEditControl() == field);
-    field->SetWindowText("Pebble");
+    field->SetWindowText(_T("Pebble"));
     CHECK(tree.tree.EndEditLabelNow(FALSE));
     CHECK(tree.host.Heard((UINT)TVN_ENDLABELEDIT));
 }

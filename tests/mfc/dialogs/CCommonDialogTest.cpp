@@ -119,7 +119,7 @@ TEST_CASE("a dialog without its hook gets no window, nor does it take that of th
     // The same hook, called for a window of which no object waits.
     CWatchedDialog hooked(RGB(4, 5, 6), 0, &host);
     const HWND stranger =
-        ::CreateWindow("STATIC", "", WS_POPUP, 0, 0, 10, 10, NULL, NULL, NULL, NULL);
+        ::CreateWindow(_T("STATIC"), _T(""), WS_POPUP, 0, 0, 10, 10, NULL, NULL, NULL, NULL);
     CHECK(hooked.m_cc.lpfnHook(stranger, WM_INITDIALOG, 0, 0) == FALSE);
     CHECK(CWnd::FromHandlePermanent(stranger) == nullptr);
     CHECK(unhooked.starts == 0);

@@ -42,24 +42,24 @@ public:
     BOOL Open()
     {
         DialogTemplate page(0, 0, 200, 200, DialogTemplate::popup | WS_VISIBLE);
-        page.Edit(nameEdit, "", 5, 5, 80, 12)
-            .Edit(numberEdit, "", 5, 20, 80, 12)
-            .Button(checkBox, "Check", 5, 35, 80, 12, DialogTemplate::tabStop | BS_AUTO3STATE)
-            .Button(firstRadio, "One", 5, 50, 80, 12,
+        page.Edit(nameEdit, _T(""), 5, 5, 80, 12)
+            .Edit(numberEdit, _T(""), 5, 20, 80, 12)
+            .Button(checkBox, _T("Check"), 5, 35, 80, 12, DialogTemplate::tabStop | BS_AUTO3STATE)
+            .Button(firstRadio, _T("One"), 5, 50, 80, 12,
                     DialogTemplate::tabStop | WS_GROUP | BS_AUTORADIOBUTTON)
-            .Label(labelBetween, "between", 5, 62, 80, 10)
-            .Button(secondRadio, "Two", 5, 74, 80, 12,
+            .Label(labelBetween, _T("between"), 5, 62, 80, 10)
+            .Button(secondRadio, _T("Two"), 5, 74, 80, 12,
                     DialogTemplate::visibleChild | BS_AUTORADIOBUTTON)
-            .Button(thirdRadio, "Three", 5, 86, 80, 12,
+            .Button(thirdRadio, _T("Three"), 5, 86, 80, 12,
                     DialogTemplate::visibleChild | BS_AUTORADIOBUTTON)
             .ListBox(listBox, 100, 5, 80, 40, DialogTemplate::tabStop | WS_GROUP | LBS_NOTIFY)
             .ComboBox(dropList, 100, 50, 80, 60)
             .ComboBox(comboEdit, 100, 70, 80, 60, DialogTemplate::tabStop | CBS_DROPDOWN)
-            .Add("ScrollBar", scrollBar, "", 5, 110, 80, 10)
-            .Add(TRACKBAR_CLASSA, slider, "", 5, 125, 80, 20);
+            .Add(_T("ScrollBar"), scrollBar, _T(""), 5, 110, 80, 10)
+            .Add(TRACKBAR_CLASS, slider, _T(""), 5, 125, 80, 20);
         if (!CreateIndirect(page.Get()))
             return FALSE;
-        for (const char* text : {"alpha", "alphabet", "beta"}) {
+        for (LPCTSTR text : {_T("alpha"), _T("alphabet"), _T("beta")}) {
             SendDlgItemMessage(listBox, LB_ADDSTRING, 0, reinterpret_cast<LPARAM>(text));
             SendDlgItemMessage(dropList, CB_ADDSTRING, 0, reinterpret_cast<LPARAM>(text));
             SendDlgItemMessage(comboEdit, CB_ADDSTRING, 0, reinterpret_cast<LPARAM>(text));
@@ -97,9 +97,9 @@ BEGIN_MESSAGE_MAP(CExchangeDialog, CDialog)
 END_MESSAGE_MAP()
 
 /// Saves, and answers the complaint that has to come. Gives its text.
-std::string Complaint(CExchangeDialog& dialog, std::function<void(CDataExchange*)> exchange)
+CString Complaint(CExchangeDialog& dialog, std::function<void(CDataExchange*)> exchange)
 {
-    std::string text;
+    CString text;
     NextDialog answer([&](HWND box) {
         text = MessageBoxText(box);
         ::PostMessage(box, WM_COMMAND, IDOK, 0);
@@ -109,12 +109,12 @@ std::string Complaint(CExchangeDialog& dialog, std::function<void(CDataExchange*
     return text;
 }
 
-std::string LibraryString(UINT id)
+CString LibraryString(UINT id)
 {
     CString text;
     text.LoadString(id);
     CHECK_FALSE(text.IsEmpty());
-    return text.GetString();
+    return text;
 }
 
 /// Puts a value into the edit control and takes another text out of it.
@@ -135,7 +135,7 @@ struct NumberTrip
         dialog.SetDlgItemText(numberEdit, text);
         return dialog.Save([this](CDataExchange* dx) { DDX_Text(dx, numberEdit, value); });
     }
-    std::string Refuse(LPCTSTR text)
+    CString Refuse(LPCTSTR text)
     {
         dialog.SetDlgItemText(numberEdit, text);
         return Complaint(dialog, [this](CDataExchange* dx) { DDX_Text(dx, numberEdit, value); });
@@ -152,7 +152,7 @@ TEST_CASE("text goes to the control and back")
     const auto exchange = [&](CDataExchange* dx) { DDX_Text(dx, nameEdit, name); };
     CHECK(dialog.Load(exchange));
     CHECK(dialog.Text(nameEdit) == "from the member");
-    dialog.SetDlgItemText(nameEdit, "from the control");
+    dialog.SetDlgItemText(nameEdit, _T("from the control"));
     CHECK(dialog.Save(exchange));
     CHECK(name == "from the control");
 }
@@ -177,7 +177,7 @@ TEST_CASE("changes that the exchange itself makes are not notified")
     CString name = "new";
     dialog.Load([&](CDataExchange* dx) { DDX_Text(dx, nameEdit, name); });
     CHECK(dialog.m_nChanges == 0);
-    dialog.SetDlgItemText(nameEdit, "newer");
+    dialog.SetDlgItemText(nameEdit, _T("newer"));
     CHECK(dialog.m_nChanges == 1);
 }
 
@@ -185,30 +185,30 @@ TEST_CASE("whole numbers of every size are shown and read")
 {
     NumberTrip<int> number;
     CHECK(number.Show(-12) == "-12");
-    CHECK(number.Take(" 34 "));
+    CHECK(number.Take(_T(" 34 ")));
     CHECK(number.value == 34);
 
     NumberTrip<short> small;
     CHECK(small.Show(-32768) == "-32768");
-    CHECK(small.Take("32767"));
+    CHECK(small.Take(_T("32767")));
     CHECK(small.value == 32767);
 
     NumberTrip<long> large;
-    CHECK(large.Take("-2147483648"));
+    CHECK(large.Take(_T("-2147483648")));
     CHECK(large.value == LONG_MIN);
 
     NumberTrip<UINT> positive;
     CHECK(positive.Show(4000000000u) == "4000000000");
-    CHECK(positive.Take("4294967295"));
+    CHECK(positive.Take(_T("4294967295")));
     CHECK(positive.value == UINT_MAX);
 
     NumberTrip<DWORD> word;
-    CHECK(word.Take("4294967295"));
+    CHECK(word.Take(_T("4294967295")));
     CHECK(word.value == MAXDWORD);
 
     NumberTrip<BYTE> byte;
     CHECK(byte.Show(200) == "200");
-    CHECK(byte.Take("255"));
+    CHECK(byte.Take(_T("255")));
     CHECK(byte.value == 255);
 }
 
@@ -216,20 +216,20 @@ TEST_CASE("what is no number of the kind is refused with the standard message")
 {
     NumberTrip<int> number;
     number.value = 5;
-    CHECK(number.Refuse("abc") == LibraryString(AFX_IDP_PARSE_INT));
-    CHECK(number.Refuse("") == LibraryString(AFX_IDP_PARSE_INT));
-    CHECK(number.Refuse("12x") == LibraryString(AFX_IDP_PARSE_INT));
-    CHECK(number.Refuse("2147483648") == LibraryString(AFX_IDP_PARSE_INT));
+    CHECK(number.Refuse(_T("abc")) == LibraryString(AFX_IDP_PARSE_INT));
+    CHECK(number.Refuse(_T("")) == LibraryString(AFX_IDP_PARSE_INT));
+    CHECK(number.Refuse(_T("12x")) == LibraryString(AFX_IDP_PARSE_INT));
+    CHECK(number.Refuse(_T("2147483648")) == LibraryString(AFX_IDP_PARSE_INT));
     CHECK(number.value == 5);
 
     NumberTrip<short> small;
-    CHECK(small.Refuse("32768") == LibraryString(AFX_IDP_PARSE_INT));
+    CHECK(small.Refuse(_T("32768")) == LibraryString(AFX_IDP_PARSE_INT));
     NumberTrip<UINT> positive;
-    CHECK_FALSE(positive.Refuse("-1").empty());
+    CHECK_FALSE(positive.Refuse(_T("-1")).IsEmpty());
     NumberTrip<BYTE> byte;
-    CHECK(byte.Refuse("256") == LibraryString(AFX_IDP_PARSE_BYTE));
+    CHECK(byte.Refuse(_T("256")) == LibraryString(AFX_IDP_PARSE_BYTE));
     NumberTrip<double> real;
-    CHECK(real.Refuse("1.5 apples") == LibraryString(AFX_IDP_PARSE_REAL));
+    CHECK(real.Refuse(_T("1.5 apples")) == LibraryString(AFX_IDP_PARSE_REAL));
 }
 
 TEST_CASE("numbers with a fraction are shown and read")
@@ -237,11 +237,11 @@ TEST_CASE("numbers with a fraction are shown and read")
     NumberTrip<double> real;
     CHECK(real.Show(0.1) == "0.1");
     CHECK(real.Show(-2.5e10) == "-25000000000");
-    CHECK(real.Take("1e3"));
+    CHECK(real.Take(_T("1e3")));
     CHECK(real.value == 1000.0);
     NumberTrip<float> single;
     CHECK(single.Show(0.1f) == "0.1");
-    CHECK(single.Take("2.25"));
+    CHECK(single.Take(_T("2.25")));
     CHECK(single.value == 2.25f);
 }
 
@@ -250,7 +250,7 @@ TEST_CASE("a refused control has the focus and its text selected")
     CExchangeDialog dialog;
     REQUIRE(dialog.Open());
     int number = 0;
-    dialog.SetDlgItemText(numberEdit, "abcdef");
+    dialog.SetDlgItemText(numberEdit, _T("abcdef"));
     dialog.GetDlgItem(nameEdit)->SetFocus();
     Complaint(dialog, [&](CDataExchange* dx) { DDX_Text(dx, numberEdit, number); });
     CHECK(CWnd::GetFocus() == dialog.GetDlgItem(numberEdit));
@@ -263,8 +263,8 @@ TEST_CASE("an exchange ends where it fails")
     REQUIRE(dialog.Open());
     CString name = "before";
     int number = 0;
-    dialog.SetDlgItemText(nameEdit, "after");
-    dialog.SetDlgItemText(numberEdit, "abc");
+    dialog.SetDlgItemText(nameEdit, _T("after"));
+    dialog.SetDlgItemText(numberEdit, _T("abc"));
     Complaint(dialog, [&](CDataExchange* dx) {
         DDX_Text(dx, numberEdit, number);
         DDX_Text(dx, nameEdit, name);
@@ -284,11 +284,11 @@ TEST_CASE("a value out of its limits is refused when it is saved, not when it is
     CHECK(dialog.Load(exchange));
     CHECK(dialog.Text(numberEdit) == "99");
     CString expected;
-    AfxFormatString2(expected, AFX_IDP_PARSE_INT_RANGE, "-5", "10");
+    AfxFormatString2(expected, AFX_IDP_PARSE_INT_RANGE, _T("-5"), _T("10"));
     CHECK(Complaint(dialog, exchange) == expected.GetString());
-    dialog.SetDlgItemText(numberEdit, "-5");
+    dialog.SetDlgItemText(numberEdit, _T("-5"));
     CHECK(dialog.Save(exchange));
-    dialog.SetDlgItemText(numberEdit, "10");
+    dialog.SetDlgItemText(numberEdit, _T("10"));
     CHECK(dialog.Save(exchange));
 }
 
@@ -296,20 +296,20 @@ TEST_CASE("the limits of every kind hold")
 {
     CExchangeDialog dialog;
     REQUIRE(dialog.Open());
-    CHECK_FALSE(Complaint(dialog, [](auto* dx) { DDV_MinMaxByte(dx, 9, 1, 8); }).empty());
-    CHECK_FALSE(Complaint(dialog, [](auto* dx) { DDV_MinMaxShort(dx, -9, -8, 8); }).empty());
-    CHECK_FALSE(Complaint(dialog, [](auto* dx) { DDV_MinMaxLong(dx, 9, -8, 8); }).empty());
-    CHECK_FALSE(Complaint(dialog, [](auto* dx) { DDV_MinMaxUInt(dx, 0, 1, 8); }).empty());
-    CHECK_FALSE(Complaint(dialog, [](auto* dx) { DDV_MinMaxUnsigned(dx, 9, 1, 8); }).empty());
-    CHECK_FALSE(Complaint(dialog, [](auto* dx) { DDV_MinMaxDWord(dx, MAXDWORD, 0, 8); }).empty());
+    CHECK_FALSE(Complaint(dialog, [](auto* dx) { DDV_MinMaxByte(dx, 9, 1, 8); }).IsEmpty());
+    CHECK_FALSE(Complaint(dialog, [](auto* dx) { DDV_MinMaxShort(dx, -9, -8, 8); }).IsEmpty());
+    CHECK_FALSE(Complaint(dialog, [](auto* dx) { DDV_MinMaxLong(dx, 9, -8, 8); }).IsEmpty());
+    CHECK_FALSE(Complaint(dialog, [](auto* dx) { DDV_MinMaxUInt(dx, 0, 1, 8); }).IsEmpty());
+    CHECK_FALSE(Complaint(dialog, [](auto* dx) { DDV_MinMaxUnsigned(dx, 9, 1, 8); }).IsEmpty());
+    CHECK_FALSE(Complaint(dialog, [](auto* dx) { DDV_MinMaxDWord(dx, MAXDWORD, 0, 8); }).IsEmpty());
     CHECK_FALSE(
-        Complaint(dialog, [](auto* dx) { DDV_MinMaxLongLong(dx, 1LL << 40, 0, 8); }).empty());
+        Complaint(dialog, [](auto* dx) { DDV_MinMaxLongLong(dx, 1LL << 40, 0, 8); }).IsEmpty());
     CHECK_FALSE(
-        Complaint(dialog, [](auto* dx) { DDV_MinMaxULongLong(dx, 1ULL << 63, 0, 8); }).empty());
-    CHECK(Complaint(dialog, [](auto* dx) { DDV_MinMaxFloat(dx, 0.5f, 1.5f, 2); }).find("1.5") !=
-          std::string::npos);
-    CHECK(Complaint(dialog, [](auto* dx) { DDV_MinMaxDouble(dx, 3, 0, 2.25); }).find("2.25") !=
-          std::string::npos);
+        Complaint(dialog, [](auto* dx) { DDV_MinMaxULongLong(dx, 1ULL << 63, 0, 8); }).IsEmpty());
+    CHECK(Complaint(dialog, [](auto* dx) { DDV_MinMaxFloat(dx, 0.5f, 1.5f, 2); }).Find(_T("1.5")) >=
+          0);
+    CHECK(Complaint(dialog, [](auto* dx) { DDV_MinMaxDouble(dx, 3, 0, 2.25); }).Find(_T("2.25")) >=
+          0);
     CHECK(dialog.Save([](auto* dx) {
         DDV_MinMaxByte(dx, 8, 1, 8);
         DDV_MinMaxULongLong(dx, 1ULL << 63, 0, ULLONG_MAX);
@@ -329,11 +329,11 @@ TEST_CASE("a text is limited while it is typed and checked when it is saved")
     };
     CHECK(dialog.Load(exchange));
     CHECK(dialog.Ask(nameEdit, EM_GETLIMITTEXT) == 4);
-    dialog.SetDlgItemText(nameEdit, "12345"); // A program may still set more.
+    dialog.SetDlgItemText(nameEdit, _T("12345")); // A program may still set more.
     CString expected;
-    AfxFormatString1(expected, AFX_IDP_PARSE_STRING_SIZE, "4");
+    AfxFormatString1(expected, AFX_IDP_PARSE_STRING_SIZE, _T("4"));
     CHECK(Complaint(dialog, exchange) == expected.GetString());
-    dialog.SetDlgItemText(nameEdit, "1234");
+    dialog.SetDlgItemText(nameEdit, _T("1234"));
     CHECK(dialog.Save(exchange));
 
     CHECK(dialog.Load([&](CDataExchange* dx) {
@@ -428,7 +428,7 @@ TEST_CASE("combo boxes exchange an index or a text, which need not be in the lis
     dialog.Load([&](CDataExchange* dx) { DDX_CBStringExact(dx, comboEdit, text); });
     CHECK(dialog.Text(comboEdit) == "alp");
     CHECK(dialog.Ask(comboEdit, CB_GETCURSEL) == -1);
-    dialog.SetDlgItemText(comboEdit, "typed");
+    dialog.SetDlgItemText(comboEdit, _T("typed"));
     CHECK(dialog.Save([&](CDataExchange* dx) { DDX_CBStringExact(dx, comboEdit, text); }));
     CHECK(text == "typed");
     index = -1;

@@ -22,7 +22,7 @@ public:
 DialogTemplate Template()
 {
     DialogTemplate page(0, 0, 120, 60);
-    page.Label(41, "", 20, 20, 40, 10);
+    page.Label(41, _T(""), 20, 20, 40, 10);
     return page;
 }
 

@@ -33,20 +33,20 @@ const UINT laterMessage = WM_APP + 1;
 /// A page with two edits and the usual buttons.
 DialogTemplate MakeTemplate(DWORD style = DialogTemplate::popup)
 {
-    DialogTemplate page(20, 20, 140, 80, style, "Recorded");
-    page.Edit(editId, "", 5, 5, 60, 12).Edit(secondId, "", 70, 5, 60, 12);
-    page.Button(buttonId, "Act", 5, 25, 40, 14);
-    page.Button(IDOK, "OK", 5, 50, 40, 14, DialogTemplate::tabStop | BS_DEFPUSHBUTTON);
-    page.Button(IDCANCEL, "Cancel", 50, 50, 40, 14);
+    DialogTemplate page(20, 20, 140, 80, style, _T("Recorded"));
+    page.Edit(editId, _T(""), 5, 5, 60, 12).Edit(secondId, _T(""), 70, 5, 60, 12);
+    page.Button(buttonId, _T("Act"), 5, 25, 40, 14);
+    page.Button(IDOK, _T("OK"), 5, 50, 40, 14, DialogTemplate::tabStop | BS_DEFPUSHBUTTON);
+    page.Button(IDCANCEL, _T("Cancel"), 50, 50, 40, 14);
     return page;
 }
 
-std::string TextOf(const CWnd& dialog, UINT id)
+CString TextOf(const CWnd& dialog, UINT id)
 {
     CString text;
     if (dialog.m_hWnd != NULL)
         dialog.GetDlgItemText(static_cast<int>(id), text);
-    return text.GetString();
+    return text;
 }
 
 /// Tells what is called, and lets a test act inside.
@@ -64,7 +64,7 @@ public:
     std::function<void(CRecorded&)> inInit;
     std::function<void(CRecorded&)> later; ///< Runs in the dialog's loop.
     HWND activeAtEnd = NULL;               ///< The active window when the dialog's is destroyed.
-    std::string textAtEnd;                 ///< What the first edit holds then.
+    CString textAtEnd;                     ///< What the first edit holds then.
     std::vector<WPARAM> shown;
 
     std::function<void()>
@@ -174,7 +174,7 @@ class COwnerWindow : public CWnd
 public:
     explicit COwnerWindow(CWnd* owner = NULL)
     {
-        CreateEx(0, NULL, "Owner", WS_POPUP | WS_VISIBLE, CRect(50, 50, 450, 350), owner, 0);
+        CreateEx(0, NULL, _T("Owner"), WS_POPUP | WS_VISIBLE, CRect(50, 50, 450, 350), owner, 0);
         SetActiveWindow();
     }
     ~COwnerWindow() override { DestroyWindow(); }
@@ -315,7 +315,7 @@ TEST_CASE("a template for which there is not enough memory leaves the owner usab
 {
     COwnerWindow owner;
     DialogTemplate page(20, 20, 140, 80);
-    page.Label(99, std::string(LittleMemory::bigBlock, 'x').c_str(), 5, 5, 60, 12);
+    page.Label(99, TString(LittleMemory::bigBlock, 'x').c_str(), 5, 5, 60, 12);
     CRecorded dialog;
     dialog.InitModalIndirect(page.Get(), &owner);
     {
@@ -357,13 +357,13 @@ TEST_CASE("DoModal gives -1 when the window cannot be made")
 {
     CRecorded missing(60999);
     CHECK(missing.DoModal() == -1);
-    CRecorded unnamed("No dialog of this name");
+    CRecorded unnamed(_T("No dialog of this name"));
     CHECK(unnamed.DoModal() == -1);
     CHECK(missing.Create(60999) == FALSE);
 
     COwnerWindow owner;
     DialogTemplate unknown(0, 0, 50, 50);
-    unknown.Add("No class of this name", 1, "", 0, 0, 5, 5);
+    unknown.Add(_T("No class of this name"), 1, _T(""), 0, 0, 5, 5);
     CDialog dialog;
     dialog.InitModalIndirect(unknown.Get(), &owner);
     CHECK(dialog.DoModal() == -1);
@@ -428,13 +428,13 @@ TEST_CASE("OnInitDialog is called without a map entry and fills the controls")
     CRecorded dialog;
     dialog.name = "a name";
     dialog.number = 17;
-    std::string shown;
+    CString shown;
     Run(dialog, [&](CRecorded& self) {
         CString text;
         self.GetDlgItemText(editId, text);
         shown = text;
         self.GetDlgItemText(secondId, text);
-        shown += " " + std::string(text);
+        shown += _T(" ") + text;
         self.EndDialog(1);
     });
     CHECK(shown == "a name 17");
@@ -459,8 +459,8 @@ TEST_CASE("OK saves the data and ends the dialog")
 {
     CRecorded dialog;
     CHECK(Run(dialog, [](CRecorded& self) {
-              self.SetDlgItemText(editId, "typed");
-              self.SetDlgItemText(secondId, "55");
+              self.SetDlgItemText(editId, _T("typed"));
+              self.SetDlgItemText(secondId, _T("55"));
               self.SendMessage(WM_COMMAND, IDOK,
                                reinterpret_cast<LPARAM>(self.GetDlgItem(IDOK)->m_hWnd));
           }) == IDOK);
@@ -474,7 +474,7 @@ TEST_CASE("OK with bad data tells the user and leaves the dialog open")
     CRecorded dialog;
     CHECK(Run(dialog, [](CRecorded& self) {
               self.ShowWindow(SW_SHOW);
-              self.SetDlgItemText(secondId, "500");
+              self.SetDlgItemText(secondId, _T("500"));
               NextDialog answer([](HWND box) { ::SendMessage(box, WM_COMMAND, IDOK, 0); });
               self.SendMessage(WM_COMMAND, IDOK);
               CHECK(answer.HasRun());
@@ -490,7 +490,7 @@ TEST_CASE("Cancel ends the dialog without an exchange")
     CRecorded dialog;
     dialog.name = "kept";
     CHECK(Run(dialog, [](CRecorded& self) {
-              self.SendDlgItemMessage(secondId, WM_SETTEXT, 0, reinterpret_cast<LPARAM>("8"));
+              self.SendDlgItemMessage(secondId, WM_SETTEXT, 0, reinterpret_cast<LPARAM>(_T("8")));
               self.SendMessage(WM_COMMAND, IDCANCEL);
           }) == IDCANCEL);
     CHECK(dialog.name == "kept");
@@ -550,14 +550,14 @@ TEST_CASE("a key that the dialog has dealt with is not dealt with again")
     const DialogTemplate page = MakeTemplate(DialogTemplate::popup | WS_VISIBLE);
     REQUIRE(modeless.CreateIndirect(page.Get()));
     modeless.GetDlgItem(editId)->SetFocus();
-    CHECK(TypeText("b"));
+    CHECK(TypeText(_T("b")));
     CHECK(TextOf(modeless, editId) == "b");
     modeless.DestroyWindow();
 }
 
 TEST_CASE("a modal dialog works in a thread that has no object of the library")
 {
-    std::string text;
+    CString text;
     std::thread([&] {
         CRecorded dialog;
         Run(dialog, [](CRecorded& self) {
@@ -594,7 +594,7 @@ TEST_CASE("notifications sent by the exchange itself start no other exchange")
     CHECK(dialog.UpdateData(FALSE));
     CHECK(dialog.exchanges == 1);
     CHECK(dialog.changes == 0);
-    dialog.SetDlgItemText(editId, "set from outside");
+    dialog.SetDlgItemText(editId, _T("set from outside"));
     CHECK(dialog.changes == 1);
     CHECK(dialog.name == "set from outside");
     dialog.DestroyWindow();
@@ -671,7 +671,7 @@ TEST_CASE("dialogs are made by id, by name, from memory and from a memory handle
     byId.DestroyWindow();
 
     CDialog byName;
-    REQUIRE(byName.Create("NamedDialog"));
+    REQUIRE(byName.Create(_T("NamedDialog")));
     byName.GetWindowText(title);
     CHECK(title == "Named");
     byName.DestroyWindow();
@@ -721,7 +721,7 @@ TEST_CASE("a dialog that moves itself at its start is not centred any more")
 {
     COwnerWindow owner;
     DialogTemplate open(0, 0, 140, 80);
-    open.Edit(editId, "", 5, 5, 60, 12).Edit(secondId, "0", 70, 5, 60, 12);
+    open.Edit(editId, _T(""), 5, 5, 60, 12).Edit(secondId, _T("0"), 70, 5, 60, 12);
     CRect place;
     const auto show = [&](std::function<void(CRecorded&)> inInit) {
         CRecorded dialog;
@@ -740,7 +740,7 @@ TEST_CASE("a dialog that moves itself at its start is not centred any more")
 TEST_CASE("the font of the template is told before the controls are filled")
 {
     DialogTemplate page = MakeTemplate();
-    page.Font(9, "Tahoma");
+    page.Font(9, _T("Tahoma"));
     CRecorded dialog;
     REQUIRE(dialog.CreateIndirect(page.Get()));
     CHECK(dialog.font != NULL);

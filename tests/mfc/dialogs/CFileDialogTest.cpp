@@ -62,11 +62,11 @@ int CountOf(const std::vector<std::string>& events, const char* event)
 
 TEST_CASE("the filter's parts and the name are handed to the system")
 {
-    CFileDialog dialog(TRUE, "bmp", "start.bmp", OFN_HIDEREADONLY,
-                       "Pictures (*.bmp)|*.bmp|All (*.*)|*.*||");
-    const std::string filter(dialog.m_ofn.lpstrFilter, 38);
-    CHECK(filter == std::string("Pictures (*.bmp)\0*.bmp\0All (*.*)\0*.*\0\0", 39).substr(0, 38));
-    CHECK(std::string(dialog.m_ofn.lpstrDefExt) == "bmp");
+    CFileDialog dialog(TRUE, _T("bmp"), _T("start.bmp"), OFN_HIDEREADONLY,
+                       _T("Pictures (*.bmp)|*.bmp|All (*.*)|*.*||"));
+    const TString filter(dialog.m_ofn.lpstrFilter, 38);
+    CHECK(filter == TString(_T("Pictures (*.bmp)\0*.bmp\0All (*.*)\0*.*\0\0"), 39).substr(0, 38));
+    CHECK(CString(dialog.m_ofn.lpstrDefExt) == _T("bmp"));
     CHECK(dialog.GetPathName() == "start.bmp");
     CHECK((dialog.m_ofn.Flags & OFN_HIDEREADONLY) != 0);
     CHECK(&dialog.GetOFN() == &dialog.m_ofn);
@@ -76,10 +76,10 @@ TEST_CASE("the filter's parts and the name are handed to the system")
 TEST_CASE("the save dialog gives back path, name, title and extension")
 {
     ControlHost host;
-    CWatchedFileDialog dialog(FALSE, "txt", "C:\\windows\\new name", OFN_HIDEREADONLY,
-                              "Texts (*.txt)|*.txt||", &host);
+    CWatchedFileDialog dialog(FALSE, _T("txt"), _T("C:\\windows\\new name"), OFN_HIDEREADONLY,
+                              _T("Texts (*.txt)|*.txt||"), &host);
     bool hidden = false;
-    std::string button;
+    TString button;
     NextDialog answer([&](HWND box) {
         Page page(box);
         hidden = !::IsWindowVisible(page.Control(typeBox));
@@ -89,12 +89,12 @@ TEST_CASE("the save dialog gives back path, name, title and extension")
     REQUIRE(dialog.DoModal() == IDOK);
     REQUIRE(answer.HasRun());
     CHECK(hidden);
-    CHECK(button == "Take");
-    CHECK(dialog.folder.CompareNoCase("C:\\windows") == 0);
-    CHECK(dialog.GetPathName().CompareNoCase("C:\\windows\\new name.txt") == 0);
-    CHECK(dialog.GetFileName().CompareNoCase("new name.txt") == 0);
-    CHECK(dialog.GetFileTitle().CompareNoCase("new name") == 0);
-    CHECK(dialog.GetFileExt().CompareNoCase("txt") == 0);
+    CHECK(button == _T("Take"));
+    CHECK(dialog.folder.CompareNoCase(_T("C:\\windows")) == 0);
+    CHECK(dialog.GetPathName().CompareNoCase(_T("C:\\windows\\new name.txt")) == 0);
+    CHECK(dialog.GetFileName().CompareNoCase(_T("new name.txt")) == 0);
+    CHECK(dialog.GetFileTitle().CompareNoCase(_T("new name")) == 0);
+    CHECK(dialog.GetFileExt().CompareNoCase(_T("txt")) == 0);
     POSITION place = dialog.GetStartPosition();
     CHECK(dialog.GetNextPathName(place) == dialog.GetPathName());
     CHECK(place == NULL);
@@ -107,7 +107,8 @@ TEST_CASE("the save dialog gives back path, name, title and extension")
 TEST_CASE("OnFileNameOK may keep the dialog open")
 {
     ControlHost host;
-    CWatchedFileDialog dialog(FALSE, "txt", "C:\\windows\\new", OFN_HIDEREADONLY, NULL, &host);
+    CWatchedFileDialog dialog(FALSE, _T("txt"), _T("C:\\windows\\new"), OFN_HIDEREADONLY, NULL,
+                              &host);
     dialog.refusesOnce = true;
     bool stayed = false;
     NextDialog answer([&](HWND box) {
@@ -124,7 +125,7 @@ TEST_CASE("OnFileNameOK may keep the dialog open")
 TEST_CASE("several chosen files are met one after the other")
 {
     CFileDialog dialog(TRUE, NULL, NULL, OFN_ALLOWMULTISELECT);
-    static char chosen[] = "C:\\folder\0one.txt\0two.txt\0";
+    static TCHAR chosen[] = _T("C:\\folder\0one.txt\0two.txt\0");
     dialog.m_ofn.lpstrFile = chosen;
     POSITION place = dialog.GetStartPosition();
     CHECK(dialog.GetNextPathName(place) == "C:\\folder\\one.txt");
@@ -132,7 +133,7 @@ TEST_CASE("several chosen files are met one after the other")
     CHECK(dialog.GetNextPathName(place) == "C:\\folder\\two.txt");
     CHECK(place == NULL);
 
-    static char inRoot[] = "C:\\\0one.txt\0two.txt\0";
+    static TCHAR inRoot[] = _T("C:\\\0one.txt\0two.txt\0");
     dialog.m_ofn.lpstrFile = inRoot;
     place = dialog.GetStartPosition();
     CHECK(dialog.GetNextPathName(place) == "C:\\one.txt");

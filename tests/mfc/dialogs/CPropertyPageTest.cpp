@@ -62,11 +62,11 @@ INT_PTR Run(CPropertySheet& sheet, const std::function<void(Page&)>& steps)
 
 CString TabOf(CPropertySheet& sheet, int page)
 {
-    char text[64] = "";
+    TCHAR text[64] = _T("");
     TCITEM item{};
     item.mask = TCIF_TEXT;
     item.pszText = text;
-    item.cchTextMax = sizeof(text);
+    item.cchTextMax = _countof(text);
     REQUIRE(sheet.GetTabControl() != nullptr);
     CHECK(sheet.GetTabControl()->GetItem(page, &item));
     return item.pszText;
@@ -82,10 +82,10 @@ TEST_CASE("a page is captioned by its template, by a string, or by its descripti
     CPropertyPage described;
     described.Construct(IDD_PAGE);
     described.GetPSP().dwFlags |= PSP_USETITLE;
-    described.GetPSP().pszTitle = "From the description";
+    described.GetPSP().pszTitle = _T("From the description");
     CHECK(&std::as_const(described).GetPSP() == &described.m_psp);
 
-    CPropertySheet sheet("Sheet", &host);
+    CPropertySheet sheet(_T("Sheet"), &host);
     for (CPropertyPage* page : {&plain, &named, &described})
         sheet.AddPage(page);
     Run(sheet, [&](Page&) {
@@ -113,7 +113,7 @@ TEST_CASE("the controls are filled once when the page opens, and again each time
     ControlHost host;
     CCountingPage first;
     CCountingPage second;
-    CPropertySheet sheet("Sheet", &host);
+    CPropertySheet sheet(_T("Sheet"), &host);
     sheet.AddPage(&first);
     sheet.AddPage(&second);
     Run(sheet, [&](Page&) {
@@ -131,7 +131,7 @@ TEST_CASE("a page that does not apply keeps the sheet open")
     ControlHost host;
     CCountingPage page;
     page.applies = FALSE;
-    CPropertySheet sheet("Sheet", &host);
+    CPropertySheet sheet(_T("Sheet"), &host);
     sheet.AddPage(&page);
     const INT_PTR result = Run(sheet, [&](Page& box) {
         box.Click(IDOK);
@@ -148,7 +148,7 @@ TEST_CASE("only the sheet itself asks the page to apply")
 {
     ControlHost host;
     CCountingPage page;
-    CPropertySheet sheet("Sheet", &host);
+    CPropertySheet sheet(_T("Sheet"), &host);
     sheet.AddPage(&page);
     Run(sheet, [&](Page& box) {
         NMHDR note{};
@@ -168,7 +168,7 @@ TEST_CASE("a page tells its sheet of changes, and that there is no way back")
 {
     ControlHost host;
     CCountingPage page;
-    CPropertySheet sheet("Sheet", &host);
+    CPropertySheet sheet(_T("Sheet"), &host);
     sheet.AddPage(&page);
     Run(sheet, [&](Page& box) {
         MessageLog log(box.Handle());
@@ -189,7 +189,7 @@ TEST_CASE("a page of a wizard stays or goes back, as it answers")
     ControlHost host;
     CCountingPage first;
     CCountingPage second;
-    CPropertySheet sheet("Wizard", &host);
+    CPropertySheet sheet(_T("Wizard"), &host);
     sheet.AddPage(&first);
     sheet.AddPage(&second);
     sheet.SetWizardMode();

@@ -24,10 +24,10 @@ constexpr int fieldId = 501;
 class CNumberPage : public CPropertyPage
 {
 public:
-    explicit CNumberPage(const char* title)
+    explicit CNumberPage(LPCTSTR title)
         : template_(0, 0, 150, 80, WS_CHILD | WS_CAPTION | DS_3DLOOK | WS_TABSTOP, title)
     {
-        template_.Edit(fieldId, "", 10, 10, 60, 14);
+        template_.Edit(fieldId, _T(""), 10, 10, 60, 14);
         m_psp.dwFlags |= PSP_DLGINDIRECT;
         m_psp.pResource = template_.Get();
     }
@@ -41,7 +41,7 @@ public:
     {
         return static_cast<int>(std::count(events.begin(), events.end(), event));
     }
-    void Enter(const char* text) { SetDlgItemText(fieldId, text); }
+    void Enter(LPCTSTR text) { SetDlgItemText(fieldId, text); }
 
     BOOL OnSetActive() override
     {
@@ -132,8 +132,8 @@ public:
 struct TwoPages
 {
     ControlHost host;
-    CNumberPage first{"First"}, second{"Second"};
-    CWatchedSheet sheet{"The sheet", &host};
+    CNumberPage first{_T("First")}, second{_T("Second")};
+    CWatchedSheet sheet{_T("The sheet"), &host};
 
     TwoPages()
     {
@@ -166,11 +166,11 @@ TEST_CASE("a sheet shows its first page, and OK applies what was entered")
     const INT_PTR result = two.Run([&](Page& box) {
         ownerDisabled = !two.host.IsWindowEnabled();
         CHECK(two.sheet.m_hWnd == box.Handle());
-        CHECK(box.Title() == "The sheet");
+        CHECK(box.Title() == _T("The sheet"));
         CHECK(two.sheet.GetActivePage() == &two.first);
         CHECK(two.first.GetDlgItemInt(fieldId) == 3);
         CHECK(two.second.m_hWnd == NULL);
-        two.first.Enter("8");
+        two.first.Enter(_T("8"));
         box.Click(IDOK);
     });
     CHECK(result == IDOK);
@@ -207,7 +207,7 @@ TEST_CASE("an exception that ends the loop of a sheet leaves owner and sheet usa
 TEST_CASE("a sheet that is ended while it is made has no loop")
 {
     ControlHost host;
-    CNumberPage page("page");
+    CNumberPage page(_T("page"));
     struct CEnding : CPropertySheet
     {
         using CPropertySheet::CPropertySheet;
@@ -217,7 +217,7 @@ TEST_CASE("a sheet that is ended while it is made has no loop")
             EndDialog(17);
             return result;
         }
-    } sheet("sheet", &host);
+    } sheet(_T("sheet"), &host);
     sheet.AddPage(&page);
     CHECK(sheet.DoModal() == 17);
     CHECK(host.IsWindowEnabled());
@@ -228,9 +228,9 @@ TEST_CASE("the window above the owner of a sheet is disabled, too, and enabled a
 {
     TwoPages two;
     CWnd popup;
-    REQUIRE(popup.CreateEx(0, AfxRegisterWndClass(0), "owner", WS_POPUP | WS_VISIBLE, 60, 60, 200,
-                           100, two.host.m_hWnd, NULL));
-    CPropertySheet sheet("sheet", &popup);
+    REQUIRE(popup.CreateEx(0, AfxRegisterWndClass(0), _T("owner"), WS_POPUP | WS_VISIBLE, 60, 60,
+                           200, 100, two.host.m_hWnd, NULL));
+    CPropertySheet sheet(_T("sheet"), &popup);
     sheet.AddPage(&two.first);
     bool enabledMeanwhile = true;
     NextDialog answer([&](HWND box) {
@@ -248,7 +248,7 @@ TEST_CASE("Cancel resets the pages and leaves the data alone")
 {
     TwoPages two;
     const INT_PTR result = two.Run([&](Page& box) {
-        two.first.Enter("8");
+        two.first.Enter(_T("8"));
         box.Click(IDCANCEL);
     });
     CHECK(result == IDCANCEL);
@@ -285,12 +285,12 @@ TEST_CASE("a page with wrong data does not let go")
 {
     TwoPages two;
     const INT_PTR result = two.Run([&](Page& box) {
-        two.first.Enter("12");
+        two.first.Enter(_T("12"));
         NextDialog complaint([](HWND message) { Page(message).Click(IDOK); });
         two.sheet.SetActivePage(1);
         CHECK(complaint.HasRun());
         CHECK(two.sheet.GetActiveIndex() == 0);
-        two.first.Enter("5");
+        two.first.Enter(_T("5"));
         CHECK(two.sheet.SetActivePage(&two.second));
         CHECK(two.sheet.GetActiveIndex() == 1);
         CHECK(two.sheet.GetActivePage() == &two.second);
@@ -323,7 +323,7 @@ TEST_CASE("a modified page enables Apply, which applies and stays")
         CHECK_FALSE(::IsWindowEnabled(apply));
         two.first.SetModified();
         CHECK(::IsWindowEnabled(apply));
-        two.first.Enter("7");
+        two.first.Enter(_T("7"));
         box.Click(ID_APPLY_NOW);
         CHECK(two.first.number == 7);
         CHECK(::IsWindowVisible(box.Handle()));
@@ -362,7 +362,7 @@ TEST_CASE("Tab walks through the controls of the page, Escape is Cancel")
 TEST_CASE("pages are added and removed while the sheet is open")
 {
     TwoPages two;
-    CNumberPage third("Third");
+    CNumberPage third(_T("Third"));
     two.Run([&](Page& box) {
         two.sheet.AddPage(&third);
         CHECK(two.sheet.GetPageCount() == 3);
@@ -414,8 +414,8 @@ TEST_CASE("a derived sheet may leave closing to the base")
         }
     };
     ControlHost host;
-    CNumberPage page("page");
-    CAsking sheet("sheet", &host);
+    CNumberPage page(_T("page"));
+    CAsking sheet(_T("sheet"), &host);
     sheet.AddPage(&page);
     NextDialog answer([](HWND box) { ::SendMessage(box, WM_CLOSE, 0, 0); });
     CHECK(sheet.DoModal() == IDCANCEL);
@@ -433,12 +433,12 @@ TEST_CASE("a sheet starts with the page that was chosen, and with its title")
 {
     TwoPages two;
     two.sheet.SetActivePage(1);
-    two.sheet.SetTitle("Another");
+    two.sheet.SetTitle(_T("Another"));
     two.Run([&](Page& box) {
         CHECK(two.sheet.GetActivePage() == &two.second);
-        CHECK(box.Title() == "Another");
-        two.sheet.SetTitle("A third");
-        CHECK(box.Title() == "A third");
+        CHECK(box.Title() == _T("Another"));
+        two.sheet.SetTitle(_T("A third"));
+        CHECK(box.Title() == _T("A third"));
         box.Click(IDCANCEL);
     });
 }

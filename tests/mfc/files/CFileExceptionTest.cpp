@@ -90,23 +90,23 @@ TEST_CASE("a thrown file exception carries the error and the file")
         }
         return std::tuple(copy.m_cause, copy.m_lOsError, copy.m_strFileName);
     };
-    CHECK(caught([] { AfxThrowFileException(CFileException::badSeek, ERROR_SEEK, "a.txt"); }) ==
+    CHECK(caught([] { AfxThrowFileException(CFileException::badSeek, ERROR_SEEK, _T("a.txt")); }) ==
           std::tuple(int(CFileException::badSeek), LONG(ERROR_SEEK), CString("a.txt")));
-    CHECK(caught([] { CFileException::ThrowOsError(ERROR_LOCK_VIOLATION, "b.txt"); }) ==
+    CHECK(caught([] { CFileException::ThrowOsError(ERROR_LOCK_VIOLATION, _T("b.txt")); }) ==
           std::tuple(int(CFileException::lockViolation), LONG(ERROR_LOCK_VIOLATION),
                      CString("b.txt")));
-    CHECK(caught([] { CFileException::ThrowErrno(EBADF, "c.txt"); }) ==
+    CHECK(caught([] { CFileException::ThrowErrno(EBADF, _T("c.txt")); }) ==
           std::tuple(int(CFileException::invalidFile), LONG(-1), CString("c.txt")));
 }
 
 TEST_CASE("a file exception names the file and the system's reason")
 {
-    const CFileException error(CFileException::fileNotFound, ERROR_FILE_NOT_FOUND, "the file");
+    const CFileException error(CFileException::fileNotFound, ERROR_FILE_NOT_FOUND, _T("the file"));
     const CString text = MessageOf(error);
-    CHECK(text.Find("the file: ") == 0);
+    CHECK(text.Find(_T("the file: ")) == 0);
     CHECK(text.GetLength() > 12);
     CHECK(text.Right(1) != "\n");
-    CHECK(text.Find("file error") < 0);
+    CHECK(text.Find(_T("file error")) < 0);
 }
 
 TEST_CASE("without a reason of the system the cause is named by its number")
@@ -114,14 +114,14 @@ TEST_CASE("without a reason of the system the cause is named by its number")
     CFileException error(CFileException::diskFull);
     CHECK(MessageOf(error) == "file error 13");
     UINT context = 7;
-    char text[32] = "";
+    TCHAR text[32] = _T("");
     CHECK(error.GetErrorMessage(text, 32, &context));
     CHECK(context == 0);
 }
 
 TEST_CASE("a message that is too long is cut, and one without room is refused")
 {
-    const CFileException error(CFileException::fileNotFound, ERROR_FILE_NOT_FOUND, "the file");
+    const CFileException error(CFileException::fileNotFound, ERROR_FILE_NOT_FOUND, _T("the file"));
     CHECK(MessageOf(error, 5) == "the ");
     CHECK_FALSE(error.GetErrorMessage(NULL, 0));
 }

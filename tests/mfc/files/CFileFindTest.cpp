@@ -11,9 +11,9 @@
 namespace {
 
 /// The names that the usual loop meets, without the dots.
-std::set<std::string> NamesOf(LPCTSTR pattern)
+std::set<CString> NamesOf(LPCTSTR pattern)
 {
-    std::set<std::string> names;
+    std::set<CString> names;
     CFileFind finder;
     BOOL more = finder.FindFile(pattern);
     while (more) {
@@ -29,29 +29,29 @@ std::set<std::string> NamesOf(LPCTSTR pattern)
 TEST_CASE("a search meets every file of the pattern")
 {
     const TestFolder folder;
-    WriteFile(folder / "a.txt", "");
-    WriteFile(folder / "b.txt", "");
-    WriteFile(folder / "c.dat", "");
-    CHECK(NamesOf(folder / "*.txt") == std::set<std::string>{"a.txt", "b.txt"});
-    CHECK(NamesOf(folder / "*.*") == std::set<std::string>{"a.txt", "b.txt", "c.dat"});
-    CHECK(NamesOf(folder / "c.dat") == std::set<std::string>{"c.dat"});
-    CHECK(NamesOf(folder / "*.none").empty());
+    WriteFile(folder / _T("a.txt"), "");
+    WriteFile(folder / _T("b.txt"), "");
+    WriteFile(folder / _T("c.dat"), "");
+    CHECK(NamesOf(folder / _T("*.txt")) == std::set<CString>{_T("a.txt"), _T("b.txt")});
+    CHECK(NamesOf(folder / _T("*.*")) == std::set<CString>{_T("a.txt"), _T("b.txt"), _T("c.dat")});
+    CHECK(NamesOf(folder / _T("c.dat")) == std::set<CString>{_T("c.dat")});
+    CHECK(NamesOf(folder / _T("*.none")).empty());
 
-    char directory[MAX_PATH] = "";
+    TCHAR directory[MAX_PATH] = _T("");
     ::GetCurrentDirectory(MAX_PATH, directory);
     REQUIRE(::SetCurrentDirectory(folder.Path()));
-    CHECK(NamesOf(NULL) == std::set<std::string>{"a.txt", "b.txt", "c.dat"});
+    CHECK(NamesOf(NULL) == std::set<CString>{_T("a.txt"), _T("b.txt"), _T("c.dat")});
     CFileFind relative;
-    REQUIRE(relative.FindFile("a.*"));
+    REQUIRE(relative.FindFile(_T("a.*")));
     relative.FindNextFile();
-    CHECK(relative.GetFilePath().CompareNoCase(folder / "a.txt") == 0);
+    CHECK(relative.GetFilePath().CompareNoCase(folder / _T("a.txt")) == 0);
     ::SetCurrentDirectory(directory);
 }
 
 TEST_CASE("a found file tells its names, size, times and attributes")
 {
     const TestFolder folder;
-    const CString path = folder / "some.file.txt";
+    const CString path = folder / _T("some.file.txt");
     WriteFile(path, "content");
     CFileStatus status;
     REQUIRE(CFile::GetStatus(path, status));
@@ -60,14 +60,14 @@ TEST_CASE("a found file tells its names, size, times and attributes")
     CFile::SetStatus(path, status);
 
     CFileFind finder;
-    REQUIRE(finder.FindFile(folder / "*.txt"));
+    REQUIRE(finder.FindFile(folder / _T("*.txt")));
     CHECK_FALSE(finder.FindNextFile());
     CHECK(finder.GetFileName() == "some.file.txt");
     CHECK(finder.GetFileTitle() == "some.file");
     CHECK(finder.GetFilePath().CompareNoCase(path) == 0);
     CHECK(finder.GetRoot().CompareNoCase(folder.Path()) == 0);
     CString url = finder.GetFileURL();
-    CHECK(url.Find("file://") == 0);
+    CHECK(url.Find(_T("file://")) == 0);
     CHECK(url.Find('\\') == -1);
     CHECK(finder.GetLength() == 7);
     CHECK(finder.IsReadOnly());
@@ -94,11 +94,11 @@ TEST_CASE("a found file tells its names, size, times and attributes")
 TEST_CASE("folders and the two entries of dots are told apart")
 {
     const TestFolder folder;
-    REQUIRE(::CreateDirectory(folder / "..dots", NULL));
+    REQUIRE(::CreateDirectory(folder / _T("..dots"), NULL));
     int dots = 0;
     int folders = 0;
     CFileFind finder;
-    BOOL more = finder.FindFile(folder / "*");
+    BOOL more = finder.FindFile(folder / _T("*"));
     while (more) {
         more = finder.FindNextFile();
         dots += finder.IsDots();
@@ -113,15 +113,15 @@ TEST_CASE("without a found file there is nothing to ask")
     const TestFolder folder;
     CFileFind finder;
     CHECK_FALSE(finder.FindNextFile());
-    CHECK_FALSE(finder.FindFile(folder / "missing.*"));
+    CHECK_FALSE(finder.FindFile(folder / _T("missing.*")));
     CHECK(::GetLastError() == ERROR_FILE_NOT_FOUND);
     CHECK_FALSE(finder.FindNextFile());
     CHECK(Throws<CInvalidArgException>([&] { finder.GetFileName(); }));
     FILETIME time = {};
     CHECK_FALSE(finder.GetLastWriteTime(&time));
 
-    WriteFile(folder / "a.txt", "");
-    REQUIRE(finder.FindFile(folder / "*.txt"));
+    WriteFile(folder / _T("a.txt"), "");
+    REQUIRE(finder.FindFile(folder / _T("*.txt")));
     CHECK(Throws<CInvalidArgException>([&] { finder.GetLength(); }));
     CHECK_FALSE(finder.FindNextFile());
     CHECK(finder.GetFileName() == "a.txt");
@@ -129,5 +129,5 @@ TEST_CASE("without a found file there is nothing to ask")
     CHECK(::GetLastError() == ERROR_NO_MORE_FILES);
     finder.Close();
     CHECK(Throws<CInvalidArgException>([&] { finder.GetFileName(); }));
-    CHECK(finder.FindFile(folder / "a.txt"));
+    CHECK(finder.FindFile(folder / _T("a.txt")));
 }

@@ -23,7 +23,7 @@ std::string ContentOf(LPCTSTR path)
 TEST_CASE("what is written to a file is read from it")
 {
     const TestFolder folder;
-    const CString path = folder / "file.txt";
+    const CString path = folder / _T("file.txt");
     CFile file;
     REQUIRE(file.Open(path, CFile::modeCreate | CFile::modeReadWrite));
     file.Write("0123456789", 10);
@@ -52,20 +52,20 @@ TEST_CASE("what is written to a file is read from it")
 TEST_CASE("a file tells its names")
 {
     const TestFolder folder;
-    const CString path = folder / "some.file.txt";
+    const CString path = folder / _T("some.file.txt");
     CFile file(path, CFile::modeCreate | CFile::modeWrite);
     CHECK(file.GetFileName() == "some.file.txt");
     CHECK(file.GetFileTitle() == "some.file");
     CHECK(file.GetFilePath().CompareNoCase(path) == 0);
-    file.SetFilePath("C:\\other\\name.dat");
+    file.SetFilePath(_T("C:\\other\\name.dat"));
     CHECK(file.GetFileName() == "name.dat");
     file.Close();
     CHECK(file.GetFilePath() == "");
 
-    char directory[MAX_PATH] = "";
+    TCHAR directory[MAX_PATH] = _T("");
     ::GetCurrentDirectory(MAX_PATH, directory);
     REQUIRE(::SetCurrentDirectory(folder.Path()));
-    CFile relative("some.file.txt", CFile::modeRead);
+    CFile relative(_T("some.file.txt"), CFile::modeRead);
     CHECK(relative.GetFilePath().CompareNoCase(path) == 0);
     ::SetCurrentDirectory(directory);
 }
@@ -73,7 +73,7 @@ TEST_CASE("a file tells its names")
 TEST_CASE("creating empties a file, unless told not to")
 {
     const TestFolder folder;
-    const CString path = folder / "file.txt";
+    const CString path = folder / _T("file.txt");
     WriteFile(path, "content");
     CFile kept(path, CFile::modeCreate | CFile::modeNoTruncate | CFile::modeReadWrite);
     CHECK(kept.GetLength() == 7);
@@ -87,35 +87,37 @@ TEST_CASE("failure to open is told by the result and the cause")
     const TestFolder folder;
     CFile file;
     CFileException error;
-    CHECK_FALSE(file.Open(folder / "missing.txt", CFile::modeRead, &error));
+    CHECK_FALSE(file.Open(folder / _T("missing.txt"), CFile::modeRead, &error));
     CHECK(error.m_cause == CFileException::fileNotFound);
     CHECK(error.m_lOsError == ERROR_FILE_NOT_FOUND);
-    CHECK(error.m_strFileName == folder / "missing.txt");
+    CHECK(error.m_strFileName == folder / _T("missing.txt"));
     CHECK(file.m_hFile == CFile::hFileNull);
-    CHECK_FALSE(file.Open(folder / "missing\\file.txt", CFile::modeRead, &error));
+    CHECK_FALSE(file.Open(folder / _T("missing\\file.txt"), CFile::modeRead, &error));
     CHECK(error.m_cause == CFileException::badPath);
     CHECK_FALSE(file.Open(folder.Path(), CFile::modeRead, &error));
     CHECK(error.m_cause == CFileException::accessDenied);
-    CHECK_FALSE(file.Open("", CFile::modeRead, &error));
+    CHECK_FALSE(file.Open(_T(""), CFile::modeRead, &error));
     CHECK(error.m_cause == CFileException::badPath);
-    CHECK_FALSE(file.Open(folder / "missing.txt", CFile::modeRead));
+    CHECK_FALSE(file.Open(folder / _T("missing.txt"), CFile::modeRead));
 }
 
 TEST_CASE("the constructor and the operations throw with the cause")
 {
     const TestFolder folder;
-    CHECK(CauseOf([&] { CFile(folder / "missing.txt", CFile::modeRead); }) ==
+    CHECK(CauseOf([&] { CFile(folder / _T("missing.txt"), CFile::modeRead); }) ==
           CFileException::fileNotFound);
-    CHECK(CauseOf([&] { CFile::Remove(folder / "missing.txt"); }) == CFileException::fileNotFound);
-    CHECK(CauseOf([&] { CFile::Rename(folder / "missing.txt", folder / "x"); }) ==
+    CHECK(CauseOf([&] { CFile::Remove(folder / _T("missing.txt")); }) ==
+          CFileException::fileNotFound);
+    CHECK(CauseOf([&] { CFile::Rename(folder / _T("missing.txt"), folder / _T("x")); }) ==
           CFileException::fileNotFound);
 
-    WriteFile(folder / "readonly.txt", "");
-    REQUIRE(::SetFileAttributes(folder / "readonly.txt", FILE_ATTRIBUTE_READONLY));
-    CHECK(CauseOf([&] { CFile::Remove(folder / "readonly.txt"); }) == CFileException::accessDenied);
+    WriteFile(folder / _T("readonly.txt"), "");
+    REQUIRE(::SetFileAttributes(folder / _T("readonly.txt"), FILE_ATTRIBUTE_READONLY));
+    CHECK(CauseOf([&] { CFile::Remove(folder / _T("readonly.txt")); }) ==
+          CFileException::accessDenied);
 
-    WriteFile(folder / "file.txt", "content");
-    CFile file(folder / "file.txt", CFile::modeRead);
+    WriteFile(folder / _T("file.txt"), "content");
+    CFile file(folder / _T("file.txt"), CFile::modeRead);
     CHECK(CauseOf([&] { file.Write("x", 1); }) == CFileException::accessDenied);
     CHECK(CauseOf([&] { file.Seek(-1, CFile::begin); }) == CFileException::badSeek);
     CHECK(CauseOf([&] { file.SetLength(3); }) != CFileException::none);
@@ -130,7 +132,7 @@ TEST_CASE("the constructor and the operations throw with the cause")
 TEST_CASE("sharing is refused as the modes say")
 {
     const TestFolder folder;
-    const CString path = folder / "file.txt";
+    const CString path = folder / _T("file.txt");
     WriteFile(path, "content");
     CFileException error;
     CFile second;
@@ -152,7 +154,7 @@ TEST_CASE("sharing is refused as the modes say")
 TEST_CASE("ranges are locked against other handles")
 {
     const TestFolder folder;
-    const CString path = folder / "file.txt";
+    const CString path = folder / _T("file.txt");
     WriteFile(path, "0123456789");
     CFile first(path, CFile::modeReadWrite | CFile::shareDenyNone);
     CFile second(path, CFile::modeReadWrite | CFile::shareDenyNone);
@@ -167,7 +169,7 @@ TEST_CASE("ranges are locked against other handles")
 TEST_CASE("a duplicate shares the place in the file and lives on its own")
 {
     const TestFolder folder;
-    CFile file(folder / "file.txt", CFile::modeCreate | CFile::modeReadWrite);
+    CFile file(folder / _T("file.txt"), CFile::modeCreate | CFile::modeReadWrite);
     file.Write("abc", 3);
     const std::unique_ptr<CFile> copy(file.Duplicate());
     CHECK(copy->m_hFile != file.m_hFile);
@@ -181,7 +183,7 @@ TEST_CASE("a duplicate shares the place in the file and lives on its own")
 TEST_CASE("an attached handle is closed with the object, a closed one is let go")
 {
     const TestFolder folder;
-    const CString path = folder / "file.txt";
+    const CString path = folder / _T("file.txt");
     {
         CFile file(path, CFile::modeCreate | CFile::modeWrite | CFile::shareExclusive);
     }
@@ -201,7 +203,7 @@ TEST_CASE("an attached handle is closed with the object, a closed one is let go"
 TEST_CASE("the status tells size, times and attributes, and sets them")
 {
     const TestFolder folder;
-    const CString path = folder / "file.txt";
+    const CString path = folder / _T("file.txt");
     WriteFile(path, "content");
     CFileStatus status;
     REQUIRE(CFile::GetStatus(path, status));
@@ -237,8 +239,8 @@ TEST_CASE("the status tells size, times and attributes, and sets them")
     CHECK(status.m_mtime == changed + CTimeSpan(1, 0, 0, 0));
     CHECK((status.m_attribute & CFile::readOnly) == 0);
 
-    CHECK_FALSE(CFile::GetStatus(folder / "missing.txt", status));
-    CHECK(CauseOf([&] { CFile::SetStatus(folder / "missing.txt", after); }) ==
+    CHECK_FALSE(CFile::GetStatus(folder / _T("missing.txt"), status));
+    CHECK(CauseOf([&] { CFile::SetStatus(folder / _T("missing.txt"), after); }) ==
           CFileException::fileNotFound);
     REQUIRE(CFile::GetStatus(folder.Path(), status));
     CHECK((status.m_attribute & CFile::directory) != 0);
@@ -247,13 +249,13 @@ TEST_CASE("the status tells size, times and attributes, and sets them")
 TEST_CASE("files are renamed and removed")
 {
     const TestFolder folder;
-    WriteFile(folder / "a.txt", "a");
-    WriteFile(folder / "b.txt", "b");
-    CFile::Rename(folder / "a.txt", folder / "c.txt");
-    CHECK(ContentOf(folder / "c.txt") == "a");
-    CHECK(CauseOf([&] { CFile::Rename(folder / "b.txt", folder / "c.txt"); }) ==
+    WriteFile(folder / _T("a.txt"), "a");
+    WriteFile(folder / _T("b.txt"), "b");
+    CFile::Rename(folder / _T("a.txt"), folder / _T("c.txt"));
+    CHECK(ContentOf(folder / _T("c.txt")) == "a");
+    CHECK(CauseOf([&] { CFile::Rename(folder / _T("b.txt"), folder / _T("c.txt")); }) ==
           CFileException::accessDenied);
-    CFile::Remove(folder / "c.txt");
+    CFile::Remove(folder / _T("c.txt"));
     CFileStatus status;
-    CHECK_FALSE(CFile::GetStatus(folder / "c.txt", status));
+    CHECK_FALSE(CFile::GetStatus(folder / _T("c.txt"), status));
 }

@@ -12,9 +12,9 @@ class TestFolder
 public:
     TestFolder()
     {
-        char temporary[MAX_PATH] = "";
+        TCHAR temporary[MAX_PATH] = _T("");
         ::GetTempPath(MAX_PATH, temporary);
-        path_.Format("%sumbra-%lu-%d", temporary, ::GetCurrentProcessId(), ++made);
+        path_.Format(_T("%sumbra-%lu-%d"), temporary, ::GetCurrentProcessId(), ++made);
         ::CreateDirectory(path_, NULL);
     }
     TestFolder(const TestFolder&) = delete;
@@ -22,7 +22,7 @@ public:
     ~TestFolder()
     {
         WIN32_FIND_DATA found;
-        const HANDLE search = ::FindFirstFile(*this / "*", &found);
+        const HANDLE search = ::FindFirstFile(*this / _T("*"), &found);
         for (BOOL more = search != INVALID_HANDLE_VALUE; more;
              more = ::FindNextFile(search, &found)) {
             const CString entry = *this / found.cFileName;
@@ -36,7 +36,7 @@ public:
 
     const CString& Path() const { return path_; }
     /// The path of a file in the folder.
-    CString operator/(LPCTSTR name) const { return path_ + "\\" + name; }
+    CString operator/(LPCTSTR name) const { return path_ + _T("\\") + name; }
 
 private:
     static inline int made = 0;

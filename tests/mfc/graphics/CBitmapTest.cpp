@@ -29,7 +29,7 @@ TEST_CASE("a bitmap resource that does not exist leaves the object empty")
 {
     CBitmap bitmap;
     CHECK_FALSE(bitmap.LoadBitmap(9199));
-    CHECK_FALSE(bitmap.LoadBitmap("NoSuchBitmap"));
+    CHECK_FALSE(bitmap.LoadBitmap(_T("NoSuchBitmap")));
     CHECK(bitmap.m_hObject == nullptr);
 }
 

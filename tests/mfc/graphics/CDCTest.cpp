@@ -106,11 +106,11 @@ TEST_CASE("a context is deleted once and detached without being deleted")
 TEST_CASE("contexts of the display are made by name")
 {
     CDC output;
-    CHECK(output.CreateDC("DISPLAY", nullptr, nullptr, nullptr));
+    CHECK(output.CreateDC(_T("DISPLAY"), nullptr, nullptr, nullptr));
     CHECK(output.GetDeviceCaps(TECHNOLOGY) == DT_RASDISPLAY);
     CHECK_FALSE(output.IsPrinting());
     CDC information;
-    CHECK(information.CreateIC("DISPLAY", nullptr, nullptr, nullptr));
+    CHECK(information.CreateIC(_T("DISPLAY"), nullptr, nullptr, nullptr));
 }
 
 TEST_CASE("settings go to both contexts, questions to the attribute context")
@@ -174,7 +174,7 @@ TEST_CASE("selecting an object returns the former one")
         CHECK(paper.dc.SelectObject(formerBrush) == &brush);
 
         CFont font;
-        font.CreatePointFont(120, "Tahoma");
+        font.CreatePointFont(120, _T("Tahoma"));
         CFont* formerFont = paper.dc.SelectObject(&font);
         CHECK(paper.dc.GetCurrentFont() == &font);
         CHECK(paper.dc.SelectStockObject(SYSTEM_FONT) == &font);
@@ -622,17 +622,17 @@ TEST_CASE("a text is drawn by state, with and without prefixes")
     Paper paper(80, 20);
     paper.dc.SetBkMode(TRANSPARENT);
     const CSize size(80, 20);
-    CHECK(paper.dc.DrawState(CPoint(0, 0), size, "&Text", DSS_NORMAL, TRUE, 0,
+    CHECK(paper.dc.DrawState(CPoint(0, 0), size, _T("&Text"), DSS_NORMAL, TRUE, 0,
                              static_cast<HBRUSH>(NULL)));
     const Picture prefixed = paper.ToPicture();
     paper.Fill(white);
-    CHECK(paper.dc.DrawState(CPoint(0, 0), size, "&Text", DSS_NORMAL, FALSE, 0,
+    CHECK(paper.dc.DrawState(CPoint(0, 0), size, _T("&Text"), DSS_NORMAL, FALSE, 0,
                              static_cast<CBrush*>(NULL)));
     const Picture plain = paper.ToPicture();
     CHECK(prefixed.CountOf(white) < 1600);
     CHECK(plain != prefixed);
     paper.Fill(white);
-    CHECK(paper.dc.DrawState(CPoint(0, 0), size, "&Text", DSS_NORMAL, FALSE, 2,
+    CHECK(paper.dc.DrawState(CPoint(0, 0), size, _T("&Text"), DSS_NORMAL, FALSE, 2,
                              static_cast<HBRUSH>(NULL)));
     CHECK(paper.ToPicture().CountOf(white) > plain.CountOf(white)); // Two letters only.
 }
@@ -713,8 +713,8 @@ TEST_CASE("patterns, floods and gradients fill")
 
 TEST_CASE("a part of a window scrolls and tells what it uncovered")
 {
-    const HWND window =
-        ::CreateWindow("STATIC", "", WS_POPUP | WS_VISIBLE, 10, 10, 60, 40, NULL, NULL, NULL, NULL);
+    const HWND window = ::CreateWindow(_T("STATIC"), _T(""), WS_POPUP | WS_VISIBLE, 10, 10, 60, 40,
+                                       NULL, NULL, NULL, NULL);
     {
         CClientDC dc(CWnd::FromHandle(window));
         dc.FillSolidRect(0, 0, 5, 5, red);
@@ -737,7 +737,7 @@ TEST_CASE("text is drawn from strings and from characters")
 {
     Paper paper(100, 30);
     CDC& dc = paper.dc;
-    CHECK(dc.TextOut(0, 0, "Text", 4));
+    CHECK(dc.TextOut(0, 0, _T("Text"), 4));
     const Picture first = paper.ToPicture();
     CHECK(first.CountOf(white) < 3000);
     paper.Fill(white);
@@ -757,13 +757,13 @@ TEST_CASE("DrawText takes a length of -1 and answers the height")
     CRect byLength(0, 0, 100, 40);
     CRect toEnd(0, 0, 100, 40);
     CRect byString(0, 0, 100, 40);
-    CHECK(dc.DrawText("Two\nlines", 9, &byLength, DT_CALCRECT) == 2 * metrics.tmHeight);
-    CHECK(dc.DrawText("Two\nlines", -1, &toEnd, DT_CALCRECT) == 2 * metrics.tmHeight);
+    CHECK(dc.DrawText(_T("Two\nlines"), 9, &byLength, DT_CALCRECT) == 2 * metrics.tmHeight);
+    CHECK(dc.DrawText(_T("Two\nlines"), -1, &toEnd, DT_CALCRECT) == 2 * metrics.tmHeight);
     CHECK(dc.DrawText(CString("Two\nlines"), &byString, DT_CALCRECT) == 2 * metrics.tmHeight);
     CHECK(byLength == toEnd);
     CHECK(byLength == byString);
-    CHECK(byLength.Width() == dc.GetTextExtent("lines", 5).cx);
-    dc.DrawText("Two\nlines", -1, &toEnd, DT_LEFT);
+    CHECK(byLength.Width() == dc.GetTextExtent(_T("lines"), 5).cx);
+    dc.DrawText(_T("Two\nlines"), -1, &toEnd, DT_LEFT);
     CHECK(paper.ToPicture().CountOf(white) < 4000);
 }
 
@@ -777,7 +777,7 @@ TEST_CASE("a constant string is not modified by DrawText")
     paper.dc.DrawTextEx(text, &rect, DT_END_ELLIPSIS | DT_MODIFYSTRING, nullptr);
     CHECK(sharing == "A text that is much too long");
 
-    char buffer[64] = "A text that is much too long";
+    TCHAR buffer[64] = _T("A text that is much too long");
     paper.dc.DrawTextEx(buffer, -1, &rect, DT_END_ELLIPSIS | DT_MODIFYSTRING, nullptr);
     CHECK(CString(buffer).Right(3) == "...");
 }
@@ -786,29 +786,29 @@ TEST_CASE("extents of text agree with each other")
 {
     Paper paper(100, 30);
     CDC& dc = paper.dc;
-    const CSize extent = dc.GetTextExtent("Extent", 6);
+    const CSize extent = dc.GetTextExtent(_T("Extent"), 6);
     CHECK(extent.cx > 0);
     CHECK(dc.GetTextExtent(CString("Extent")) == extent);
-    CHECK(dc.GetOutputTextExtent("Extent", 6) == extent);
+    CHECK(dc.GetOutputTextExtent(_T("Extent"), 6) == extent);
     CHECK(dc.GetTabbedTextExtent(CString("Extent"), 0, nullptr) == extent);
 
     int tabStop = 60;
-    const CSize tabbed = dc.GetTabbedTextExtent("a\tb", 3, 1, &tabStop);
-    CHECK(tabbed.cx == 60 + dc.GetTextExtent("b", 1).cx);
+    const CSize tabbed = dc.GetTabbedTextExtent(_T("a\tb"), 3, 1, &tabStop);
+    CHECK(tabbed.cx == 60 + dc.GetTextExtent(_T("b"), 1).cx);
     CHECK(dc.TabbedTextOut(0, 0, CString("a\tb"), 1, &tabStop, 0) == tabbed);
     CHECK(dc.GetOutputTabbedTextExtent(CString("a\tb"), 1, &tabStop) == tabbed);
 
     int width = 0;
     CHECK(dc.GetCharWidth('E', 'E', &width));
-    CHECK(width == dc.GetTextExtent("E", 1).cx);
+    CHECK(width == dc.GetTextExtent(_T("E"), 1).cx);
     CHECK(dc.GetOutputCharWidth('E', 'E', &width));
-    CHECK(width == dc.GetTextExtent("E", 1).cx);
+    CHECK(width == dc.GetTextExtent(_T("E"), 1).cx);
 }
 
 TEST_CASE("the face name of the selected font is told")
 {
     Paper paper(10, 10);
-    char face[LF_FACESIZE] = "";
+    TCHAR face[LF_FACESIZE] = _T("");
     CHECK(paper.dc.GetTextFace(LF_FACESIZE, face) > 0);
     CString name;
     CHECK(paper.dc.GetTextFace(name) > 0);
@@ -863,5 +863,5 @@ TEST_CASE("only what a printer draws on is printing")
     CHECK_FALSE(none.IsPrinting());
     Paper paper(10, 10);
     CHECK_FALSE(paper.dc.IsPrinting());
-    CHECK(paper.dc.StartDoc("Title") <= 0); // No printer behind it.
+    CHECK(paper.dc.StartDoc(_T("Title")) <= 0); // No printer behind it.
 }

@@ -31,7 +31,7 @@ TEST_CASE("a point font counts in tenths of a point of the screen")
     BalancedGdi balance;
     {
         CFont font;
-        REQUIRE(font.CreatePointFont(80, "Tahoma"));
+        REQUIRE(font.CreatePointFont(80, _T("Tahoma")));
         const LOGFONT data = DataOf(font);
         CHECK(data.lfHeight == -::MulDiv(80, ScreenDotsPerInch(), 720));
         CHECK(data.lfWidth == 0);
@@ -50,7 +50,7 @@ TEST_CASE("a point font of a scaled context is measured in its logical units")
     dc->SetViewportExt(100, 100);
     dc->SetViewportOrg(5, 7); // The origin has no part in it.
     CFont font;
-    REQUIRE(font.CreatePointFont(720, "Tahoma", dc));
+    REQUIRE(font.CreatePointFont(720, _T("Tahoma"), dc));
     CHECK(DataOf(font).lfHeight == -3 * dc->GetDeviceCaps(LOGPIXELSY));
 }
 
@@ -60,7 +60,7 @@ TEST_CASE("a point font by structure leaves the structure as it is")
     wanted.lfHeight = 120;
     wanted.lfWeight = FW_BOLD;
     wanted.lfItalic = TRUE;
-    lstrcpy(wanted.lfFaceName, "Courier New");
+    lstrcpy(wanted.lfFaceName, _T("Courier New"));
     CFont font;
     REQUIRE(font.CreatePointFontIndirect(&wanted));
     CHECK(wanted.lfHeight == 120);
@@ -75,7 +75,7 @@ TEST_CASE("CreateFont puts every argument in its place")
     CFont font;
     REQUIRE(font.CreateFont(-20, 5, 100, 200, 600, TRUE, TRUE, TRUE, SYMBOL_CHARSET, OUT_TT_PRECIS,
                             CLIP_LH_ANGLES, ANTIALIASED_QUALITY, FIXED_PITCH | FF_MODERN,
-                            "Marlett"));
+                            _T("Marlett")));
     const LOGFONT data = DataOf(font);
     CHECK(data.lfHeight == -20);
     CHECK(data.lfWidth == 5);
@@ -96,6 +96,7 @@ TEST_CASE("CreateFont puts every argument in its place")
 TEST_CASE("a face name that is too long is cut off")
 {
     CFont font;
-    REQUIRE(font.CreatePointFont(100, "A name of a face that has more than thirty-one letters"));
-    CHECK(strlen(DataOf(font).lfFaceName) == LF_FACESIZE - 1);
+    REQUIRE(
+        font.CreatePointFont(100, _T("A name of a face that has more than thirty-one letters")));
+    CHECK(_tcslen(DataOf(font).lfFaceName) == LF_FACESIZE - 1);
 }

@@ -174,8 +174,8 @@ TEST_CASE("an overlay is drawn over an image")
 
 TEST_CASE("an image is dragged over a window")
 {
-    const HWND window =
-        ::CreateWindow("STATIC", "", WS_POPUP | WS_VISIBLE, 10, 10, 60, 40, NULL, NULL, NULL, NULL);
+    const HWND window = ::CreateWindow(_T("STATIC"), _T(""), WS_POPUP | WS_VISIBLE, 10, 10, 60, 40,
+                                       NULL, NULL, NULL, NULL);
     CImageList list;
     LoadRedAndBlue(list);
     CHECK(list.BeginDrag(0, CPoint(1, 1)));

@@ -12,8 +12,8 @@ namespace {
 
 HWND CreatePlainWindow()
 {
-    return ::CreateWindow("STATIC", "", WS_POPUP | WS_VISIBLE, 10, 10, 60, 40, NULL, NULL, NULL,
-                          NULL);
+    return ::CreateWindow(_T("STATIC"), _T(""), WS_POPUP | WS_VISIBLE, 10, 10, 60, 40, NULL, NULL,
+                          NULL, NULL);
 }
 
 bool NeedsPainting(HWND window)

@@ -12,8 +12,8 @@
 /// A framed window that shows; the test destroys it.
 inline HWND CreateFramedWindow()
 {
-    return ::CreateWindow("STATIC", "", WS_OVERLAPPEDWINDOW | WS_VISIBLE, 10, 10, 200, 100, NULL,
-                          NULL, NULL, NULL);
+    return ::CreateWindow(_T("STATIC"), _T(""), WS_OVERLAPPEDWINDOW | WS_VISIBLE, 10, 10, 200, 100,
+                          NULL, NULL, NULL, NULL);
 }
 
 /// A context of the class paints on a part of a window that is as large as getArea says, and goes

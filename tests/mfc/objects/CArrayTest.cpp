@@ -269,8 +269,8 @@ TEST_CASE("an array holds objects that cannot be copied")
 TEST_CASE("an array of strings is handed plain text")
 {
     CArray<CString, LPCTSTR> texts;
-    texts.Add("one");
-    texts.SetAtGrow(2, "three");
+    texts.Add(_T("one"));
+    texts.SetAtGrow(2, _T("three"));
     CHECK(texts[0] == "one");
     CHECK(texts[1].IsEmpty());
     CHECK(texts[2] == "three");

@@ -25,7 +25,7 @@ IMPLEMENT_DYNAMIC(CCountedException, CException)
 CString Explain(CException& exception)
 {
     TCHAR text[256];
-    return exception.GetErrorMessage(text, 256) ? text : "none";
+    return exception.GetErrorMessage(text, 256) ? text : _T("none");
 }
 
 void RethrowLast()
@@ -193,7 +193,7 @@ TEST_CASE("END_TRY ends an exception quietly")
 
 TEST_CASE("an exception is reported in a message box with its text")
 {
-    std::string shown;
+    CString shown;
     CString expected;
     NextDialog answer([&](HWND box) {
         shown = MessageBoxText(box);
@@ -208,7 +208,7 @@ TEST_CASE("an exception is reported in a message box with its text")
 
 TEST_CASE("an exception without a text is reported with the string asked for")
 {
-    std::string shown;
+    CString shown;
     NextDialog answer([&](HWND box) {
         shown = MessageBoxText(box);
         ::PostMessage(box, WM_COMMAND, IDOK, 0);

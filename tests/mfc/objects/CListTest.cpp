@@ -146,10 +146,10 @@ TEST_CASE("empty lists and missing positions throw")
 TEST_CASE("a list of strings is searched with plain text")
 {
     CList<CString, LPCTSTR> texts;
-    texts.AddTail("one");
-    texts.AddTail("two");
-    CHECK(texts.Find("two") == texts.GetTailPosition());
-    CHECK(texts.Find("three") == NULL);
+    texts.AddTail(_T("one"));
+    texts.AddTail(_T("two"));
+    CHECK(texts.Find(_T("two")) == texts.GetTailPosition());
+    CHECK(texts.Find(_T("three")) == NULL);
     texts.AddHead(texts.GetTail());
     CHECK(texts.RemoveHead() == "two");
 }

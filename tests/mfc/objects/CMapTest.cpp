@@ -47,7 +47,7 @@ TEST_CASE("values are set, looked up and removed by their key")
 {
     CMap<int, int, CString, LPCTSTR> map;
     CHECK(map.IsEmpty());
-    map.SetAt(1, "one");
+    map.SetAt(1, _T("one"));
     map[2] = "two";
     CHECK(map.GetCount() == 2);
     CHECK(map.GetSize() == 2);
@@ -56,7 +56,7 @@ TEST_CASE("values are set, looked up and removed by their key")
     CHECK(text == "one");
     CHECK_FALSE(map.Lookup(3, text));
     CHECK(text == "one");
-    map.SetAt(1, "uno");
+    map.SetAt(1, _T("uno"));
     CHECK(map.GetCount() == 2);
     CHECK(map[1] == "uno");
     CHECK(map[9].IsEmpty());
@@ -72,14 +72,14 @@ TEST_CASE("values are set, looked up and removed by their key")
 TEST_CASE("strings are keys by their characters")
 {
     CMap<CString, LPCTSTR, int, int> map;
-    char key[] = "key";
+    TCHAR key[] = _T("key");
     map.SetAt(key, 1);
     key[0] = 'K';
     map.SetAt(key, 2);
     int value = 0;
     CHECK(map.Lookup(CString("key"), value));
     CHECK(value == 1);
-    CHECK(map.Lookup("Key", value));
+    CHECK(map.Lookup(_T("Key"), value));
     CHECK(value == 2);
 
     CMap<CString, const CString&, int, int> byReference;

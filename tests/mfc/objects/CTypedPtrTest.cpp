@@ -126,11 +126,11 @@ TEST_CASE("a typed map gives its own keys and values back")
     CItem second(2);
     Map map;
     map.SetAt("first", &first);
-    map["second"] = &second;
+    map[_T("second")] = &second;
     CItem* found = NULL;
-    CHECK(map.Lookup("second", found));
+    CHECK(map.Lookup(_T("second"), found));
     CHECK(found->value == 2);
-    CHECK_FALSE(map.Lookup("third", found));
+    CHECK_FALSE(map.Lookup(_T("third"), found));
     CHECK(found == &second);
     CString key;
     POSITION position = map.GetStartPosition();

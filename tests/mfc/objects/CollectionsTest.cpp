@@ -18,10 +18,10 @@ public:
 TEST_CASE("arrays of fixed types hold their values")
 {
     CStringArray texts;
-    texts.Add("one");
+    texts.Add(_T("one"));
     texts.Add(CString("two"));
-    texts.InsertAt(1, "middle");
-    texts.SetAtGrow(4, "five");
+    texts.InsertAt(1, _T("middle"));
+    texts.SetAtGrow(4, _T("five"));
     CHECK(texts.GetSize() == 5);
     CHECK(texts[1] == "middle");
     CHECK(texts[3].IsEmpty());
@@ -56,10 +56,10 @@ TEST_CASE("arrays of fixed types hold their values")
 TEST_CASE("lists of fixed types hold their values")
 {
     CStringList texts;
-    texts.AddTail("one");
-    texts.AddHead("zero");
+    texts.AddTail(_T("one"));
+    texts.AddHead(_T("zero"));
     CHECK(texts.GetHead() == "zero");
-    CHECK(texts.Find("one") == texts.GetTailPosition());
+    CHECK(texts.Find(_T("one")) == texts.GetTailPosition());
     POSITION position = texts.GetHeadPosition();
     CString both = texts.GetNext(position);
     both += texts.GetNext(position);
@@ -86,29 +86,29 @@ TEST_CASE("lists of fixed types hold their values")
 TEST_CASE("maps of fixed types hold their values")
 {
     CMapStringToString texts;
-    texts["key"] = "value";
-    texts.SetAt("other", CString("thing"));
+    texts[_T("key")] = _T("value");
+    texts.SetAt(_T("other"), CString(_T("thing")));
     CString value;
-    CHECK(texts.Lookup("key", value));
+    CHECK(texts.Lookup(_T("key"), value));
     CHECK(value == "value");
     LPCTSTR key = NULL;
     CString wanted("other");
     REQUIRE(texts.LookupKey(wanted, key));
     CHECK(CString(key) == "other");
     CHECK(key != wanted.GetString());
-    CHECK_FALSE(texts.LookupKey("missing", key));
-    CHECK(texts.HashKey("key") == texts.HashKey(CString("key")));
-    const CMapStringToString::CPair* pair = texts.PLookup("key");
+    CHECK_FALSE(texts.LookupKey(_T("missing"), key));
+    CHECK(texts.HashKey(_T("key")) == texts.HashKey(CString(_T("key"))));
+    const CMapStringToString::CPair* pair = texts.PLookup(_T("key"));
     REQUIRE(pair != NULL);
     CHECK(pair->key == "key");
 
     int number = 0;
     CMapStringToPtr toPointer;
-    toPointer["number"] = &number;
+    toPointer[_T("number")] = &number;
     void* found = NULL;
-    CHECK(toPointer.Lookup("number", found));
+    CHECK(toPointer.Lookup(_T("number"), found));
     CHECK(found == &number);
-    CHECK(toPointer["missing"] == NULL);
+    CHECK(toPointer[_T("missing")] == NULL);
 
     CMapPtrToPtr pointers;
     pointers[&number] = &found;
@@ -126,8 +126,8 @@ TEST_CASE("maps of fixed types hold their values")
     CMapWordToOb objects;
     objects[1] = &thing;
     CMapStringToOb named;
-    named["thing"] = objects[1];
-    CHECK(named["thing"] == &thing);
+    named[_T("thing")] = objects[1];
+    CHECK(named[_T("thing")] == &thing);
 }
 
 TEST_CASE("the collections can be made by their run-time class")

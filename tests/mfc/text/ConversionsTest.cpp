@@ -26,14 +26,14 @@ TEST_CASE("the classes convert both ways and keep the result while they live")
     CHECK(std::wstring(wide) == L"text");
     const CW2A narrow(L"text");
     CHECK(std::string(narrow) == "text");
-    CHECK(std::wstring(CT2W("text")) == L"text");
-    CHECK(std::string(CW2T(L"text")) == "text");
-    CHECK(std::wstring(CT2CW("text")) == L"text");
+    CHECK(std::wstring(CT2W(_T("text"))) == L"text");
+    CHECK(CString(CW2T(L"text")) == _T("text"));
+    CHECK(std::wstring(CT2CW(_T("text"))) == L"text");
     CHECK(std::wstring(CA2CW("text")) == L"text");
     CHECK(std::string(CW2CA(L"text")) == "text");
-    CHECK(std::string(CW2CT(L"text")) == "text");
-    CHECK(std::wstring(CT2OLE("text")) == L"text");
-    CHECK(std::string(COLE2T(L"text")) == "text");
+    CHECK(CString(CW2CT(L"text")) == _T("text"));
+    CHECK(std::wstring(CT2OLE(_T("text"))) == L"text");
+    CHECK(CString(COLE2T(L"text")) == _T("text"));
 }
 
 TEST_CASE("text of any length converts")
@@ -45,7 +45,8 @@ TEST_CASE("text of any length converts")
         const std::wstring wide(length, L'x');
         CHECK(std::wstring(CA2W(narrow.c_str())) == wide);
         CHECK(std::string(CW2A(wide.c_str())) == narrow);
-        CHECK(std::string(CT2A(narrow.c_str())) == narrow);
+        CHECK(std::string(CA2A(narrow.c_str())) == narrow);
+        CHECK(std::string(CT2A(CString(narrow.c_str()))) == narrow);
         CHECK(std::wstring(CW2W(wide.c_str())) == wide);
         CHECK(std::wstring(CA2WEX<4>(narrow.c_str())) == wide);
         CHECK(WidenedByMacro(narrow.c_str()) == wide);
@@ -61,10 +62,10 @@ TEST_CASE("NULL converts to NULL")
     CHECK(static_cast<LPWSTR>(CA2W(narrow)) == NULL);
     CHECK(static_cast<LPSTR>(CW2A(wide)) == NULL);
     CHECK(static_cast<LPSTR>(CA2A(narrow)) == NULL);
-    CHECK(static_cast<LPCSTR>(CT2CA(narrow)) == NULL);
+    CHECK(static_cast<LPCSTR>(CT2CA(static_cast<LPCTSTR>(NULL))) == NULL);
     CHECK(A2W(narrow) == NULL);
     CHECK(W2A(wide) == NULL);
-    CHECK(T2A(narrow) == NULL);
+    CHECK(T2A(static_cast<LPCTSTR>(NULL)) == NULL);
     CHECK(A2BSTR(narrow) == NULL);
     CHECK(W2BSTR(wide) == NULL);
 }
@@ -79,13 +80,24 @@ TEST_CASE("the code page of a conversion may be given")
 TEST_CASE("copies are the program's to change, constant results are the text itself")
 {
     const char text[] = "text";
-    CT2A copy(text);
+    CA2A copy(text);
     CHECK(copy.m_psz != text);
     copy.m_psz[0] = 'T';
     CHECK(std::string(copy) == "Text");
     CHECK(std::string(text) == "text");
-    CHECK(static_cast<LPCSTR>(CT2CA(text)) == text);
-    CHECK(static_cast<LPCWSTR>(CW2CW(L"wide")) != NULL);
+    const wchar_t wide[] = L"wide";
+    CHECK(static_cast<LPCWSTR>(CW2CW(wide)) == wide);
+    // What need not be converted is the text itself.
+    const TCHAR own[] = _T("own");
+#ifdef _UNICODE
+    CHECK(static_cast<LPCTSTR>(CW2CT(own)) == own);
+    CHECK(static_cast<LPCWSTR>(CT2CW(own)) == own);
+    CHECK(T2W(own) == own);
+#else
+    CHECK(static_cast<LPCTSTR>(CA2CT(own)) == own);
+    CHECK(static_cast<LPCSTR>(CT2CA(own)) == own);
+    CHECK(T2A(own) == own);
+#endif
 }
 
 TEST_CASE("results of the macros live until the function returns")
@@ -97,13 +109,13 @@ TEST_CASE("results of the macros live until the function returns")
         (void)A2W("more");
     CHECK(std::wstring(first) == L"first");
     CHECK(std::string(second) == "second");
-    CHECK(std::wstring(T2W("t")) == L"t");
-    CHECK(std::string(W2T(L"t")) == "t");
-    CHECK(std::string(T2CA("t")) == "t");
-    CHECK(std::string(A2CT("t")) == "t");
-    CHECK(std::wstring(T2COLE("t")) == L"t");
-    CHECK(std::string(OLE2CT(L"t")) == "t");
-    CHECK(CString(T2A("t")) + A2T("u") == "tu");
+    CHECK(std::wstring(T2W(_T("t"))) == L"t");
+    CHECK(CString(W2T(L"t")) == "t");
+    CHECK(std::string(T2CA(_T("t"))) == "t");
+    CHECK(CString(A2CT("t")) == "t");
+    CHECK(std::wstring(T2COLE(_T("t"))) == L"t");
+    CHECK(CString(OLE2CT(L"t")) == "t");
+    CHECK(CString(T2A(_T("t"))) + A2T("u") == "tu");
 }
 
 TEST_CASE("text becomes strings of the system")
@@ -119,7 +131,7 @@ TEST_CASE("text becomes strings of the system")
 
 TEST_CASE("a string takes converted text, and formats it")
 {
-    CString text = CString(CW2A(L"wide"));
-    text.Format("%s and %S", CW2A(L"narrow"), CA2W("wide"));
+    CString text = CString(CW2T(L"wide"));
+    text.Format(_T("%hs and %ls"), CW2A(L"narrow"), CA2W("wide"));
     CHECK(text == "narrow and wide");
 }

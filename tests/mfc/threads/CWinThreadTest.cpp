@@ -6,7 +6,9 @@
 #include "testing/CallFault.h"
 #include "testing/NextDialog.h"
 #include "testing/Pump.h"
+#include "testing/Text.h"
 
+#include "tests/LibraryFiles.h"
 #include "tests/mfc/FailureCount.h"
 #include "tests/mfc/MessageBoxText.h"
 
@@ -20,7 +22,7 @@ namespace {
 constexpr UINT askNumber = WM_APP + 1;
 constexpr UINT throwSomething = WM_APP + 2;
 
-const UINT registeredThreadMessage = ::RegisterWindowMessage("Umbra thread message");
+const UINT registeredThreadMessage = ::RegisterWindowMessage(_T("Umbra thread message"));
 
 /// A thread with a message loop that writes down what it sees.
 class CLoopThread : public CWinThread
@@ -108,7 +110,8 @@ public:
     int m_nPaints = 0;
     BOOL MakeIt()
     {
-        return CreateEx(0, AfxRegisterWndClass(0), "throwing", WS_POPUP, 0, 0, 50, 50, NULL, NULL);
+        return CreateEx(0, AfxRegisterWndClass(0), _T("throwing"), WS_POPUP, 0, 0, 50, 50, NULL,
+                        NULL);
     }
 
 protected:
@@ -149,7 +152,7 @@ public:
     bool m_bKeep = false;
     BOOL MakeIt(CWnd* parent)
     {
-        return CreateEx(0, AfxRegisterWndClass(0), "asked",
+        return CreateEx(0, AfxRegisterWndClass(0), _T("asked"),
                         parent == NULL ? WS_POPUP : WS_CHILD | WS_VISIBLE, 0, 0, 50, 50,
                         parent == NULL ? NULL : parent->m_hWnd, NULL);
     }
@@ -273,7 +276,8 @@ TEST_CASE("idle calls are counted until one is the last, and again after a messa
 TEST_CASE("destroying the main window ends the loop")
 {
     CWnd window;
-    REQUIRE(window.CreateEx(0, AfxRegisterWndClass(0), "main", WS_POPUP, 0, 0, 10, 10, NULL, NULL));
+    REQUIRE(
+        window.CreateEx(0, AfxRegisterWndClass(0), _T("main"), WS_POPUP, 0, 0, 10, 10, NULL, NULL));
     CWinThread* thread = AfxGetThread();
     thread->m_pMainWnd = &window;
     window.PostMessage(WM_CLOSE);
@@ -339,7 +343,7 @@ TEST_CASE("a loop inside a handler leaves the outer loop its current message")
             return CWnd::WindowProc(message, wParam, lParam);
         }
     } window;
-    REQUIRE(window.CreateEx(0, AfxRegisterWndClass(0), "", WS_POPUP, 0, 0, 10, 10, NULL, NULL));
+    REQUIRE(window.CreateEx(0, AfxRegisterWndClass(0), _T(""), WS_POPUP, 0, 0, 10, 10, NULL, NULL));
     umbra::testing::PumpMessages();
     window.m_pLoop = &loop;
     window.PostMessage(askNumber);
@@ -402,7 +406,7 @@ TEST_CASE("an exception in any other handler is told to the user, and the result
 {
     CThrowingWnd window;
     REQUIRE(window.MakeIt());
-    std::string text;
+    CString text;
     NextDialog answer([&](HWND box) {
         text = MessageBoxText(box);
         ::PostMessage(box, WM_COMMAND, IDOK, 0);
@@ -420,7 +424,7 @@ TEST_CASE("an exception of a foreign kind is told to the user, too, and the prog
     CThrowingWnd window;
     REQUIRE(window.MakeIt());
     window.m_bForeign = true;
-    std::string text;
+    CString text;
     NextDialog answer([&](HWND box) {
         text = MessageBoxText(box);
         ::PostMessage(box, WM_COMMAND, IDOK, 0);
@@ -462,8 +466,8 @@ TEST_CASE("a thread does not start without the events that it begins with")
         CAPTURE(call);
         WorkerData data;
         ::SetEvent(data.gate);
-        const umbra::testing::FailNth fault(umbra::testing::FindModule("umbra-mfc.dll"),
-                                            "kernel32.dll", "CreateEventA", call);
+        const umbra::testing::FailNth fault(umbra::testing::FindModule(UMBRA_MFC_DLL),
+                                            "kernel32.dll", TEXT_FUNCTION("CreateEvent"), call);
         REQUIRE(fault.IsInstalled());
         CHECK(AfxBeginThread(&Work, &data) == nullptr);
         CHECK(fault.Failed() == 1);
@@ -474,7 +478,8 @@ TEST_CASE("a thread does not start without the events that it begins with")
 TEST_CASE("a worker thread has the main window of its creator, under an object of its own")
 {
     CWnd main;
-    REQUIRE(main.CreateEx(0, AfxRegisterWndClass(0), "main", WS_POPUP, 0, 0, 10, 10, NULL, NULL));
+    REQUIRE(
+        main.CreateEx(0, AfxRegisterWndClass(0), _T("main"), WS_POPUP, 0, 0, 10, 10, NULL, NULL));
     struct Seen
     {
         CWnd* creators;

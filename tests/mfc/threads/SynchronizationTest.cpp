@@ -177,7 +177,7 @@ TEST_CASE("a multiple lock waits for at most 64 objects, and never for a critica
 TEST_CASE("objects of one name are one object, and a name of another kind is refused")
 {
     CString name;
-    name.Format("umbra-test-%lu", ::GetCurrentProcessId());
+    name.Format(_T("umbra-test-%lu"), ::GetCurrentProcessId());
     CEvent first(FALSE, TRUE, name);
     CEvent second(FALSE, TRUE, name);
     CHECK(first.SetEvent());

@@ -43,10 +43,10 @@ TEST_CASE("spans are added, subtracted and compared")
 TEST_CASE("a span is formatted by its parts")
 {
     const CTimeSpan span(3, 4, 5, 6);
-    CHECK(span.Format("%D|%H|%M|%S|%%") == "3|04|05|06|%");
-    CHECK(span.Format("") == "");
+    CHECK(span.Format(_T("%D|%H|%M|%S|%%")) == _T("3|04|05|06|%"));
+    CHECK(span.Format(_T("")) == _T(""));
     CHECK(span.Format(STRING_SPAN) == "3 days, 04:05:06");
-    CHECK(Throws<CInvalidArgException>([&] { span.Format("%Y"); }));
-    CHECK(Throws<CInvalidArgException>([&] { span.Format("%"); }));
+    CHECK(Throws<CInvalidArgException>([&] { span.Format(_T("%Y")); }));
+    CHECK(Throws<CInvalidArgException>([&] { span.Format(_T("%")); }));
     CHECK(Throws<CResourceException>([&] { span.Format(STRING_MISSING); }));
 }

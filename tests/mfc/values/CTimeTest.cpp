@@ -117,13 +117,13 @@ TEST_CASE("the current time is the clock's")
 TEST_CASE("a time is formatted locally and universally")
 {
     const CTime time(2024, 2, 29, 12, 34, 56);
-    CHECK(time.Format("%Y-%m-%d %H:%M:%S %%") == "2024-02-29 12:34:56 %");
-    CHECK(time.Format("%A %B") == "Thursday February");
-    CHECK(time.Format("") == "");
-    CHECK(time.Format("no parts") == "no parts");
+    CHECK(time.Format(_T("%Y-%m-%d %H:%M:%S %%")) == _T("2024-02-29 12:34:56 %"));
+    CHECK(time.Format(_T("%A %B")) == _T("Thursday February"));
+    CHECK(time.Format(_T("")) == _T(""));
+    CHECK(time.Format(_T("no parts")) == _T("no parts"));
     CHECK(time.Format(CString('x', 1000) + "%d").GetLength() == 1002);
     CHECK(time.Format(STRING_DATE) == "2024-02-29");
-    CHECK(CTime(leapDay).FormatGmt("%H:%M:%S") == "12:34:56");
+    CHECK(CTime(leapDay).FormatGmt(_T("%H:%M:%S")) == _T("12:34:56"));
     CHECK(CTime(leapDay).FormatGmt(STRING_DATE) == "2024-02-29");
     CHECK(ThrowsInvalidArg([&] { time.Format(static_cast<LPCTSTR>(NULL)); }));
     CHECK(Throws<CResourceException>([&] { time.Format(STRING_MISSING); }));

@@ -30,7 +30,7 @@ protected:
     {
         ui->Enable(enabled);
         ui->SetCheck(checked ? 1 : 0);
-        ui->SetText("updated");
+        ui->SetText(_T("updated"));
         if (routesOn)
             ui->ContinueRouting();
     }
@@ -44,7 +44,7 @@ END_MESSAGE_MAP()
 class COwner : public CWnd
 {
 public:
-    COwner() { CreateEx(0, NULL, "", WS_POPUP, CRect(0, 0, 100, 100), NULL, 0); }
+    COwner() { CreateEx(0, NULL, _T(""), WS_POPUP, CRect(0, 0, 100, 100), NULL, 0); }
 
 protected:
     void OnCommandOfOwner() { calls += "owner "; }
@@ -63,7 +63,7 @@ public:
     BOOL enabled = TRUE;
     int done = 0;
 
-    CUpdating() { CreateEx(0, NULL, "", WS_POPUP, CRect(0, 0, 100, 100), NULL, 0); }
+    CUpdating() { CreateEx(0, NULL, _T(""), WS_POPUP, CRect(0, 0, 100, 100), NULL, 0); }
 
 protected:
     void OnDo() { ++done; }
@@ -81,7 +81,7 @@ public:
     explicit CPage(CWnd* owner)
     {
         DialogTemplate page(5, 5, 100, 60);
-        page.Button(controlId, "control", 0, 0, 40, 12);
+        page.Button(controlId, _T("control"), 0, 0, 40, 12);
         CreateIndirect(page.Get(), owner);
         calls.clear();
     }
@@ -140,7 +140,7 @@ TEST_CASE("an update handler sets the state of a menu item")
     CDocumentLike target;
     CMenu menu;
     REQUIRE(menu.CreatePopupMenu());
-    menu.AppendMenu(MF_STRING, commandId, "before");
+    menu.AppendMenu(MF_STRING, commandId, _T("before"));
     CCmdUI ui;
     ui.m_nID = commandId;
     ui.m_pMenu = &menu;
@@ -166,7 +166,8 @@ TEST_CASE("an update handler sets the state of a control")
     CDocumentLike target;
     COwner window;
     CButton box;
-    REQUIRE(box.Create("before", WS_CHILD | BS_CHECKBOX, CRect(0, 0, 50, 20), &window, commandId));
+    REQUIRE(
+        box.Create(_T("before"), WS_CHILD | BS_CHECKBOX, CRect(0, 0, 50, 20), &window, commandId));
     target.checked = true;
     target.enabled = FALSE;
     window.UpdateDialogControls(&target, FALSE);
@@ -183,8 +184,8 @@ TEST_CASE("push buttons without a handler are disabled on demand")
     COwner window;
     CButton known;
     CButton unknown;
-    REQUIRE(known.Create("", WS_CHILD, CRect(0, 0, 50, 20), &window, commandId));
-    REQUIRE(unknown.Create("", WS_CHILD, CRect(0, 20, 50, 40), &window, commandId + 7));
+    REQUIRE(known.Create(_T(""), WS_CHILD, CRect(0, 0, 50, 20), &window, commandId));
+    REQUIRE(unknown.Create(_T(""), WS_CHILD, CRect(0, 20, 50, 40), &window, commandId + 7));
     window.UpdateDialogControls(&target, FALSE);
     CHECK(unknown.IsWindowEnabled());
     window.UpdateDialogControls(&target, TRUE);

@@ -23,8 +23,8 @@ struct MenuCommand
         CMenu below;
         REQUIRE(menu.CreatePopupMenu());
         REQUIRE(below.CreatePopupMenu());
-        menu.AppendMenu(MF_STRING, commandId, "before");
-        menu.AppendMenu(MF_POPUP, reinterpret_cast<UINT_PTR>(below.Detach()), "below");
+        menu.AppendMenu(MF_STRING, commandId, _T("before"));
+        menu.AppendMenu(MF_POPUP, reinterpret_cast<UINT_PTR>(below.Detach()), _T("below"));
         ui.m_nID = commandId;
         ui.m_pMenu = &menu;
     }
@@ -46,8 +46,8 @@ struct Controls
     Controls()
     {
         DialogTemplate page(0, 0, 100, 60);
-        page.Button(boxId, "before", 0, 0, 40, 12, DialogTemplate::tabStop | BS_CHECKBOX)
-            .Edit(fieldId, "before", 0, 20, 40, 12);
+        page.Button(boxId, _T("before"), 0, 0, 40, 12, DialogTemplate::tabStop | BS_CHECKBOX)
+            .Edit(fieldId, _T("before"), 0, 20, 40, 12);
         REQUIRE(dialog.CreateIndirect(page.Get()));
         dialog.ShowWindow(SW_SHOW);
     }
@@ -81,7 +81,7 @@ TEST_CASE("a fresh command stands for nothing, and takes no harm from being set"
     ui.Enable(FALSE);
     ui.SetCheck();
     ui.SetRadio();
-    ui.SetText("nothing");
+    ui.SetText(_T("nothing"));
 }
 
 TEST_CASE("a menu item is disabled, checked and enabled again")
@@ -102,7 +102,7 @@ TEST_CASE("a new text leaves the menu item its state and its command")
     MenuCommand command;
     command.ui.Enable(FALSE);
     command.ui.SetCheck();
-    command.ui.SetText("after");
+    command.ui.SetText(_T("after"));
     CHECK(command.Text(0) == "after");
     CHECK((command.State(0) & MF_GRAYED) != 0);
     CHECK((command.State(0) & MF_CHECKED) != 0);
@@ -136,7 +136,7 @@ TEST_CASE("an item that opens a submenu is left as it is")
     command.ui.Enable(FALSE);
     command.ui.SetCheck();
     command.ui.SetRadio();
-    command.ui.SetText("after");
+    command.ui.SetText(_T("after"));
     CHECK(command.State(1) == before);
     CHECK(command.Text(1) == "below");
 }
@@ -147,7 +147,7 @@ TEST_CASE("a check box is disabled, checked and renamed")
     CWnd& box = controls.Ask(boxId);
     controls.ui.Enable(FALSE);
     controls.ui.SetCheck();
-    controls.ui.SetText("after");
+    controls.ui.SetText(_T("after"));
     CHECK_FALSE(box.IsWindowEnabled());
     CHECK(controls.dialog.IsDlgButtonChecked(boxId) == BST_CHECKED);
     CHECK(TextOf(box) == "after");

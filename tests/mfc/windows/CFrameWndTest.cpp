@@ -39,7 +39,7 @@ public:
 protected:
     BOOL OnCreateClient(LPCREATESTRUCT lpcs, CCreateContext* pContext) override
     {
-        pane.Create("", WS_CHILD | WS_VISIBLE, CRect(0, 0, 1, 1), this, AFX_IDW_PANE_FIRST);
+        pane.Create(_T(""), WS_CHILD | WS_VISIBLE, CRect(0, 0, 1, 1), this, AFX_IDW_PANE_FIRST);
         return !failsClient && CFrameWnd::OnCreateClient(lpcs, pContext);
     }
     void OnAction() { ++actions; }
@@ -84,7 +84,7 @@ TEST_CASE("a frame takes title, menu and keys from one resource id")
     REQUIRE(frame->GetMenu() != NULL);
     CHECK(frame->GetMenu()->GetMenuItemCount() == 1);
     CHECK((frame->GetStyle() & WS_CAPTION) == WS_CAPTION);
-    frame->SetTitle("other");
+    frame->SetTitle(_T("other"));
     frame->GetWindowText(title);
     CHECK(title == "other");
 }
@@ -100,12 +100,12 @@ TEST_CASE("a frame deletes itself when its window is gone, also after a failed c
 
     auto* failing = new CTestFrame;
     failing->failsClient = true;
-    CHECK(failing->Create(NULL, "failing") == FALSE);
+    CHECK(failing->Create(NULL, _T("failing")) == FALSE);
     CHECK(living == 0);
 
     auto* menuless = new CTestFrame;
-    CHECK(menuless->Create(NULL, "", WS_OVERLAPPEDWINDOW, CFrameWnd::rectDefault, NULL,
-                           "No menu of this name") == FALSE);
+    CHECK(menuless->Create(NULL, _T(""), WS_OVERLAPPEDWINDOW, CFrameWnd::rectDefault, NULL,
+                           _T("No menu of this name")) == FALSE);
     CHECK(living == 0);
 }
 
@@ -114,7 +114,7 @@ TEST_CASE("a frame on the stack is destroyed like any window")
     living = 0;
     {
         CTestFrame frame;
-        REQUIRE(frame.Create(NULL, "stack"));
+        REQUIRE(frame.Create(NULL, _T("stack")));
     }
     CHECK(living == 0);
 }
@@ -123,7 +123,7 @@ TEST_CASE("rectDefault leaves the place to the system")
 {
     CHECK(CFrameWnd::rectDefault.left == CW_USEDEFAULT);
     auto* frame = new CFrameWnd;
-    REQUIRE(frame->Create(NULL, "default"));
+    REQUIRE(frame->Create(NULL, _T("default")));
     CRect place;
     frame->GetWindowRect(&place);
     CHECK(place.Width() > 50);
@@ -187,9 +187,9 @@ TEST_CASE("a modal state disables the frame and what it owns, and nests")
     REQUIRE(frame.made);
     CWnd popup;
     CWnd disabled;
-    REQUIRE(popup.CreateEx(0, NULL, "", WS_POPUP, CRect(0, 0, 9, 9), frame.Get(), 0));
-    REQUIRE(
-        disabled.CreateEx(0, NULL, "", WS_POPUP | WS_DISABLED, CRect(0, 0, 9, 9), frame.Get(), 0));
+    REQUIRE(popup.CreateEx(0, NULL, _T(""), WS_POPUP, CRect(0, 0, 9, 9), frame.Get(), 0));
+    REQUIRE(disabled.CreateEx(0, NULL, _T(""), WS_POPUP | WS_DISABLED, CRect(0, 0, 9, 9),
+                              frame.Get(), 0));
     frame->BeginModalState();
     frame->BeginModalState();
     CHECK(frame->InModalState());

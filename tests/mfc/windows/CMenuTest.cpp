@@ -67,19 +67,19 @@ TEST_CASE("items are appended, inserted, changed and removed")
 {
     CMenu menu;
     REQUIRE(menu.CreatePopupMenu());
-    CHECK(menu.AppendMenu(MF_STRING, 101, "&One"));
+    CHECK(menu.AppendMenu(MF_STRING, 101, _T("&One")));
     CHECK(menu.AppendMenu(MF_SEPARATOR));
     CHECK(menu.AppendMenu(MF_STRING, 103, CString("Th&ree")));
-    CHECK(menu.InsertMenu(101, MF_BYCOMMAND | MF_STRING, 100, "&Zero"));
+    CHECK(menu.InsertMenu(101, MF_BYCOMMAND | MF_STRING, 100, _T("&Zero")));
     CHECK(menu.GetMenuItemCount() == 4);
     CHECK(menu.GetMenuItemID(0) == 100);
     CHECK((menu.GetMenuState(2, MF_BYPOSITION) & MF_SEPARATOR));
     CHECK(TextOf(menu, 103) == "Th&ree");
     CHECK(TextOf(menu, 999).IsEmpty());
-    char buffer[3];
+    TCHAR buffer[3];
     CHECK(menu.GetMenuString(101, buffer, 3, MF_BYCOMMAND) == 2);
 
-    CHECK(menu.ModifyMenu(101, MF_BYCOMMAND | MF_STRING, 111, "&Eleven"));
+    CHECK(menu.ModifyMenu(101, MF_BYCOMMAND | MF_STRING, 111, _T("&Eleven")));
     CHECK(TextOf(menu, 1, MF_BYPOSITION) == "&Eleven");
     CHECK(menu.RemoveMenu(111, MF_BYCOMMAND));
     CHECK(menu.DeleteMenu(1, MF_BYPOSITION));
@@ -91,7 +91,7 @@ TEST_CASE("items are checked, enabled and made the default")
     CMenu menu;
     REQUIRE(menu.CreatePopupMenu());
     for (UINT id = 1; id <= 3; ++id)
-        menu.AppendMenu(MF_STRING, id, "Item");
+        menu.AppendMenu(MF_STRING, id, _T("Item"));
     CHECK(menu.CheckMenuItem(1, MF_CHECKED) == MF_UNCHECKED);
     CHECK((menu.GetMenuState(1, MF_BYCOMMAND) & MF_CHECKED));
     CHECK(menu.CheckMenuRadioItem(1, 3, 2, MF_BYCOMMAND));
@@ -113,7 +113,7 @@ TEST_CASE("item and menu information goes both ways")
     item.fMask = MIIM_ID | MIIM_DATA | MIIM_STRING;
     item.wID = 7;
     item.dwItemData = 4711;
-    item.dwTypeData = const_cast<char*>("Seven");
+    item.dwTypeData = const_cast<LPTSTR>(_T("Seven"));
     CHECK(menu.InsertMenuItem(0, &item, TRUE));
     MENUITEMINFO read{};
     read.cbSize = sizeof(read);
@@ -145,7 +145,7 @@ TEST_CASE("an item shows a bitmap")
         REQUIRE(menu.CreatePopupMenu());
         CHECK(menu.AppendMenu(MF_ENABLED, 1, &bitmap));
         CHECK(menu.InsertMenu(0, MF_BYPOSITION, 2, &bitmap));
-        CHECK(menu.AppendMenu(MF_STRING, 3, "Text"));
+        CHECK(menu.AppendMenu(MF_STRING, 3, _T("Text")));
         CHECK(menu.ModifyMenu(3, MF_BYCOMMAND, 3, &bitmap));
         for (UINT position = 0; position < 3; ++position) {
             MENUITEMINFO item{};
@@ -178,7 +178,7 @@ TEST_CASE("a menu resource is loaded with its submenus")
 
     CMenu missing;
     CHECK_FALSE(missing.LoadMenu(9199));
-    CHECK_FALSE(missing.LoadMenu("NoSuchMenu"));
+    CHECK_FALSE(missing.LoadMenu(_T("NoSuchMenu")));
 }
 
 TEST_CASE("a menu is made from a template in memory")
@@ -194,10 +194,10 @@ TEST_CASE("an item is chosen from a popup menu by keyboard")
 {
     CMenu menu;
     REQUIRE(menu.CreatePopupMenu());
-    menu.AppendMenu(MF_STRING, 301, "First");
-    menu.AppendMenu(MF_STRING, 302, "Second");
-    const HWND owner =
-        ::CreateWindow("STATIC", "", WS_POPUP | WS_VISIBLE, 10, 10, 60, 40, NULL, NULL, NULL, NULL);
+    menu.AppendMenu(MF_STRING, 301, _T("First"));
+    menu.AppendMenu(MF_STRING, 302, _T("Second"));
+    const HWND owner = ::CreateWindow(_T("STATIC"), _T(""), WS_POPUP | WS_VISIBLE, 10, 10, 60, 40,
+                                      NULL, NULL, NULL, NULL);
     for (const WPARAM key : {VK_DOWN, VK_DOWN, VK_RETURN})
         ::PostMessage(owner, WM_KEYDOWN, key, 0);
     ::SetTimer(owner, 1, 3000, &GiveUpMenu); // Should the keys not arrive.

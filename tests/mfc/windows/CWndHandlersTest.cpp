@@ -336,7 +336,7 @@ alignas(16) BYTE structure[1024];
 TEST_CASE("every handler of the base processes the current message with its own parameters")
 {
     CEveryHandler window;
-    REQUIRE(window.CreateEx(0, NULL, "", WS_POPUP, CRect(0, 0, 10, 10), NULL, 0));
+    REQUIRE(window.CreateEx(0, NULL, _T(""), WS_POPUP, CRect(0, 0, 10, 10), NULL, 0));
     window.records = true;
     for (const Sent& sent : allMessages) {
         CAPTURE(sent.name);

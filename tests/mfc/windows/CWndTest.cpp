@@ -28,7 +28,7 @@ class CPlain : public CWnd
 public:
     BOOL Make(LPCTSTR className = NULL, DWORD style = WS_POPUP, CWnd* parent = NULL)
     {
-        return CreateEx(0, className, "Plain", style, CRect(10, 20, 210, 120), parent, 0);
+        return CreateEx(0, className, _T("Plain"), style, CRect(10, 20, 210, 120), parent, 0);
     }
 };
 
@@ -55,7 +55,7 @@ protected:
     afx_msg BOOL OnNcCreate(LPCREATESTRUCT lpCreateStruct)
     {
         CREATESTRUCT other = *lpCreateStruct;
-        other.lpszName = "from a copy";
+        other.lpszName = _T("from a copy");
         return CPlain::OnNcCreate(&other);
     }
     afx_msg void OnWindowPosChanging(WINDOWPOS* lpwndpos)
@@ -162,16 +162,16 @@ BEGIN_MESSAGE_MAP(CCountingEdit, CEdit)
     ON_MESSAGE(countedMessage, OnCounted)
 END_MESSAGE_MAP()
 
-HWND MakeStranger(LPCTSTR className = "Edit")
+HWND MakeStranger(LPCTSTR className = _T("Edit"))
 {
-    return ::CreateWindow(className, "stranger", WS_POPUP | ES_AUTOHSCROLL, 0, 0, 50, 20, NULL,
+    return ::CreateWindow(className, _T("stranger"), WS_POPUP | ES_AUTOHSCROLL, 0, 0, 50, 20, NULL,
                           NULL, NULL, NULL);
 }
 
-std::string TextOf(HWND window)
+CString TextOf(HWND window)
 {
-    char text[200] = "";
-    ::GetWindowText(window, text, sizeof text);
+    TCHAR text[200] = _T("");
+    ::GetWindowText(window, text, _countof(text));
     return text;
 }
 
@@ -210,7 +210,7 @@ public:
         ++asked;
         askedId = id;
         auto* wanted = reinterpret_cast<NMTTDISPINFO*>(header);
-        wanted->lpszText = const_cast<char*>("the tip");
+        wanted->lpszText = const_cast<LPTSTR>(_T("the tip"));
         return TRUE;
     }
     DECLARE_MESSAGE_MAP()
@@ -242,7 +242,7 @@ TEST_CASE("Default processes the current message, also after a nested one")
 {
     CCurrent window;
     REQUIRE(window.Make());
-    window.SetWindowText("new text");
+    window.SetWindowText(_T("new text"));
     CHECK(TextOf(window) == "new text");
     CHECK(window.current == WM_SETTEXT);
     CHECK(window.currentParameter == 0);
@@ -293,7 +293,7 @@ TEST_CASE("an exception leaves the current message and its object in order")
     CFailing window;
     REQUIRE(window.Make());
     window.SendMessage(failingMessage, 0);
-    window.SetWindowText("still alive");
+    window.SetWindowText(_T("still alive"));
     CHECK(TextOf(window) == "still alive");
 }
 
@@ -471,7 +471,7 @@ TEST_CASE("SubclassWindow fails for a window with an object, and for no window")
 TEST_CASE("a window that was only attached is forgotten when it is destroyed")
 {
     const HWND window =
-        ::CreateWindow("Static", "", WS_POPUP, 0, 0, 10, 10, NULL, NULL, NULL, NULL);
+        ::CreateWindow(_T("Static"), _T(""), WS_POPUP, 0, 0, 10, 10, NULL, NULL, NULL, NULL);
     CWnd object;
     REQUIRE(object.Attach(window));
     CHECK(object.DestroyWindow());
@@ -490,7 +490,7 @@ TEST_CASE("a subclassed window that is detached keeps working, and may be attach
     CHECK(TextOf(stranger) == "astranger");
     REQUIRE(edit.SubclassWindow(stranger));
     ::SendMessage(stranger, WM_CHAR, 'b', 0);
-    CHECK(TextOf(stranger).size() == 10);
+    CHECK(TextOf(stranger).GetLength() == 10);
     CHECK(edit.SendMessage(countedMessage) == 8);
     edit.DestroyWindow();
     CHECK(edit.m_hWnd == NULL);
@@ -556,9 +556,9 @@ TEST_CASE("text, styles and ids are set and read")
     CHECK((window.GetExStyle() & WS_EX_TOOLWINDOW) != 0);
 
     CFont font;
-    REQUIRE(font.CreatePointFont(90, "Tahoma"));
+    REQUIRE(font.CreatePointFont(90, _T("Tahoma")));
     CStatic label;
-    REQUIRE(label.Create("label", WS_CHILD, CRect(0, 0, 50, 20), &window, 9));
+    REQUIRE(label.Create(_T("label"), WS_CHILD, CRect(0, 0, 50, 20), &window, 9));
     label.SetFont(&font);
     CHECK(label.GetFont() == &font);
     CHECK(label.SetDlgCtrlID(10) == 9);
@@ -601,9 +601,10 @@ TEST_CASE("the order of windows takes the constants and other windows")
 TEST_CASE("CenterWindow puts a window over its owner and inside the screen")
 {
     CPlain owner;
-    REQUIRE(owner.CreateEx(0, NULL, "", WS_POPUP | WS_VISIBLE, CRect(100, 100, 500, 400), NULL, 0));
+    REQUIRE(
+        owner.CreateEx(0, NULL, _T(""), WS_POPUP | WS_VISIBLE, CRect(100, 100, 500, 400), NULL, 0));
     CPlain popup;
-    REQUIRE(popup.CreateEx(0, NULL, "", WS_POPUP, CRect(0, 0, 100, 50), &owner, 0));
+    REQUIRE(popup.CreateEx(0, NULL, _T(""), WS_POPUP, CRect(0, 0, 100, 50), &owner, 0));
     popup.CenterWindow();
     CHECK(PlaceOf(popup) == CRect(250, 225, 350, 275));
 
@@ -612,7 +613,7 @@ TEST_CASE("CenterWindow puts a window over its owner and inside the screen")
     CHECK(PlaceOf(popup).TopLeft() == CPoint(0, 0));
 
     CPlain child;
-    REQUIRE(child.Create("Static", "", 0, CRect(0, 0, 100, 60), &owner, 3));
+    REQUIRE(child.Create(_T("Static"), _T(""), 0, CRect(0, 0, 100, 60), &owner, 3));
     child.CenterWindow();
     CRect place = PlaceOf(child);
     owner.ScreenToClient(&place);
@@ -626,7 +627,7 @@ TEST_CASE("messages go to all descendants, or only to those with an object")
     CCountingEdit edit;
     REQUIRE(edit.Create(WS_CHILD, CRect(0, 0, 5, 5), &parent, 1));
     CStatic box;
-    REQUIRE(box.Create("", WS_CHILD, CRect(0, 0, 50, 50), &parent, 2));
+    REQUIRE(box.Create(_T(""), WS_CHILD, CRect(0, 0, 50, 50), &parent, 2));
     CCountingEdit inner;
     REQUIRE(inner.Create(WS_CHILD, CRect(0, 0, 5, 5), &box, 3));
     parent.SendMessageToDescendants(countedMessage);
@@ -646,7 +647,7 @@ TEST_CASE("an owner told by SetOwner replaces the parent")
     REQUIRE(parent.Make());
     REQUIRE(other.Make());
     CStatic child;
-    REQUIRE(child.Create("", WS_CHILD, CRect(0, 0, 5, 5), &parent, 1));
+    REQUIRE(child.Create(_T(""), WS_CHILD, CRect(0, 0, 5, 5), &parent, 1));
     CHECK(child.GetOwner() == &parent);
     child.SetOwner(&other);
     CHECK(child.GetOwner() == &other);
@@ -657,8 +658,9 @@ TEST_CASE("radio buttons and check boxes of a window are read by their ids")
 {
     DialogTemplate page(5, 5, 100, 60);
     const DWORD radio = DialogTemplate::visibleChild | BS_AUTORADIOBUTTON;
-    page.Button(1, "a", 0, 0, 30, 10, radio | WS_GROUP).Button(2, "b", 0, 10, 30, 10, radio);
-    page.Edit(3, "12", 0, 20, 30, 12);
+    page.Button(1, _T("a"), 0, 0, 30, 10, radio | WS_GROUP)
+        .Button(2, _T("b"), 0, 10, 30, 10, radio);
+    page.Edit(3, _T("12"), 0, 20, 30, 12);
     CDialog dialog;
     REQUIRE(dialog.CreateIndirect(page.Get()));
     CHECK(dialog.GetCheckedRadioButton(1, 2) == 0);
@@ -716,10 +718,10 @@ TEST_CASE("list and combo boxes are filled from the DLGINIT resource")
 TEST_CASE("tool tips ask the window for the text of the child under the mouse")
 {
     CTipped window;
-    REQUIRE(window.CreateEx(WS_EX_TOPMOST, NULL, "", WS_POPUP | WS_VISIBLE,
+    REQUIRE(window.CreateEx(WS_EX_TOPMOST, NULL, _T(""), WS_POPUP | WS_VISIBLE,
                             CRect(100, 100, 300, 200), NULL, 0));
-    REQUIRE(window.tool.Create("tool", WS_CHILD | WS_VISIBLE | SS_NOTIFY, CRect(20, 20, 120, 60),
-                               &window, 55));
+    REQUIRE(window.tool.Create(_T("tool"), WS_CHILD | WS_VISIBLE | SS_NOTIFY,
+                               CRect(20, 20, 120, 60), &window, 55));
     TOOLINFO info{};
     CHECK(window.OnToolHitTest(CPoint(30, 30), &info) == 55);
     CHECK(reinterpret_cast<HWND>(info.uId) == window.tool.m_hWnd);
@@ -744,12 +746,12 @@ TEST_CASE("a message box of a window is titled with the application's name unles
 {
     CPlain window;
     REQUIRE(window.Make(NULL, WS_POPUP | WS_VISIBLE));
-    std::string title;
+    CString title;
     NextDialog answer([&title](HWND box) {
         title = TextOf(box);
         ::SendMessage(box, WM_COMMAND, IDOK, 0);
     });
-    CHECK(window.MessageBox("text") == IDOK);
+    CHECK(window.MessageBox(_T("text")) == IDOK);
     CHECK(answer.HasRun());
     CHECK(title == AfxGetAppName());
 }

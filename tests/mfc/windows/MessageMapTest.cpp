@@ -18,7 +18,7 @@ class CTarget : public CWnd
 public:
     BOOL Make(CWnd* parent = NULL)
     {
-        return CreateEx(0, NULL, "Target", WS_POPUP, CRect(10, 10, 210, 110), parent, 0);
+        return CreateEx(0, NULL, _T("Target"), WS_POPUP, CRect(10, 10, 210, 110), parent, 0);
     }
 };
 
@@ -182,7 +182,7 @@ LRESULT Command(CWnd& window, UINT id)
 LRESULT Notify(CWnd& window, UINT id, UINT code)
 {
     CWnd child;
-    child.Create("Static", "", WS_CHILD, CRect(0, 0, 5, 5), &window, id);
+    child.Create(_T("Static"), _T(""), WS_CHILD, CRect(0, 0, 5, 5), &window, id);
     NMHDR header{child.m_hWnd, id, code};
     return window.SendMessage(WM_NOTIFY, id, reinterpret_cast<LPARAM>(&header));
 }
@@ -363,7 +363,7 @@ TEST_CASE("a message without a handler gets the default processing")
     CSpellings window;
     REQUIRE(window.Make());
     CHECK(window.SendMessage(otherMessage, 1, 1) == 0);
-    window.SendMessage(WM_SETTEXT, 0, reinterpret_cast<LPARAM>("renamed"));
+    window.SendMessage(WM_SETTEXT, 0, reinterpret_cast<LPARAM>(_T("renamed")));
     CString text;
     window.GetWindowText(text);
     CHECK(text == "renamed");
@@ -374,7 +374,7 @@ TEST_CASE("the number of a registered message is read from its variable when it 
     CRanges window;
     REQUIRE(window.Make());
     laterRegistered = 0;
-    const UINT number = ::RegisterWindowMessage("Umbra test: registered late");
+    const UINT number = ::RegisterWindowMessage(_T("Umbra test: registered late"));
     CHECK(window.SendMessage(number, 9, 4) == 0);
     laterRegistered = number;
     CHECK(window.SendMessage(number, 9, 4) == 5);
@@ -390,7 +390,7 @@ TEST_CASE("a range of commands or controls passes the id, and only the range")
 
     window.calls.clear();
     CWnd child;
-    REQUIRE(child.Create("Static", "", WS_CHILD, CRect(0, 0, 5, 5), &window, 31));
+    REQUIRE(child.Create(_T("Static"), _T(""), WS_CHILD, CRect(0, 0, 5, 5), &window, 31));
     const auto handle = reinterpret_cast<LPARAM>(child.m_hWnd);
     window.SendMessage(WM_COMMAND, MAKEWPARAM(31, EN_CHANGE), handle);
     window.SendMessage(WM_COMMAND, MAKEWPARAM(31, EN_UPDATE), handle);
@@ -497,7 +497,7 @@ TEST_CASE("the seven colour requests are one message, and the brush is the sende
     CArguments window;
     REQUIRE(window.Make());
     CWnd child;
-    REQUIRE(child.Create("Static", "", WS_CHILD, CRect(0, 0, 5, 5), &window, 1));
+    REQUIRE(child.Create(_T("Static"), _T(""), WS_CHILD, CRect(0, 0, 5, 5), &window, 1));
     CClientDC dc(&child);
     const auto black = reinterpret_cast<LRESULT>(::GetStockObject(BLACK_BRUSH));
     for (UINT kind = CTLCOLOR_MSGBOX; kind <= CTLCOLOR_STATIC; ++kind) {

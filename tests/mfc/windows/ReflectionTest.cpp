@@ -115,8 +115,8 @@ public:
 
     CParent()
     {
-        CreateEx(0, NULL, "", WS_POPUP, CRect(0, 0, 200, 100), NULL, 0);
-        control.Create("control", WS_CHILD | SS_NOTIFY, CRect(5, 5, 55, 25), this, controlId);
+        CreateEx(0, NULL, _T(""), WS_POPUP, CRect(0, 0, 200, 100), NULL, 0);
+        control.Create(_T("control"), WS_CHILD | SS_NOTIFY, CRect(5, 5, 55, 25), this, controlId);
         calls.clear();
     }
     LPARAM Control() const { return reinterpret_cast<LPARAM>(control.m_hWnd); }
@@ -263,7 +263,7 @@ TEST_CASE("without a brush from the control the parent decides")
     CParent parent;
     const LRESULT usual = [] {
         CWnd plain;
-        plain.CreateEx(0, NULL, "", WS_POPUP, CRect(0, 0, 5, 5), NULL, 0);
+        plain.CreateEx(0, NULL, _T(""), WS_POPUP, CRect(0, 0, 5, 5), NULL, 0);
         CClientDC dc(&plain);
         return ::DefWindowProc(plain, WM_CTLCOLORSTATIC, reinterpret_cast<WPARAM>(dc.m_hDC),
                                reinterpret_cast<LPARAM>(plain.m_hWnd));

@@ -4,6 +4,9 @@
 
 #include "testing/DialogTemplate.h"
 #include "testing/ImportHook.h"
+#include "testing/Text.h"
+
+#include "tests/LibraryFiles.h"
 
 #include <algorithm>
 #include <string>
@@ -56,7 +59,7 @@ protected:
         if (CWnd::OnCreate(lpCreateStruct) == -1)
             return -1;
         if (makesChild)
-            child.Create("Static", "inner", WS_CHILD, CRect(0, 0, 5, 5), this, childId);
+            child.Create(_T("Static"), _T("inner"), WS_CHILD, CRect(0, 0, 5, 5), this, childId);
         return createResult;
     }
     afx_msg void OnDestroy()
@@ -80,7 +83,7 @@ using Events = std::vector<std::string>;
 
 BOOL Make(CWitness& window, LPCTSTR className = NULL)
 {
-    return window.CreateEx(0, className, "Witness", WS_POPUP, CRect(10, 20, 110, 70), NULL, 0);
+    return window.CreateEx(0, className, _T("Witness"), WS_POPUP, CRect(10, 20, 110, 70), NULL, 0);
 }
 
 class CWitnessDialog : public CDialog
@@ -148,7 +151,7 @@ class InputMethod
 {
 public:
     /// A class of that name, or the system's own.
-    explicit InputMethod(LPCSTR name)
+    explicit InputMethod(LPCTSTR name)
     {
         className = name;
         WNDCLASS windowClass{};
@@ -168,26 +171,26 @@ public:
     static inline HWND made = NULL;
 
 private:
-    using Create = decltype(::CreateWindowExA);
-    static inline LPCSTR className = NULL;
+    using Create = decltype(::CreateWindowEx);
+    static inline LPCTSTR className = NULL;
     static inline Create* original = nullptr;
 
-    static HWND WINAPI MakeBoth(DWORD exStyle, LPCSTR name, LPCSTR title, DWORD style, int x, int y,
-                                int width, int height, HWND parent, HMENU menu, HINSTANCE instance,
-                                LPVOID parameter)
+    static HWND WINAPI MakeBoth(DWORD exStyle, LPCTSTR name, LPCTSTR title, DWORD style, int x,
+                                int y, int width, int height, HWND parent, HMENU menu,
+                                HINSTANCE instance, LPVOID parameter)
     {
-        made = original(0, className, "", WS_POPUP, 0, 0, 5, 5, NULL, NULL, NULL, NULL);
+        made = original(0, className, _T(""), WS_POPUP, 0, 0, 5, 5, NULL, NULL, NULL, NULL);
         return original(exStyle, name, title, style, x, y, width, height, parent, menu, instance,
                         parameter);
     }
-    umbra::testing::ImportHook hook_{umbra::testing::FindModule("umbra-mfc.dll"), "user32.dll",
-                                     "CreateWindowExA", MakeBoth};
+    umbra::testing::ImportHook hook_{umbra::testing::FindModule(UMBRA_MFC_DLL), "user32.dll",
+                                     TEXT_FUNCTION("CreateWindowEx"), MakeBoth};
 };
 
-std::string ClassOf(HWND window)
+CString ClassOf(HWND window)
 {
-    char name[100] = "";
-    ::GetClassName(window, name, sizeof name);
+    TCHAR name[100] = _T("");
+    ::GetClassName(window, name, _countof(name));
     return name;
 }
 
@@ -209,7 +212,7 @@ TEST_CASE("a window is prepared, attached and only then gets its first message")
 
 TEST_CASE("windows of the system's classes deliver WM_CREATE to their objects, too")
 {
-    for (LPCTSTR name : {"Static", "Button", "Edit", "#32770"}) {
+    for (LPCTSTR name : {_T("Static"), _T("Button"), _T("Edit"), _T("#32770")}) {
         CAPTURE(name);
         CWitness window;
         REQUIRE(Make(window, name));
@@ -224,7 +227,8 @@ TEST_CASE("Create makes a child with the id given")
     CWitness parent;
     REQUIRE(Make(parent));
     CWitness child;
-    REQUIRE(child.Create("Static", "text", WS_VISIBLE, CRect(1, 2, 31, 42), &parent, childId));
+    REQUIRE(
+        child.Create(_T("Static"), _T("text"), WS_VISIBLE, CRect(1, 2, 31, 42), &parent, childId));
     CHECK((child.GetStyle() & WS_CHILD) != 0);
     CHECK(child.GetDlgCtrlID() == static_cast<int>(childId));
     CHECK(child.GetParent() == &parent);
@@ -259,13 +263,13 @@ TEST_CASE("without a class name a window gets the default class")
 {
     CWitness window;
     REQUIRE(Make(window));
-    CHECK(ClassOf(window).substr(0, 4) == "Afx:");
+    CHECK(ClassOf(window).Left(4) == _T("Afx:"));
 }
 
 TEST_CASE("a missing window class fails the creation, and PostNcDestroy is called once")
 {
     CWitness window;
-    CHECK(Make(window, "No class of this name") == FALSE);
+    CHECK(Make(window, _T("No class of this name")) == FALSE);
     CHECK(window.m_hWnd == NULL);
     CHECK(window.events == Events{"PreCreateWindow", "PostNcDestroy"});
 }
@@ -308,13 +312,14 @@ TEST_CASE("after a creation no other window of the thread is attached by mistake
     CWitness window;
     REQUIRE(Make(window));
     const HWND stranger =
-        ::CreateWindow("Static", "", WS_POPUP, 0, 0, 5, 5, NULL, NULL, NULL, NULL);
+        ::CreateWindow(_T("Static"), _T(""), WS_POPUP, 0, 0, 5, 5, NULL, NULL, NULL, NULL);
     CHECK(CWnd::FromHandlePermanent(stranger) == NULL);
     ::DestroyWindow(stranger);
 
     CWitness failed;
-    CHECK(Make(failed, "No class of this name") == FALSE);
-    const HWND second = ::CreateWindow("Static", "", WS_POPUP, 0, 0, 5, 5, NULL, NULL, NULL, NULL);
+    CHECK(Make(failed, _T("No class of this name")) == FALSE);
+    const HWND second =
+        ::CreateWindow(_T("Static"), _T(""), WS_POPUP, 0, 0, 5, 5, NULL, NULL, NULL, NULL);
     CHECK(CWnd::FromHandlePermanent(second) == NULL);
     ::DestroyWindow(second);
 }
@@ -325,7 +330,8 @@ TEST_CASE("an exception in PreSubclassWindow fails the creation")
     for (const bool foreign : {false, true}) {
         CAPTURE(foreign);
         window.foreign = foreign;
-        CHECK(window.CreateEx(0, "Static", "", WS_POPUP, CRect(0, 0, 9, 9), NULL, 0) == FALSE);
+        CHECK(window.CreateEx(0, _T("Static"), _T(""), WS_POPUP, CRect(0, 0, 9, 9), NULL, 0) ==
+              FALSE);
         CHECK(window.m_hWnd == NULL);
     }
     CWitness other; // The next creation is not disturbed.
@@ -334,7 +340,7 @@ TEST_CASE("an exception in PreSubclassWindow fails the creation")
 
 TEST_CASE("a window for input methods that comes first is left alone, whatever its class is called")
 {
-    for (const LPCSTR className : {"IME", "Method of input"}) {
+    for (const LPCTSTR className : {_T("IME"), _T("Method of input")}) {
         CAPTURE(className);
         const InputMethod method(className);
         REQUIRE(method.IsInstalled());
@@ -378,7 +384,7 @@ TEST_CASE("a dialog whose OnCreate fails is not made")
 TEST_CASE("a control of a template sees no WM_CREATE through an object attached later")
 {
     DialogTemplate page(5, 5, 60, 40);
-    page.Label(childId, "late", 5, 5, 30, 10);
+    page.Label(childId, _T("late"), 5, 5, 30, 10);
     CDialog dialog;
     REQUIRE(dialog.CreateIndirect(page.Get()));
     CLateStatic label;
