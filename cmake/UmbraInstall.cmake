@@ -10,8 +10,14 @@ if(TARGET umbra_testing)
   list(APPEND UMBRA_EXPORTED umbra_testing)
 endif()
 
+# The flavours share one place, and each has a file of its own there.
+set(UMBRA_EXPORT umbraTargets)
+if(UMBRA_UNICODE)
+  set(UMBRA_EXPORT umbraUnicodeTargets)
+endif()
+
 install(CODE "set(CMAKE_INSTALL_DO_STRIP TRUE)") # Of what follows; see SeparateSymbols.cmake.
-install(TARGETS ${UMBRA_EXPORTED} EXPORT umbraTargets
+install(TARGETS ${UMBRA_EXPORTED} EXPORT ${UMBRA_EXPORT}
   RUNTIME DESTINATION ${UMBRA_BIN}
   ARCHIVE DESTINATION ${UMBRA_LIB}
   LIBRARY DESTINATION ${UMBRA_LIB}
@@ -34,7 +40,7 @@ if(TARGET umbra_testing)
     PATTERN StackArguments.h EXCLUDE)
 endif()
 
-install(EXPORT umbraTargets NAMESPACE umbra:: DESTINATION ${UMBRA_PACKAGE})
+install(EXPORT ${UMBRA_EXPORT} NAMESPACE umbra:: DESTINATION ${UMBRA_PACKAGE})
 configure_package_config_file(cmake/umbraConfig.cmake.in umbraConfig.cmake
   INSTALL_DESTINATION ${UMBRA_PACKAGE})
 write_basic_package_version_file(umbraConfigVersion.cmake COMPATIBILITY SameMinorVersion)
@@ -60,9 +66,14 @@ if(NOT UMBRA_NATIVE_MFC)
   list(JOIN UMBRA_SHARED_UNWINDING " " UMBRA_PLAIN_LINK_OPTIONS)
   string(PREPEND UMBRA_PLAIN_LINK_OPTIONS "-Wl,-u,${UMBRA_WINMAIN} ")
   string(STRIP "${UMBRA_PLAIN_LINK_OPTIONS}" UMBRA_PLAIN_LINK_OPTIONS)
+  set(UMBRA_PC_DEFINITIONS -DUMBRA_NARROW)
+  if(UMBRA_UNICODE)
+    set(UMBRA_PC_DEFINITIONS "-DUMBRA_UNICODE -DUNICODE -D_UNICODE")
+  endif()
   foreach(package umbra umbra-mfc)
-    configure_file(cmake/${package}.pc.in ${package}.pc @ONLY)
-    install(FILES ${PROJECT_BINARY_DIR}/${package}.pc DESTINATION ${UMBRA_LIB}/pkgconfig)
+    set(file ${package}${UMBRA_TARGET_SUFFIX}.pc)
+    configure_file(cmake/${package}.pc.in ${file} @ONLY)
+    install(FILES ${PROJECT_BINARY_DIR}/${file} DESTINATION ${UMBRA_LIB}/pkgconfig)
   endforeach()
 endif()
 

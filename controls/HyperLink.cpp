@@ -22,7 +22,7 @@ END_MESSAGE_MAP()
 
 namespace {
 
-const char fallbackExtension[] = ".htm";
+const TCHAR fallbackExtension[] = _T(".htm");
 const UINT toolId = 1;
 const int tipWidth = 100; // Pixels.
 const LONG plainLabelWeight = FW_SEMIBOLD;
@@ -163,7 +163,7 @@ void CHyperLink::BuildTransparencyMask()
     BuildKeyMask(m_bmpPicture, m_bmpMask, m_crTransparent);
 }
 
-LONG CHyperLink::QueryRegistryDefault(HKEY root, const char* subKey, char* out)
+LONG CHyperLink::QueryRegistryDefault(HKEY root, LPCTSTR subKey, LPTSTR out)
 {
     return ::QueryRegistryDefault(root, subKey, out);
 }

@@ -59,7 +59,7 @@ protected:
     afx_msg LRESULT OnPrintClient(WPARAM wParam, LPARAM lParam);
 
     void BuildTransparencyMask();
-    LONG QueryRegistryDefault(HKEY root, const char* subKey, char* out);
+    LONG QueryRegistryDefault(HKEY root, LPCTSTR subKey, LPTSTR out);
 
 private:
     void DrawLabel(CDC& dc);

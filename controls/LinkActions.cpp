@@ -19,7 +19,7 @@ void TraceUnreachableLink(const CWnd& label)
 {
 #ifdef _DEBUG
     if (label.GetSafeHwnd() != nullptr && (label.GetStyle() & SS_NOTIFY) == 0)
-        TRACE("Umbra: link label %d lacks SS_NOTIFY and can never be clicked.\n",
+        TRACE(_T("Umbra: link label %d lacks SS_NOTIFY and can never be clicked.\n"),
               label.GetDlgCtrlID());
 #else
     (void)label;

@@ -298,7 +298,7 @@ LRESULT CxShadeButton::OnGetCheck(WPARAM, LPARAM)
     return m_checked;
 }
 
-HBITMAP CxShadeButton::LoadPictureBitmap(const char* path)
+HBITMAP CxShadeButton::LoadPictureBitmap(LPCTSTR path)
 {
     return ::LoadPictureBitmap(path);
 }

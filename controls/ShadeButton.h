@@ -117,7 +117,7 @@ protected:
     afx_msg LRESULT OnSetCheck(WPARAM wParam, LPARAM lParam);
     afx_msg LRESULT OnGetCheck(WPARAM wParam, LPARAM lParam);
 
-    HBITMAP LoadPictureBitmap(const char* path);
+    HBITMAP LoadPictureBitmap(LPCTSTR path);
 
 private:
     /// What the last SetShade asked for.

@@ -27,7 +27,7 @@ namespace {
 
 const COLORREF linkColor = RGB(0, 0, 255);
 // Kept: links of this class fall back to this type's program, web addresses included.
-const char fallbackExtension[] = ".QVXLog";
+const TCHAR fallbackExtension[] = _T(".QVXLog");
 // Kept: a keyed picture is drawn through a block of this size, whatever its own.
 const int keyedExtent = 200;
 
@@ -228,7 +228,7 @@ UINT CStaticTS::ShellOpen(CString target, int showCommand)
     return ::ShellOpen(target, showCommand, fallbackExtension);
 }
 
-LONG CStaticTS::QueryRegistryDefault(HKEY root, const char* subKey, char* out)
+LONG CStaticTS::QueryRegistryDefault(HKEY root, LPCTSTR subKey, LPTSTR out)
 {
     return ::QueryRegistryDefault(root, subKey, out);
 }

@@ -77,7 +77,7 @@ protected:
 
     /// Opens a document or address; the result is the shell's, or that of the program run instead.
     UINT ShellOpen(CString target, int showCommand);
-    LONG QueryRegistryDefault(HKEY root, const char* subKey, char* out);
+    LONG QueryRegistryDefault(HKEY root, LPCTSTR subKey, LPTSTR out);
 
 private:
     void DrawLabel(CDC* pDC);

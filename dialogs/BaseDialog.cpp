@@ -50,24 +50,24 @@ BOOL CBaseDialog::OnInitDialog()
 
     // Where two flags name one button, the later step wins.
     if (m_bConfirm) {
-        SetButton(m_btnOk, "Confirm");
+        SetButton(m_btnOk, _T("Confirm"));
         SetButtonIcon(m_btnOk, IDS_IMAGE_CONFIRM);
     }
     if (m_bOk) {
-        SetButton(m_btnCancel, "OK"); // Kept: "OK" is a caption of the IDCANCEL button.
+        SetButton(m_btnCancel, _T("OK")); // Kept: "OK" is a caption of the IDCANCEL button.
         SetButtonIcon(m_btnCancel, IDS_IMAGE_OK);
     }
     if (m_bCancel) {
-        SetButton(m_btnCancel, m_bCloseCaption ? "Close" : "Cancel");
+        SetButton(m_btnCancel, m_bCloseCaption ? _T("Close") : _T("Cancel"));
         if (m_bCancelIcon)
             SetButtonIcon(m_btnCancel, IDS_IMAGE_CLOSE);
     }
     if (m_bNext) {
-        SetButton(m_btnOk, m_bProceedCaption ? "Proceed" : "Next");
+        SetButton(m_btnOk, m_bProceedCaption ? _T("Proceed") : _T("Next"));
         SetButtonIcon(m_btnOk, IDS_IMAGE_NEXT);
     }
     if (m_bBack) {
-        SetButton(m_btnBack, "Back");
+        SetButton(m_btnBack, _T("Back"));
         SetButtonIcon(m_btnBack, IDS_IMAGE_BACK);
     }
     return TRUE;
@@ -82,7 +82,7 @@ void CBaseDialog::ShowPicture(UINT stringId)
 {
     const WorkingFolder folder(m_strImageDir);
     if (m_picture.GetSafeHwnd() == nullptr)
-        m_picture.Create("", 0, pictureBox, this, pictureId);
+        m_picture.Create(_T(""), 0, pictureBox, this, pictureId);
     m_picture.SetTransparentColor(imageKey);
     m_picture.LoadPicture(PathOfStringImage(stringId));
     m_picture.ShowWindow(SW_SHOWNORMAL);
@@ -150,7 +150,7 @@ CString CBaseDialog::PathOfStringImage(UINT stringId) const
     return m_strImageDir + name;
 }
 
-void CBaseDialog::SetButton(CxShadeButton& button, const char* caption)
+void CBaseDialog::SetButton(CxShadeButton& button, LPCTSTR caption)
 {
     button.SetWindowText(caption);
     ApplyButtonShade(button);

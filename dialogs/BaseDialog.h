@@ -83,7 +83,7 @@ protected:
 private:
     void DrawStrip(CDC& dc);
     CString PathOfStringImage(UINT stringId) const;
-    void SetButton(CxShadeButton& button, const char* caption);
+    void SetButton(CxShadeButton& button, LPCTSTR caption);
     void SetButtonIcon(CxShadeButton& button, UINT stringId);
 
     std::unique_ptr<umbra::BufferedPaint> m_bufferedPaint; ///< While it is switched on.

@@ -140,7 +140,8 @@ void CDialogTS::DrawCaptionLine(CDC* pDC)
     GetWindowText(text);
     CFont font;
     font.CreateFont(captionHeight, 0, 0, 0, FW_NORMAL, FALSE, FALSE, FALSE, ANSI_CHARSET,
-                    OUT_DEFAULT_PRECIS, CLIP_DEFAULT_PRECIS, DEFAULT_QUALITY, FF_SWISS, "Arial");
+                    OUT_DEFAULT_PRECIS, CLIP_DEFAULT_PRECIS, DEFAULT_QUALITY, FF_SWISS,
+                    _T("Arial"));
     pDC->SetTextColor(RGB(255, 255, 255));
     pDC->SetBkMode(TRANSPARENT);
     // Kept: the font goes away while it is still selected, and the former one is not put back.

@@ -13,7 +13,7 @@ namespace {
 
 const COLORREF labelColor = RGB(0, 0, 255);
 const COLORREF iconKey = RGB(0, 0, 0);
-const char iconFile[] = "\\images\\InfoIcon1.gif"; // Below the image folder.
+const TCHAR iconFile[] = _T("\\images\\InfoIcon1.gif"); // Below the image folder.
 
 } // namespace
 
@@ -30,8 +30,8 @@ CModellessDlg::~CModellessDlg()
 BOOL CModellessDlg::OnInitDialog()
 {
     CBaseDialog::OnInitDialog();
-    m_title.SetWindowText("Please wait while the program is working.");
-    m_detail.SetWindowText("This window stays until the work is done.");
+    m_title.SetWindowText(_T("Please wait while the program is working."));
+    m_detail.SetWindowText(_T("This window stays until the work is done."));
     m_title.ApplyLinkFont(); // Not a link: semibold.
     for (CHyperLink* label : {&m_icon, &m_title, &m_detail, &m_hint})
         label->SetTextColor(labelColor);

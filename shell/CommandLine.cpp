@@ -1,49 +1,58 @@
 #include "shell/CommandLine.h"
 
 #include <mbctype.h>
-#include <string.h>
+#include <tchar.h>
 
 namespace umbra {
 
 namespace {
 
-/// The first place of `part` in a multibyte text, never within a character. Not every run-time's
-/// own search looks where characters begin.
-char* FindText(char* text, const char* part)
+/// Whether the text begins with a character of two bytes.
+bool BeginsWithPair(LPCTSTR text)
 {
-    const size_t length = strlen(part);
-    unsigned char* place = reinterpret_cast<unsigned char*>(text);
-    while (*place != '\0') {
-        if (strncmp(reinterpret_cast<char*>(place), part, length) == 0)
-            return reinterpret_cast<char*>(place);
-        place += _ismbblead(*place) && place[1] != '\0' ? 2 : 1;
+#ifdef UNICODE
+    (void)text;
+    return false;
+#else
+    return _ismbblead(static_cast<unsigned char>(text[0])) && text[1] != '\0';
+#endif
+}
+
+/// The first place of `part` in a text, never within a character. Not every run-time's own search
+/// looks where characters begin.
+LPTSTR FindText(LPTSTR text, LPCTSTR part)
+{
+    const size_t length = _tcslen(part);
+    for (LPTSTR place = text; *place != '\0'; place += BeginsWithPair(place) ? 2 : 1) {
+        if (_tcsncmp(place, part, length) == 0)
+            return place;
     }
     return nullptr;
 }
 
 } // namespace
 
-BOOL CutPlaceholder(char* commandLine)
+BOOL CutPlaceholder(LPTSTR commandLine)
 {
-    char* placeholder = FindText(commandLine, "\"%1\"");
+    LPTSTR placeholder = FindText(commandLine, _T("\"%1\""));
     if (placeholder == nullptr)
-        placeholder = FindText(commandLine, "%1");
+        placeholder = FindText(commandLine, _T("%1"));
     if (placeholder == nullptr)
         return FALSE;
     *placeholder = '\0';
     return TRUE;
 }
 
-BOOL ComposeCommandLine(char* commandLine, size_t capacity, const char* target)
+BOOL ComposeCommandLine(LPTSTR commandLine, size_t capacity, LPCTSTR target)
 {
     if (commandLine[0] == '\0')
         return FALSE;
     CutPlaceholder(commandLine);
-    if (strlen(commandLine) + 1 + strlen(target) >= capacity)
+    if (_tcslen(commandLine) + 1 + _tcslen(target) >= capacity)
         return FALSE;
     // Kept: the target is never quoted, not even where the placeholder was.
-    strcat(commandLine, " ");
-    strcat(commandLine, target);
+    _tcscat(commandLine, _T(" "));
+    _tcscat(commandLine, target);
     return TRUE;
 }
 

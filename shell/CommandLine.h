@@ -10,11 +10,11 @@ const size_t shellCommandCapacity = 528;
 
 /// Cuts a command line off at its placeholder, "%1" in quotes or bare, with all that follows.
 /// FALSE when there is none; the command line then stays whole.
-BOOL CutPlaceholder(char* commandLine);
+BOOL CutPlaceholder(LPTSTR commandLine);
 
 /// Puts the target behind a registered command line that stands in a buffer of `capacity`
 /// characters. FALSE when the command line is empty or the result does not fit: nothing is to be
 /// run then.
-BOOL ComposeCommandLine(char* commandLine, size_t capacity, const char* target);
+BOOL ComposeCommandLine(LPTSTR commandLine, size_t capacity, LPCTSTR target);
 
 } // namespace umbra

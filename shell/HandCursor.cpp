@@ -1,10 +1,10 @@
 #include "shell/HandCursor.h"
 
-#include <string.h>
+#include <tchar.h>
 
 namespace {
 
-const char helpProgram[] = "\\winhlp32.exe";
+const TCHAR helpProgram[] = _T("\\winhlp32.exe");
 const int handResource = 106;
 
 class HandCursorCache
@@ -39,11 +39,11 @@ private:
 
     static HMODULE LoadHelpProgram()
     {
-        char path[MAX_PATH + sizeof(helpProgram)] = "";
+        TCHAR path[MAX_PATH + _countof(helpProgram)] = _T("");
         const UINT length = ::GetWindowsDirectory(path, MAX_PATH);
         if (length == 0 || length >= MAX_PATH)
             return nullptr;
-        strcat(path, helpProgram);
+        _tcscat(path, helpProgram);
         return ::LoadLibrary(path);
     }
 

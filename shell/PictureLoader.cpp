@@ -5,18 +5,33 @@
 #include <direct.h>
 #include <ocidl.h>
 #include <olectl.h>
-#include <string.h>
+#include <tchar.h>
 
 #include <memory>
 #include <new>
 
 namespace {
 
-const int workingPathCapacity = 256;
+const int workingPathCapacity = 256;   // Characters.
 const size_t longestPath = 0x40000000; // Characters, with the terminator; refused from here on.
 
+#ifdef UNICODE
+
+/// The path as it is; NULL when it is too long.
+LPCWSTR WidenPath(LPCWSTR path)
+{
+    return wcslen(path) + 1 < longestPath ? path : nullptr;
+}
+
+LPOLESTR AddressOf(LPCWSTR path)
+{
+    return const_cast<LPOLESTR>(path); // The loader only reads it.
+}
+
+#else
+
 /// The path in UTF-16; NULL when it cannot be converted.
-std::unique_ptr<wchar_t[]> WidenPath(const char* path)
+std::unique_ptr<wchar_t[]> WidenPath(LPCSTR path)
 {
     const size_t length = strlen(path) + 1;
     if (length >= longestPath)
@@ -28,21 +43,28 @@ std::unique_ptr<wchar_t[]> WidenPath(const char* path)
     return wide;
 }
 
+LPOLESTR AddressOf(const std::unique_ptr<wchar_t[]>& path)
+{
+    return path.get();
+}
+
+#endif
+
 /// The picture of the file, to be released by the caller; NULL when there is none. The returned
 /// code of the loader is of no interest: what counts is whether a picture came back.
-IPicture* OpenPicture(const char* path)
+IPicture* OpenPicture(LPCTSTR path)
 {
-    const std::unique_ptr<wchar_t[]> wide = WidenPath(path);
+    const auto wide = WidenPath(path);
     void* picture = nullptr;
-    ::OleLoadPicturePath(wide.get(), nullptr, 0, 0, IID_IPicture, &picture);
+    ::OleLoadPicturePath(AddressOf(wide), nullptr, 0, 0, IID_IPicture, &picture);
     return static_cast<IPicture*>(picture);
 }
 
-IPicture* OpenPictureBelowWorkingDirectory(const char* path)
+IPicture* OpenPictureBelowWorkingDirectory(LPCTSTR path)
 {
-    char directory[workingPathCapacity];
-    char joined[workingPathCapacity];
-    if (_getcwd(directory, workingPathCapacity) == nullptr)
+    TCHAR directory[workingPathCapacity];
+    TCHAR joined[workingPathCapacity];
+    if (_tgetcwd(directory, workingPathCapacity) == nullptr)
         return nullptr;
     if (!umbra::JoinPicturePath(directory, path, joined, workingPathCapacity))
         return nullptr;
@@ -79,7 +101,7 @@ HBITMAP TakeBitmap(IPicture* picture)
 
 } // namespace
 
-HBITMAP LoadPictureBitmap(const char* path)
+HBITMAP LoadPictureBitmap(LPCTSTR path)
 {
     if (path == nullptr)
         return nullptr;
@@ -88,6 +110,6 @@ HBITMAP LoadPictureBitmap(const char* path)
         picture = OpenPictureBelowWorkingDirectory(path);
     const HBITMAP bitmap = picture != nullptr ? TakeBitmap(picture) : nullptr;
     if (bitmap == nullptr)
-        TRACE("Umbra: no picture could be loaded from '%.260s'.\n", path);
+        TRACE(_T("Umbra: no picture could be loaded from '%.260s'.\n"), path);
     return bitmap;
 }

@@ -9,4 +9,4 @@
 /// bitmap that the caller owns and deletes with DeleteObject. A name that does not load as it
 /// stands is tried once more below the current working directory. NULL when there is no such
 /// picture, when it is an icon or a metafile, or when the path is too long; nothing is reported.
-UMBRA_API HBITMAP LoadPictureBitmap(const char* path);
+UMBRA_API HBITMAP LoadPictureBitmap(LPCTSTR path);

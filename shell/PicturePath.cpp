@@ -1,19 +1,19 @@
 #include "shell/PicturePath.h"
 
-#include <string.h>
+#include <tchar.h>
 
 namespace umbra {
 
-BOOL JoinPicturePath(const char* directory, const char* path, char* out, size_t capacity)
+BOOL JoinPicturePath(LPCTSTR directory, LPCTSTR path, LPTSTR out, size_t capacity)
 {
     // Kept: the doubled slash works as it is.
-    static const char separator[] = "//";
+    static const TCHAR separator[] = _T("//");
     out[0] = '\0';
-    if (strlen(directory) + strlen(separator) + strlen(path) >= capacity)
+    if (_tcslen(directory) + _tcslen(separator) + _tcslen(path) >= capacity)
         return FALSE;
-    strcpy(out, directory);
-    strcat(out, separator);
-    strcat(out, path);
+    _tcscpy(out, directory);
+    _tcscat(out, separator);
+    _tcscat(out, path);
     return TRUE;
 }
 

@@ -7,6 +7,6 @@ namespace umbra {
 
 /// Writes directory + "//" + path into `out`, a buffer of `capacity` characters with room for the
 /// terminator. FALSE when it does not fit; `out` is then an empty string.
-BOOL JoinPicturePath(const char* directory, const char* path, char* out, size_t capacity);
+BOOL JoinPicturePath(LPCTSTR directory, LPCTSTR path, LPTSTR out, size_t capacity);
 
 } // namespace umbra

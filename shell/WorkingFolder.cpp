@@ -1,18 +1,19 @@
 #include "shell/WorkingFolder.h"
 
 #include <direct.h>
+#include <tchar.h>
 
-WorkingFolder::WorkingFolder(const char* folder)
+WorkingFolder::WorkingFolder(LPCTSTR folder)
 {
-    if (_getcwd(m_former, sizeof(m_former)) == nullptr) {
+    if (_tgetcwd(m_former, _countof(m_former)) == nullptr) {
         m_former[0] = '\0';
         return;
     }
-    _chdir(folder);
+    _tchdir(folder);
 }
 
 WorkingFolder::~WorkingFolder()
 {
     if (m_former[0] != '\0')
-        _chdir(m_former);
+        _tchdir(m_former);
 }

@@ -8,12 +8,12 @@ class WorkingFolder
 public:
     /// Remembers the working directory and moves to `folder`. Where it cannot be remembered, being
     /// too long, the process stays where it is.
-    explicit WorkingFolder(const char* folder);
+    explicit WorkingFolder(LPCTSTR folder);
     ~WorkingFolder(); ///< Moves back.
 
     WorkingFolder(const WorkingFolder&) = delete;
     WorkingFolder& operator=(const WorkingFolder&) = delete;
 
 private:
-    char m_former[MAX_PATH + 1];
+    TCHAR m_former[MAX_PATH + 1];
 };

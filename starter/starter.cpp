@@ -33,7 +33,7 @@ class CStarterApp : public CWinApp
 {
     BOOL InitInstance() override
     {
-        char program[MAX_PATH];
+        TCHAR program[MAX_PATH];
         GetModuleFileName(NULL, program, MAX_PATH);
         CString folder(program);
         g_strImageDir = folder.Left(folder.ReverseFind('\\'));

@@ -3,14 +3,17 @@
 
 #include <windows.h>
 
+#include <filesystem>
 #include <fstream>
 #include <string>
 #include <vector>
 
+#include "testing/Text.h"
+
 /// False when it could not be written.
-inline bool WriteBytes(const std::string& path, const std::vector<BYTE>& bytes)
+inline bool WriteBytes(const umbra::testing::TString& path, const std::vector<BYTE>& bytes)
 {
-    std::ofstream file(path, std::ios::binary);
+    std::ofstream file(std::filesystem::path(path), std::ios::binary);
     file.write(reinterpret_cast<const char*>(bytes.data()),
                static_cast<std::streamsize>(bytes.size()));
     file.close();

@@ -6,31 +6,33 @@
 #include <string.h>
 #include <string>
 
+#include "testing/Text.h"
+
 /// The folder of the test program, without a last backslash; the toolkit's images lie below it.
-inline std::string ProgramFolder()
+inline umbra::testing::TString ProgramFolder()
 {
-    char path[MAX_PATH] = "";
-    ::GetModuleFileNameA(nullptr, path, MAX_PATH);
-    *strrchr(path, '\\') = '\0';
+    TCHAR path[MAX_PATH] = _T("");
+    ::GetModuleFileName(nullptr, path, MAX_PATH);
+    *_tcsrchr(path, '\\') = '\0';
     return path;
 }
 
 /// A program that stands beside the test program.
-inline std::string ProgramPath(const char* name)
+inline umbra::testing::TString ProgramPath(LPCTSTR name)
 {
-    return ProgramFolder() + "\\" + name;
+    return ProgramFolder() + _T("\\") + name;
 }
 
 /// One of the toolkit's images.
-inline std::string ImagePath(const char* name)
+inline umbra::testing::TString ImagePath(LPCTSTR name)
 {
-    return ProgramFolder() + "\\images\\" + name;
+    return ProgramFolder() + _T("\\images\\") + name;
 }
 
 /// A file among the temporary ones, which need not be there.
-inline std::string TemporaryPath(const char* name)
+inline umbra::testing::TString TemporaryPath(LPCTSTR name)
 {
-    char folder[MAX_PATH] = "";
-    ::GetTempPathA(MAX_PATH, folder);
-    return std::string(folder) + name;
+    TCHAR folder[MAX_PATH] = _T("");
+    ::GetTempPath(MAX_PATH, folder);
+    return umbra::testing::TString(folder) + name;
 }

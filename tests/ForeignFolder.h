@@ -3,6 +3,8 @@
 
 #include "tests/Folders.h"
 
+#include "testing/Text.h"
+
 #include <windows.h>
 
 #include <string>
@@ -12,20 +14,21 @@
 class ForeignFolder
 {
 public:
-    ForeignFolder() : m_path(TemporaryPath(("umbra-" + Letter()).c_str()))
+    ForeignFolder() : m_path(TemporaryPath((_T("umbra-") + Letter()).c_str()))
     {
-        ::CreateDirectoryA(m_path.c_str(), nullptr);
-        ::CreateDirectoryA((m_path + "\\images").c_str(), nullptr);
-        ForEachImage([this](const std::string& name) {
-            ::CopyFileA(::ImagePath(name.c_str()).c_str(), ImagePath(name.c_str()).c_str(), FALSE);
+        ::CreateDirectory(m_path.c_str(), nullptr);
+        ::CreateDirectory((m_path + _T("\\images")).c_str(), nullptr);
+        ForEachImage([this](const umbra::testing::TString& name) {
+            ::CopyFile(::ImagePath(name.c_str()).c_str(), ImagePath(name.c_str()).c_str(), FALSE);
         });
     }
     ~ForeignFolder()
     {
-        ForEachImage(
-            [this](const std::string& name) { ::DeleteFileA(ImagePath(name.c_str()).c_str()); });
-        ::RemoveDirectoryA((m_path + "\\images").c_str());
-        ::RemoveDirectoryA(m_path.c_str());
+        ForEachImage([this](const umbra::testing::TString& name) {
+            ::DeleteFile(ImagePath(name.c_str()).c_str());
+        });
+        ::RemoveDirectory((m_path + _T("\\images")).c_str());
+        ::RemoveDirectory(m_path.c_str());
     }
     ForeignFolder(const ForeignFolder&) = delete;
     ForeignFolder& operator=(const ForeignFolder&) = delete;
@@ -34,16 +37,22 @@ public:
     bool IsThere() const
     {
         return !Letter().empty() &&
-               ::GetFileAttributesA(ImagePath("Next.gif").c_str()) != INVALID_FILE_ATTRIBUTES;
+               ::GetFileAttributes(ImagePath(_T("Next.gif")).c_str()) != INVALID_FILE_ATTRIBUTES;
     }
 
-    const std::string& Path() const { return m_path; } ///< Without a last backslash.
-    std::string ImagePath(const char* name) const { return m_path + "\\images\\" + name; }
+    const umbra::testing::TString& Path() const { return m_path; } ///< Without a last backslash.
+    umbra::testing::TString ImagePath(LPCTSTR name) const
+    {
+        return m_path + _T("\\images\\") + name;
+    }
 
 private:
     /// The first of some letters that the code page has; empty when it has none.
-    static std::string Letter()
+    static umbra::testing::TString Letter()
     {
+#ifdef UNICODE
+        return L"\x7D75";
+#else
         for (const wchar_t* letter : {L"\x00FC", L"\x7D75", L"\x0416", L"\x05D0"}) {
             char bytes[8] = "";
             BOOL replaced = FALSE;
@@ -53,20 +62,21 @@ private:
                 return bytes;
         }
         return {};
+#endif
     }
 
     template <class Action>
     static void ForEachImage(Action action)
     {
-        WIN32_FIND_DATAA found;
-        const HANDLE search = ::FindFirstFileA(::ImagePath("*.gif").c_str(), &found);
+        WIN32_FIND_DATA found;
+        const HANDLE search = ::FindFirstFile(::ImagePath(_T("*.gif")).c_str(), &found);
         if (search == INVALID_HANDLE_VALUE)
             return;
         do
             action(found.cFileName);
-        while (::FindNextFileA(search, &found));
+        while (::FindNextFile(search, &found));
         ::FindClose(search);
     }
 
-    std::string m_path;
+    umbra::testing::TString m_path;
 };

@@ -2,6 +2,9 @@
 #pragma once
 
 #include "testing/ImportHook.h"
+#include "testing/Text.h"
+
+#include "tests/LibraryFiles.h"
 
 #include <doctest/doctest.h>
 
@@ -14,24 +17,24 @@ const bool isTraced = false; // A release build tells nothing.
 #endif
 
 /// What the debugger was told since the text was cleared.
-inline std::string& TracedText()
+inline umbra::testing::TString& TracedText()
 {
-    static std::string text;
+    static umbra::testing::TString text;
     return text;
 }
 
 /// Stands in for the debugger.
-inline void WINAPI NoteTrace(LPCSTR text)
+inline void WINAPI NoteTrace(LPCTSTR text)
 {
     TracedText() += text;
 }
 
 /// What the toolkit tells while the steps run.
 template <class Steps>
-std::string TraceOf(Steps steps)
+umbra::testing::TString TraceOf(Steps steps)
 {
-    const umbra::testing::ImportHook debugger(umbra::testing::FindModule("umbra-mfc.dll"),
-                                              "kernel32", "OutputDebugStringA", NoteTrace);
+    const umbra::testing::ImportHook debugger(umbra::testing::FindModule(UMBRA_MFC_DLL), "kernel32",
+                                              TEXT_FUNCTION("OutputDebugString"), NoteTrace);
     REQUIRE(debugger.IsInstalled());
     TracedText().clear();
     steps();

@@ -5,12 +5,12 @@
 
 namespace {
 
-const char referenceFace[] = "MS Mincho";
+const TCHAR referenceFace[] = _T("MS Mincho");
 const int referencePoints = 8;
 const int faceFound = 10;
 
 // The average character width is taken over both cases of the alphabet, rounded to nearest.
-const char alphabet[] = "ABCDEFGHIJKLMNOPQRSTUVWXYZabcdefghijklmnopqrstuvwxyz";
+const TCHAR alphabet[] = _T("ABCDEFGHIJKLMNOPQRSTUVWXYZabcdefghijklmnopqrstuvwxyz");
 const int alphabetLength = 52;
 
 /// Answers the argument that EnumFonts was given, so that one enumerated font ends it with that.

@@ -6,6 +6,7 @@
 #include "shell/HandCursor.h"
 
 #include "testing/Pump.h"
+#include "testing/Text.h"
 
 #include <vector>
 
@@ -33,9 +34,9 @@ public:
 using Link = LabelOver<TestLink>;
 
 /// The text of the link's tool tip.
-std::string TipText(TestLink& link)
+TString TipText(TestLink& link)
 {
-    char text[256] = "";
+    TCHAR text[256] = _T("");
     TOOLINFO tool = {};
     tool.cbSize = TTTOOLINFOA_V1_SIZE;
     tool.hwnd = link.m_hWnd;
@@ -79,9 +80,9 @@ private:
     static LRESULT CALLBACK Note(int code, WPARAM wParam, LPARAM lParam)
     {
         const CWPSTRUCT& sent = *reinterpret_cast<const CWPSTRUCT*>(lParam);
-        char name[32] = "";
-        ::GetClassNameA(sent.hwnd, name, sizeof(name));
-        if (code == HC_ACTION && strcmp(name, TOOLTIPS_CLASSA) == 0)
+        TCHAR name[32] = _T("");
+        ::GetClassName(sent.hwnd, name, _countof(name));
+        if (code == HC_ACTION && _tcscmp(name, TOOLTIPS_CLASS) == 0)
             All().push_back(sent);
         return ::CallNextHookEx(nullptr, code, wParam, lParam);
     }
@@ -105,7 +106,7 @@ TEST_CASE("a new label is no link, has black text, no picture and no tool tip")
 
 TEST_CASE("text is centred and wrapped in its colour over what is beneath")
 {
-    Link link("Some words that need more than a single line of this label, surely");
+    Link link(_T("Some words that need more than a single line of this label, surely"));
     link.control.SetTextColor(red);
     const Picture shown = link.host.Show();
     const CRect text = shown.BoundsOfOthers(green);
@@ -121,7 +122,7 @@ TEST_CASE("the text keeps to the window's rectangle, which a border makes larger
 {
     for (const DWORD style : {SS_NOTIFY, SS_NOTIFY | WS_BORDER, SS_NOTIFY | WS_DLGFRAME}) {
         CAPTURE(style);
-        Link link("Some text", style);
+        Link link(_T("Some text"), style);
         link.control.SetTextColor(red);
         CheckTextIsDrawnAs(link, FontOf(link.control), red, CSize(0, 0), DT_CENTER | DT_WORDBREAK);
     }
@@ -129,7 +130,7 @@ TEST_CASE("the text keeps to the window's rectangle, which a border makes larger
 
 TEST_CASE("setting the text colour repaints nothing by itself")
 {
-    Link link("Text");
+    Link link(_T("Text"));
     link.host.Show();
     link.control.SetTextColor(red);
     CHECK_FALSE(link.control.GetUpdateRect(nullptr));
@@ -138,29 +139,29 @@ TEST_CASE("setting the text colour repaints nothing by itself")
 
 TEST_CASE("a target makes the label an underlined link and changes nothing else of its font")
 {
-    Link link("Text");
+    Link link(_T("Text"));
     const LOGFONT before = DescribeFont(link.control);
-    link.control.SetURL("http://example.invalid/");
+    link.control.SetURL(_T("http://example.invalid/"));
     CHECK(link.control.m_bIsLink);
-    CHECK(link.control.m_strURL == "http://example.invalid/");
+    CHECK(link.control.m_strURL == _T("http://example.invalid/"));
     CheckOnlyUnderlineDiffers(before, DescribeFont(link.control));
 }
 
 TEST_CASE("the link font of a label that is no link is semibold")
 {
-    Link link("Text");
+    Link link(_T("Text"));
     link.control.ApplyLinkFont();
     CHECK(DescribeFont(link.control).lfWeight == 600);
     CHECK(DescribeFont(link.control).lfUnderline == 0);
     // A link made of it keeps the weight of the first call.
-    link.control.SetURL("x");
+    link.control.SetURL(_T("x"));
     CHECK(DescribeFont(link.control).lfWeight == 600);
     CHECK(DescribeFont(link.control).lfUnderline != 0);
 }
 
 TEST_CASE("a control without a font takes the default GUI font for its link font")
 {
-    Link link("Text");
+    Link link(_T("Text"));
     link.control.SendMessage(WM_SETFONT, 0, FALSE);
     link.control.ApplyLinkFont();
     LOGFONT gui = {};
@@ -173,7 +174,7 @@ TEST_CASE("a control without a font takes the default GUI font for its link font
 // Kept: the font stays the control's for good; nobody deletes it.
 TEST_CASE("each link font leaves one font behind")
 {
-    Link link("Text");
+    Link link(_T("Text"));
     link.control.ApplyLinkFont();
     const BalancedGdi objects;
     for (int i = 0; i < 5; ++i)
@@ -185,37 +186,37 @@ TEST_CASE("a press on a link opens its target, trimmed, shown normally")
 {
     const ShellSpy shell;
     REQUIRE(shell.IsInstalled());
-    Link link("The text");
-    link.control.SetURL(" \thttp://example.invalid/ ");
+    Link link(_T("The text"));
+    link.control.SetURL(_T(" \thttp://example.invalid/ "));
     link.host.Show();
     REQUIRE(MovePointer(link.control.m_hWnd));
     PressLeft();
     CHECK(shell.Asked().size() == 1); // The press opens, not the release.
     ReleaseLeft();
     REQUIRE(shell.Asked().size() == 1);
-    CHECK(shell.Asked()[0].target == "http://example.invalid/");
+    CHECK(shell.Asked()[0].target == _T("http://example.invalid/"));
     CHECK(shell.Asked()[0].show == SW_SHOWNORMAL);
 }
 
 TEST_CASE("a link without a target opens its text")
 {
     const ShellSpy shell;
-    Link link("  file.txt  ");
-    link.control.SetURL("");
+    Link link(_T("  file.txt  "));
+    link.control.SetURL(_T(""));
     link.Press();
     REQUIRE(shell.Asked().size() == 1);
-    CHECK(shell.Asked()[0].target == "file.txt");
+    CHECK(shell.Asked()[0].target == _T("file.txt"));
 }
 
 // Kept: the test comes before the trimming, so a target of blanks opens an empty string.
 TEST_CASE("a target of blanks passes as an empty string; no target and no text open nothing")
 {
     const ShellSpy shell;
-    Link link("");
-    link.control.SetURL("");
+    Link link(_T(""));
+    link.control.SetURL(_T(""));
     link.Press();
     CHECK(shell.Asked().empty());
-    link.control.SetURL("   ");
+    link.control.SetURL(_T("   "));
     link.Press();
     REQUIRE(shell.Asked().size() == 1);
     CHECK(shell.Asked()[0].target.empty());
@@ -224,29 +225,30 @@ TEST_CASE("a target of blanks passes as an empty string; no target and no text o
 TEST_CASE("a label that is no link ignores a press")
 {
     const ShellSpy shell;
-    Link link("http://example.invalid/");
+    Link link(_T("http://example.invalid/"));
     link.Press();
     CHECK(shell.Asked().empty());
 }
 
 TEST_CASE("what the shell cannot open goes to the program for web pages")
 {
-    const RegisteredClass extension(".htm", "umbra.page");
-    const RegisteredClass command("umbra.page\\shell\\open\\command", "browser.exe \"%1\" -tab");
+    const RegisteredClass extension(_T(".htm"), _T("umbra.page"));
+    const RegisteredClass command(_T("umbra.page\\shell\\open\\command"),
+                                  _T("browser.exe \"%1\" -tab"));
     const ShellSpy shell(31);
-    Link link("Text");
-    link.control.SetURL("http://example.invalid/a b");
+    Link link(_T("Text"));
+    link.control.SetURL(_T("http://example.invalid/a b"));
     link.Press();
     REQUIRE(shell.Run().size() == 1);
-    CHECK(shell.Run()[0].target == "browser.exe  http://example.invalid/a b");
+    CHECK(shell.Run()[0].target == _T("browser.exe  http://example.invalid/a b"));
     CHECK(shell.Run()[0].show == SW_SHOWNORMAL);
 }
 
 TEST_CASE("the hand shows over a link with text")
 {
     REQUIRE(help.IsInstalled());
-    Link link("Text");
-    link.control.SetURL("x");
+    Link link(_T("Text"));
+    link.control.SetURL(_T("x"));
     CHECK(link.AskCursor() == TRUE);
     REQUIRE(LoadHandCursor() != nullptr);
     CHECK(::GetCursor() == LoadHandCursor());
@@ -254,8 +256,8 @@ TEST_CASE("the hand shows over a link with text")
 
 TEST_CASE("the real pointer becomes a hand over a link and an arrow beside it")
 {
-    Link link("Text");
-    link.control.SetURL("x");
+    Link link(_T("Text"));
+    link.control.SetURL(_T("x"));
     link.host.Show();
     REQUIRE(MovePointer(link.control.m_hWnd));
     CHECK(::GetCursor() == LoadHandCursor());
@@ -267,12 +269,12 @@ TEST_CASE("the real pointer becomes a hand over a link and an arrow beside it")
 TEST_CASE("no link, or a link without text, has the default cursor; the latter still opens")
 {
     const ShellSpy shell;
-    Link plain("Text");
+    Link plain(_T("Text"));
     plain.AskCursor();
     CHECK(::GetCursor() == ::LoadCursor(nullptr, IDC_ARROW));
 
-    Link empty("");
-    empty.control.SetURL("target");
+    Link empty(_T(""));
+    empty.control.SetURL(_T("target"));
     empty.AskCursor();
     CHECK(::GetCursor() == ::LoadCursor(nullptr, IDC_ARROW));
     empty.Press();
@@ -281,9 +283,9 @@ TEST_CASE("no link, or a link without text, has the default cursor; the latter s
 
 TEST_CASE("a keyed picture shows at the corner, under the text")
 {
-    Link link("");
+    Link link(_T(""));
     link.control.SetTransparentColor(black);
-    CHECK(link.control.SetBitmapFile(ImagePath("Next.gif").c_str()) == TRUE);
+    CHECK(link.control.SetBitmapFile(ImagePath(_T("Next.gif")).c_str()) == TRUE);
     CHECK(link.control.m_bBitmapLoaded);
     CHECK(link.control.m_nBitmapWidth == 19);
     CHECK(link.control.m_nBitmapHeight == 19);
@@ -298,8 +300,8 @@ TEST_CASE("a picture is found under a path beyond ASCII")
 
 TEST_CASE("without a key colour no picture is drawn, even if one was loaded")
 {
-    Link link("");
-    link.control.SetBitmapFile(ImagePath("Next.gif").c_str());
+    Link link(_T(""));
+    link.control.SetBitmapFile(ImagePath(_T("Next.gif")).c_str());
     CHECK(link.control.m_bBitmapLoaded);
     const Picture shown = link.host.Show();
     CHECK(shown.CountOf(green) == shown.Width() * shown.Height());
@@ -307,7 +309,7 @@ TEST_CASE("without a key colour no picture is drawn, even if one was loaded")
 
 TEST_CASE("a key colour without a picture draws the text only")
 {
-    Link link("");
+    Link link(_T(""));
     link.control.SetTransparentColor(black);
     const Picture shown = link.host.Show();
     CHECK(shown.CountOf(green) == shown.Width() * shown.Height());
@@ -330,24 +332,24 @@ TEST_CASE("a replaced picture and the bitmaps of a label that is gone are left")
 
 TEST_CASE("a tool tip is one tool, whose text is renewed")
 {
-    Link link("Text");
-    CHECK(link.control.SetToolTipText("first") == TRUE);
+    Link link(_T("Text"));
+    CHECK(link.control.SetToolTipText(_T("first")) == TRUE);
     CHECK(link.control.m_bToolTip);
     REQUIRE(link.control.m_ToolTip.m_hWnd != nullptr);
     const HWND window = link.control.m_ToolTip.m_hWnd;
-    CHECK(TipText(link.control) == "first");
-    link.control.SetToolTipText("second");
+    CHECK(TipText(link.control) == _T("first"));
+    link.control.SetToolTipText(_T("second"));
     CHECK(link.control.m_ToolTip.m_hWnd == window);
     CHECK(link.control.m_ToolTip.GetToolCount() == 1);
-    CHECK(TipText(link.control) == "second");
+    CHECK(TipText(link.control) == _T("second"));
     CHECK(link.control.m_ToolTip.GetMaxTipWidth() == 100);
 }
 
 TEST_CASE("a new tool tip is off until it has its tool, and 100 pixels wide")
 {
-    Link link("Text");
+    Link link(_T("Text"));
     const ToolTipMessages sent;
-    link.control.SetToolTipText("first");
+    link.control.SetToolTipText(_T("first"));
     const std::vector<CWPSTRUCT> activations = sent.Find(TTM_ACTIVATE);
     REQUIRE(activations.size() == 2);
     CHECK(activations[0].wParam == FALSE);
@@ -358,7 +360,7 @@ TEST_CASE("a new tool tip is off until it has its tool, and 100 pixels wide")
     CHECK(widths[0].wParam == 400);
     CHECK(widths[0].lParam == 100);
 
-    link.control.SetToolTipText("second");
+    link.control.SetToolTipText(_T("second"));
     REQUIRE(sent.Find(TTM_ACTIVATE).size() == 3);
     CHECK(sent.Find(TTM_ACTIVATE)[2].wParam == TRUE);
     CHECK(sent.Find(TTM_SETMAXTIPWIDTH).size() == 1);
@@ -366,9 +368,9 @@ TEST_CASE("a new tool tip is off until it has its tool, and 100 pixels wide")
 
 TEST_CASE("mouse moves are relayed to the tool tip once it has a text")
 {
-    Link link("Text");
+    Link link(_T("Text"));
     link.control.SendMessage(WM_MOUSEMOVE, 0, MAKELPARAM(7, 8)); // No tool tip, no harm.
-    link.control.SetToolTipText("tip");
+    link.control.SetToolTipText(_T("tip"));
     const RelayLog relays(link.control.m_ToolTip.m_hWnd);
     link.control.SendMessage(WM_MOUSEMOVE, MK_SHIFT, MAKELPARAM(7, -8));
     REQUIRE(relays.Relayed().size() == 1);
@@ -381,8 +383,8 @@ TEST_CASE("mouse moves are relayed to the tool tip once it has a text")
 
 TEST_CASE("the tool tip comes up under the real pointer")
 {
-    Link link("Text");
-    link.control.SetToolTipText("tip");
+    Link link(_T("Text"));
+    link.control.SetToolTipText(_T("tip"));
     link.control.m_ToolTip.SetDelayTime(TTDT_INITIAL, 10);
     link.host.Show();
     REQUIRE(MovePointer(link.control.m_hWnd));
@@ -395,29 +397,29 @@ TEST_CASE("the tool tip comes up under the real pointer")
 
 TEST_CASE("10,000 pointer moves over a link leave nothing behind")
 {
-    Link link("Text");
-    link.control.SetURL("x");
-    link.control.SetToolTipText("tip");
+    Link link(_T("Text"));
+    link.control.SetURL(_T("x"));
+    link.control.SetToolTipText(_T("tip"));
     CheckMovesLeaveNothing(link);
 }
 
 TEST_CASE("painting leaves the control's font in place and nothing behind")
 {
-    Link link("Text");
+    Link link(_T("Text"));
     link.control.SetTransparentColor(black);
-    link.control.SetBitmapFile(ImagePath("Next.gif").c_str());
+    link.control.SetBitmapFile(ImagePath(_T("Next.gif")).c_str());
     CheckPaintsLeaveNothing(link);
 }
 
 TEST_CASE("long texts and odd targets do no harm")
 {
     const ShellSpy shell(2);
-    Link link("");
-    link.control.SetWindowText(std::string(65536, 'w').c_str());
-    link.control.SetURL("");
+    Link link(_T(""));
+    link.control.SetWindowText(TString(65536, 'w').c_str());
+    link.control.SetURL(_T(""));
     link.host.Show();
     link.Press();
-    link.control.SetURL("a\x01\x02\r\nb");
+    link.control.SetURL(_T("a\x01\x02\r\nb"));
     link.Press();
     link.control.SetURL(CString('x', 10000));
     link.Press();

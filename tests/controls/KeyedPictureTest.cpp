@@ -92,7 +92,7 @@ TEST_CASE("the mask is right whatever stands in the fourth byte of a pixel")
 
 TEST_CASE("a loaded GIF is keyed by its black pixels")
 {
-    const HBITMAP loaded = LoadPictureBitmap(ImagePath("Next.gif").c_str());
+    const HBITMAP loaded = LoadPictureBitmap(ImagePath(_T("Next.gif")).c_str());
     REQUIRE(loaded != nullptr);
     const Picture file = Picture::OfBitmap(loaded);
     CBitmap picture, mask;

@@ -2,6 +2,7 @@
 #pragma once
 
 #include "tests/ForeignFolder.h"
+#include "tests/LibraryFiles.h"
 #include "tests/controls/LabelHost.h"
 #include "tests/controls/ShellSpy.h"
 #include "tests/programs/HelpProgram.h"
@@ -10,6 +11,7 @@
 #include "testing/GdiObjects.h"
 #include "testing/Input.h"
 #include "testing/Picture.h"
+#include "testing/Text.h"
 
 #include <doctest/doctest.h>
 
@@ -29,7 +31,7 @@ inline const HelpProgram help;
 template <class Control>
 struct LabelOver
 {
-    explicit LabelOver(const char* text, DWORD style = SS_NOTIFY, const CRect& place = labelPlace)
+    explicit LabelOver(LPCTSTR text, DWORD style = SS_NOTIFY, const CRect& place = labelPlace)
     {
         control.SubclassWindow(host.AddStatic(place, text, style));
     }
@@ -139,8 +141,8 @@ void CheckMovesLeaveNothing(Label& link)
     for (int i = 0; i < 10; ++i)
         move();
     const BalancedGdi objects;
-    const CountCalls cursors(FindModule("umbra.dll"), "user32", "CopyIcon");
-    const CountCalls libraries(FindModule("umbra.dll"), "kernel32", "LoadLibraryA");
+    const CountCalls cursors(FindModule(UMBRA_DLL), "user32", "CopyIcon");
+    const CountCalls libraries(FindModule(UMBRA_DLL), "kernel32", TEXT_FUNCTION("LoadLibrary"));
     const SIZE_T memory = WorkingSet();
     for (int i = 0; i < 10000; ++i)
         move();
@@ -169,9 +171,9 @@ void CheckPictureBeyondAscii(Load load)
 {
     const ForeignFolder folder;
     REQUIRE(folder.IsThere());
-    LabelOver<Control> label("");
+    LabelOver<Control> label(_T(""));
     label.control.SetTransparentColor(black);
-    CHECK((label.control.*load)(folder.ImagePath("Next.gif").c_str()) == TRUE);
+    CHECK((label.control.*load)(folder.ImagePath(_T("Next.gif")).c_str()) == TRUE);
     CheckShowsKeyedNext(label);
 }
 
@@ -179,17 +181,17 @@ void CheckPictureBeyondAscii(Load load)
 template <class Control, class Load>
 void CheckMissingPictureChangesNothing(Load load)
 {
-    LabelOver<Control> label("");
+    LabelOver<Control> label(_T(""));
     label.control.SetTransparentColor(black);
-    CHECK((label.control.*load)("no such file.gif") == TRUE);
+    CHECK((label.control.*load)(_T("no such file.gif")) == TRUE);
     CHECK(label.control.m_bmpPicture.GetSafeHandle() == nullptr);
     const umbra::testing::Picture empty = label.host.Show();
     CHECK(empty.CountOf(green) == empty.Width() * empty.Height());
 
-    (label.control.*load)(ImagePath("Next.gif").c_str());
+    (label.control.*load)(ImagePath(_T("Next.gif")).c_str());
     const HGDIOBJ before = label.control.m_bmpPicture.GetSafeHandle();
     CHECK(before != nullptr);
-    CHECK((label.control.*load)("no such file.gif") == TRUE);
+    CHECK((label.control.*load)(_T("no such file.gif")) == TRUE);
     CHECK(label.control.m_bmpPicture.GetSafeHandle() == before);
     CheckShowsKeyedNext(label);
 }
@@ -198,12 +200,12 @@ void CheckMissingPictureChangesNothing(Load load)
 template <class Control, class Load>
 void CheckLaterKeyWaits(Load load)
 {
-    LabelOver<Control> label("");
-    (label.control.*load)(ImagePath("Next.gif").c_str());
+    LabelOver<Control> label(_T(""));
+    (label.control.*load)(ImagePath(_T("Next.gif")).c_str());
     label.control.SetTransparentColor(black);
     CHECK(label.control.m_bmpMask.GetSafeHandle() == nullptr);
     label.host.Show(); // Not keyed, and no harm done.
-    (label.control.*load)(ImagePath("Next.gif").c_str());
+    (label.control.*load)(ImagePath(_T("Next.gif")).c_str());
     CHECK(label.control.m_bmpMask.GetSafeHandle() != nullptr);
     CheckShowsKeyedNext(label);
 }
@@ -215,12 +217,12 @@ void CheckBitmapsOutlive(Load load)
 {
     HGDIOBJ replaced, last, mask;
     {
-        LabelOver<Control> label("");
+        LabelOver<Control> label(_T(""));
         label.control.SetTransparentColor(black);
-        (label.control.*load)(ImagePath("Next.gif").c_str());
+        (label.control.*load)(ImagePath(_T("Next.gif")).c_str());
         replaced = label.control.m_bmpPicture.GetSafeHandle();
         CHECK(label.control.m_bmpMask.GetSafeHandle() != nullptr);
-        (label.control.*load)(ImagePath("Back.gif").c_str());
+        (label.control.*load)(ImagePath(_T("Back.gif")).c_str());
         last = label.control.m_bmpPicture.GetSafeHandle();
         mask = label.control.m_bmpMask.GetSafeHandle();
         CHECK(last != replaced);

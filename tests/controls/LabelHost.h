@@ -5,6 +5,7 @@
 
 #include "testing/Picture.h"
 #include "testing/Pump.h"
+#include "testing/Text.h"
 
 #include <afxwin.h>
 
@@ -20,18 +21,19 @@ public:
     {
         m_brush.CreateSolidBrush(background);
         CreateEx(WS_EX_TOPMOST, AfxRegisterWndClass(0, ::LoadCursor(nullptr, IDC_ARROW), m_brush),
-                 "", WS_POPUP | WS_VISIBLE | WS_CLIPCHILDREN, 40, 40, 500, 400, nullptr, nullptr);
+                 _T(""), WS_POPUP | WS_VISIBLE | WS_CLIPCHILDREN, 40, 40, 500, 400, nullptr,
+                 nullptr);
         m_font.CreateFont(-13, 0, 0, 0, FW_NORMAL, FALSE, FALSE, FALSE, ANSI_CHARSET, 0, 0, 0, 0,
-                          "Arial");
+                          _T("Arial"));
         UpdateWindow();
     }
     ~LabelHost() override { DestroyWindow(); }
 
     /// A plain static control with the host's font, to be subclassed by a label.
-    HWND AddStatic(const CRect& place, const char* text, DWORD style = SS_NOTIFY, int id = 100)
+    HWND AddStatic(const CRect& place, LPCTSTR text, DWORD style = SS_NOTIFY, int id = 100)
     {
         const HWND window =
-            ::CreateWindow("Static", text, WS_CHILD | WS_VISIBLE | style, place.left, place.top,
+            ::CreateWindow(_T("Static"), text, WS_CHILD | WS_VISIBLE | style, place.left, place.top,
                            place.Width(), place.Height(), m_hWnd,
                            reinterpret_cast<HMENU>(static_cast<INT_PTR>(id)), nullptr, nullptr);
         ::SendMessage(window, WM_SETFONT, reinterpret_cast<WPARAM>(m_font.GetSafeHandle()), FALSE);
@@ -65,21 +67,21 @@ inline SIZE_T WorkingSet()
 class RegisteredClass
 {
 public:
-    RegisteredClass(const char* key, const std::string& value) : m_root(key)
+    RegisteredClass(LPCTSTR key, const umbra::testing::TString& value) : m_root(key)
     {
         m_root = m_root.substr(0, m_root.find('\\'));
         HKEY opened;
-        if (::RegCreateKeyExA(HKEY_CLASSES_ROOT, key, 0, nullptr, 0, KEY_ALL_ACCESS, nullptr,
-                              &opened, nullptr) != ERROR_SUCCESS)
+        if (::RegCreateKeyEx(HKEY_CLASSES_ROOT, key, 0, nullptr, 0, KEY_ALL_ACCESS, nullptr,
+                             &opened, nullptr) != ERROR_SUCCESS)
             return;
-        ::RegSetValueExA(opened, nullptr, 0, REG_SZ, reinterpret_cast<const BYTE*>(value.c_str()),
-                         static_cast<DWORD>(value.size() + 1));
+        ::RegSetValueEx(opened, nullptr, 0, REG_SZ, reinterpret_cast<const BYTE*>(value.c_str()),
+                        static_cast<DWORD>(value.size() + 1));
         ::RegCloseKey(opened);
     }
-    ~RegisteredClass() { ::SHDeleteKeyA(HKEY_CLASSES_ROOT, m_root.c_str()); }
+    ~RegisteredClass() { ::SHDeleteKey(HKEY_CLASSES_ROOT, m_root.c_str()); }
     RegisteredClass(const RegisteredClass&) = delete;
     RegisteredClass& operator=(const RegisteredClass&) = delete;
 
 private:
-    std::string m_root;
+    umbra::testing::TString m_root;
 };

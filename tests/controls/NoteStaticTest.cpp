@@ -1,10 +1,12 @@
 #include "controls/NoteStatic.h"
 
+#include "tests/LibraryFiles.h"
 #include "tests/controls/LabelHost.h"
 
 #include "testing/CallFault.h"
 #include "testing/GdiObjects.h"
 #include "testing/ImportHook.h"
+#include "testing/Text.h"
 
 #include <doctest/doctest.h>
 
@@ -17,7 +19,7 @@ const CRect place(50, 60, 250, 100);
 /// A note over a control that exists already.
 struct Note
 {
-    Note() { control.SubclassWindow(host.AddStatic(place, "A note")); }
+    Note() { control.SubclassWindow(host.AddStatic(place, _T("A note"))); }
     LabelHost host;
     CNoteStatic control;
 };
@@ -36,7 +38,7 @@ TEST_CASE("a note without a font of its own is drawn exactly as a label")
     const Picture shown = note.host.Show();
     LabelHost host;
     CStaticTS label;
-    label.SubclassWindow(host.AddStatic(place, "A note"));
+    label.SubclassWindow(host.AddStatic(place, _T("A note")));
     CHECK(host.Show().Compare(shown) == "the same");
 }
 
@@ -61,7 +63,7 @@ TEST_CASE("a copy of an underlined font loses the underline, because the note is
     Note note;
     CFont underlined;
     underlined.CreateFont(-13, 0, 0, 0, FW_NORMAL, FALSE, TRUE, FALSE, ANSI_CHARSET, 0, 0, 0, 0,
-                          "Arial");
+                          _T("Arial"));
     note.control.SetFont(&underlined);
     note.control.CopyWindowFont();
     LOGFONT font = {};
@@ -73,7 +75,7 @@ TEST_CASE("where no font can be made the note falls back to the system's")
 {
     Note note;
     {
-        const FailAlways fonts(FindModule("umbra.dll"), "gdi32", "CreateFontIndirectA");
+        const FailAlways fonts(FindModule(UMBRA_DLL), "gdi32", TEXT_FUNCTION("CreateFontIndirect"));
         REQUIRE(fonts.IsInstalled());
         note.control.CopyWindowFont();
     }

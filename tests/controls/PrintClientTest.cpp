@@ -40,7 +40,7 @@ TEST_CASE("labels print as they show")
 {
     LabelHost host(green);
     CStaticTS label;
-    label.SubclassWindow(host.AddStatic(place, "A label", SS_NOTIFY | SS_LEFT));
+    label.SubclassWindow(host.AddStatic(place, _T("A label"), SS_NOTIFY | SS_LEFT));
     SUBCASE("text")
     {
     }
@@ -58,12 +58,12 @@ TEST_CASE("labels print as they show")
     }
     SUBCASE("an opaque picture")
     {
-        label.LoadPicture(ImagePath("Next.gif").c_str());
+        label.LoadPicture(ImagePath(_T("Next.gif")).c_str());
     }
     SUBCASE("a keyed picture")
     {
         label.SetTransparentColor(0);
-        label.LoadPicture(ImagePath("Next.gif").c_str());
+        label.LoadPicture(ImagePath(_T("Next.gif")).c_str());
     }
     const Picture printed = Print(label);
     CHECK(printed.CountOf(green) < place.Width() * place.Height());
@@ -74,7 +74,7 @@ TEST_CASE("notes print as they show")
 {
     LabelHost host(green);
     CNoteStatic note;
-    note.SubclassWindow(host.AddStatic(place, "A note"));
+    note.SubclassWindow(host.AddStatic(place, _T("A note")));
     note.CopyWindowFont();
     note.SetLabelTextColor(RGB(0, 0, 255));
     CHECK(Print(note).Compare(host.Show().Crop(place)) == "the same");
@@ -84,16 +84,16 @@ TEST_CASE("hyperlink labels print as they show")
 {
     LabelHost host(green);
     CHyperLink link;
-    link.SubclassWindow(host.AddStatic(place, "A link"));
+    link.SubclassWindow(host.AddStatic(place, _T("A link")));
     link.SetTextColor(RGB(0, 0, 255));
-    link.SetURL("target");
+    link.SetURL(_T("target"));
     SUBCASE("text")
     {
     }
     SUBCASE("a keyed picture")
     {
         link.SetTransparentColor(0);
-        link.SetBitmapFile(ImagePath("Next.gif").c_str());
+        link.SetBitmapFile(ImagePath(_T("Next.gif")).c_str());
     }
     CHECK(Print(link).Compare(host.Show().Crop(place)) == "the same");
 }
@@ -102,11 +102,11 @@ TEST_CASE("shaded buttons print as they show")
 {
     LabelHost host(green);
     CxShadeButton button;
-    button.SubclassWindow(::CreateWindow("Button", "Text", WS_CHILD | WS_VISIBLE, place.left,
-                                         place.top, place.Width(), place.Height(), host, nullptr,
-                                         nullptr, nullptr));
+    button.SubclassWindow(::CreateWindow(_T("Button"), _T("Text"), WS_CHILD | WS_VISIBLE,
+                                         place.left, place.top, place.Width(), place.Height(), host,
+                                         nullptr, nullptr, nullptr));
     button.SetShade(SHADE_ROWS, 0, 0, 50, RGB(180, 200, 230));
-    button.SetPicture(ImagePath("Next.gif").c_str(), CxShadeButton::alignLeft, 19, 19, 0);
+    button.SetPicture(ImagePath(_T("Next.gif")).c_str(), CxShadeButton::alignLeft, 19, 19, 0);
     const Picture shown = host.Show().Crop(place);
     const Canvas canvas(place.Width(), place.Height(), green);
     ::SendMessage(button, WM_PRINTCLIENT, reinterpret_cast<WPARAM>(canvas.Dc()), PRF_CLIENT);
@@ -117,6 +117,6 @@ TEST_CASE("without a context nothing is printed and nothing breaks")
 {
     LabelHost host(green);
     CStaticTS label;
-    label.SubclassWindow(host.AddStatic(place, "A label"));
+    label.SubclassWindow(host.AddStatic(place, _T("A label")));
     CHECK(::SendMessage(label, WM_PRINTCLIENT, 0, PRF_CLIENT) == 0);
 }

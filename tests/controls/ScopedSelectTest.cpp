@@ -65,7 +65,7 @@ TEST_CASE("an object that cannot be selected leaves the former one there, then a
     const Canvas canvas(10, 10);
     CDC& dc = *CDC::FromHandle(canvas.Dc());
     const HGDIOBJ former = FontIn(dc);
-    const HFONT gone = ::CreateFontA(-20, 0, 0, 0, 0, 0, 0, 0, 0, 0, 0, 0, 0, "Arial");
+    const HFONT gone = ::CreateFont(-20, 0, 0, 0, 0, 0, 0, 0, 0, 0, 0, 0, 0, _T("Arial"));
     ::DeleteObject(gone);
     {
         const ScopedSelect selected(dc, gone);

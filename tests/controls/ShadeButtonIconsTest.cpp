@@ -29,9 +29,9 @@ public:
 
     explicit IconButton(LabelHost& host)
     {
-        SubclassWindow(::CreateWindow("Button", "", WS_CHILD | WS_VISIBLE, place.left, place.top,
-                                      place.Width(), place.Height(), host, nullptr, nullptr,
-                                      nullptr));
+        SubclassWindow(::CreateWindow(_T("Button"), _T(""), WS_CHILD | WS_VISIBLE, place.left,
+                                      place.top, place.Width(), place.Height(), host, nullptr,
+                                      nullptr, nullptr));
         SetShade(SHADE_DIAGONAL, 0, 0, 100, tint);
     }
 };
@@ -94,11 +94,11 @@ TEST_CASE("a picture replaces the icons of all states, and ends them")
     button.SetIcons(normal, CxShadeButton::alignLeft, 16, 16, down, over);
     SUBCASE("a picture that loads")
     {
-        button.SetPicture(ImagePath("Next.gif").c_str(), CxShadeButton::alignLeft, 19, 19, 0);
+        button.SetPicture(ImagePath(_T("Next.gif")).c_str(), CxShadeButton::alignLeft, 19, 19, 0);
     }
     SUBCASE("one that does not")
     {
-        button.SetPicture("no such file.gif", CxShadeButton::alignLeft, 19, 19, 0);
+        button.SetPicture(_T("no such file.gif"), CxShadeButton::alignLeft, 19, 19, 0);
     }
     CHECK(button.m_hIcon == nullptr);
     CHECK(button.m_hIconDown == nullptr);
@@ -116,7 +116,7 @@ TEST_CASE("an icon replaces a picture")
     LabelHost host;
     IconButton button(host);
     const Picture bare = host.Show().Crop(place);
-    button.SetPicture(ImagePath("Next.gif").c_str(), CxShadeButton::alignLeft, 19, 19, 0);
+    button.SetPicture(ImagePath(_T("Next.gif")).c_str(), CxShadeButton::alignLeft, 19, 19, 0);
     button.SetIcons(MakeIcon(red), CxShadeButton::alignLeft, 16, 16);
     Picture expected = bare;
     for (int y = 0; y < 16; ++y) {
@@ -133,14 +133,15 @@ TEST_CASE("icons and pictures in turns leave nothing behind but what is let go o
     LabelHost host;
     {
         IconButton warm(host);
-        warm.SetPicture(ImagePath("Next.gif").c_str(), CxShadeButton::alignLeft, 19, 19, 0);
+        warm.SetPicture(ImagePath(_T("Next.gif")).c_str(), CxShadeButton::alignLeft, 19, 19, 0);
         host.Show();
     }
     const BalancedGdi objects;
     {
         IconButton button(host);
         for (int turn = 0; turn < 5; ++turn) {
-            button.SetPicture(ImagePath("Next.gif").c_str(), CxShadeButton::alignLeft, 19, 19, 0);
+            button.SetPicture(ImagePath(_T("Next.gif")).c_str(), CxShadeButton::alignLeft, 19, 19,
+                              0);
             button.SetIcons(MakeIcon(red), CxShadeButton::alignLeft, 16, 16, MakeIcon(blue));
         }
         host.Show();
@@ -175,7 +176,7 @@ TEST_CASE("a button that was never shaded has no faces to make anew")
 {
     LabelHost host;
     CxShadeButton button;
-    button.SubclassWindow(
-        ::CreateWindow("Button", "", WS_CHILD, 0, 0, 10, 10, host, nullptr, nullptr, nullptr));
+    button.SubclassWindow(::CreateWindow(_T("Button"), _T(""), WS_CHILD, 0, 0, 10, 10, host,
+                                         nullptr, nullptr, nullptr));
     CHECK_FALSE(button.UpdateShade());
 }

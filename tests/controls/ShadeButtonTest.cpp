@@ -3,6 +3,7 @@
 #include "shell/PictureLoader.h"
 
 #include "tests/ForeignFolder.h"
+#include "tests/LibraryFiles.h"
 #include "tests/controls/LabelHost.h"
 #include "tests/controls/RelayLog.h"
 
@@ -14,6 +15,7 @@
 #include "testing/MessageLog.h"
 #include "testing/Picture.h"
 #include "testing/Pump.h"
+#include "testing/Text.h"
 
 #include <doctest/doctest.h>
 
@@ -102,9 +104,9 @@ public:
     std::function<void()> m_onClick;
 
     HWND AddButton(DWORD style = BS_PUSHBUTTON, const CRect& place = buttonPlace, int id = 100,
-                   const char* text = "Text")
+                   LPCTSTR text = _T("Text"))
     {
-        return ::CreateWindow("Button", text, WS_CHILD | WS_VISIBLE | WS_TABSTOP | style,
+        return ::CreateWindow(_T("Button"), text, WS_CHILD | WS_VISIBLE | WS_TABSTOP | style,
                               place.left, place.top, place.Width(), place.Height(), m_hWnd,
                               reinterpret_cast<HMENU>(static_cast<INT_PTR>(id)), nullptr, nullptr);
     }
@@ -190,7 +192,7 @@ public:
         return *this;
     }
 
-    Expected& Caption(COLORREF color, int shift = 0, const char* text = "Text",
+    Expected& Caption(COLORREF color, int shift = 0, LPCTSTR text = _T("Text"),
                       UINT format = DT_CENTER | DT_VCENTER | DT_SINGLELINE)
     {
         RECT area = {6 + shift, shift, width - 6 + shift, height + shift};
@@ -290,14 +292,14 @@ BOOL WINAPI RefuseTracking(LPTRACKMOUSEEVENT)
 std::vector<CRect> textAreas;
 
 /// Draws the text as it was asked for, and notes where.
-int WINAPI NoteTextArea(HDC dc, LPCSTR text, int length, LPRECT area, UINT format)
+int WINAPI NoteTextArea(HDC dc, LPCTSTR text, int length, LPRECT area, UINT format)
 {
     textAreas.push_back(*area);
-    return ::DrawTextA(dc, text, length, area, format);
+    return ::DrawText(dc, text, length, area, format);
 }
 
 /// The bitmap as the toolkit loads it from one of its images.
-Picture LoadImagePicture(const char* name)
+Picture LoadImagePicture(LPCTSTR name)
 {
     const HBITMAP file = LoadPictureBitmap(ImagePath(name).c_str());
     const Picture image = Picture::OfBitmap(file);
@@ -499,7 +501,7 @@ TEST_CASE("setters of colour, font, border and edges show")
     LOGFONT font = {};
     font.lfHeight = -24;
     font.lfWeight = FW_BOLD;
-    strcpy(font.lfFaceName, "Arial");
+    _tcscpy(font.lfFaceName, _T("Arial"));
     CHECK(button.control.SetTextFont(font));
     CHECK(button.Draw().CountOf(red) > before);
 }
@@ -507,7 +509,7 @@ TEST_CASE("setters of colour, font, border and edges show")
 TEST_CASE("the caption keeps clear of a picture")
 {
     Button button;
-    const CString path = ImagePath("Next.gif").c_str();
+    const CString path = ImagePath(_T("Next.gif")).c_str();
     struct Case
     {
         UINT align;
@@ -526,7 +528,7 @@ TEST_CASE("the caption keeps clear of a picture")
 TEST_CASE("a picture larger than the button starts at its edge")
 {
     Button button;
-    const CString path = ImagePath("Next.gif").c_str();
+    const CString path = ImagePath(_T("Next.gif")).c_str();
     button.control.SetPicture(path, 0x100, 300, 300, 0);
     CHECK(button.control.m_rcIcon == CRect(CPoint(4, 0), CSize(300, 300)));
     button.control.SetPicture(path, 0x300, 300, 300, 0);
@@ -536,12 +538,12 @@ TEST_CASE("a picture larger than the button starts at its edge")
 TEST_CASE("a keyed picture shows the face through its key colour, shifted when pressed")
 {
     Button button;
-    button.control.SetWindowText("");
+    button.control.SetWindowText(_T(""));
     button.Shade();
     const Picture bare = button.Draw();
     const Picture barePressed = button.Draw(ODS_SELECTED);
-    button.control.SetPicture(ImagePath("Next.gif").c_str(), 0x100, 19, 19, 0);
-    const Picture image = LoadImagePicture("Next.gif");
+    button.control.SetPicture(ImagePath(_T("Next.gif")).c_str(), 0x100, 19, 19, 0);
+    const Picture image = LoadImagePicture(_T("Next.gif"));
 
     CHECK(button.Draw().Compare(Overlay(bare, image, CPoint(4, 11))) == "the same");
     CHECK(button.Draw(ODS_SELECTED).Compare(Overlay(barePressed, image, CPoint(5, 12))) ==
@@ -553,12 +555,12 @@ TEST_CASE("a keyed picture shows the face through its key colour, shifted when p
 TEST_CASE("a keyed picture of a checked button keeps its place until the button is pressed")
 {
     Button button(BS_AUTOCHECKBOX | BS_PUSHLIKE);
-    button.control.SetWindowText("");
+    button.control.SetWindowText(_T(""));
     button.Shade();
     button.control.SendMessage(BM_SETCHECK, BST_CHECKED);
     const Picture bare = button.Draw();
-    button.control.SetPicture(ImagePath("Next.gif").c_str(), 0x100, 19, 19, 0);
-    const Picture image = LoadImagePicture("Next.gif");
+    button.control.SetPicture(ImagePath(_T("Next.gif")).c_str(), 0x100, 19, 19, 0);
+    const Picture image = LoadImagePicture(_T("Next.gif"));
     CHECK(button.Draw().Compare(Overlay(bare, image, CPoint(4, 11))) == "the same");
     CHECK(button.Draw(ODS_SELECTED).Compare(Overlay(bare, image, CPoint(5, 12))) == "the same");
 }
@@ -567,7 +569,8 @@ TEST_CASE("the caption's area gives way to a picture, to the pixel")
 {
     Button button;
     button.Shade();
-    const ImportHook texts(FindModule("umbra-mfc.dll"), "user32", "DrawTextA", NoteTextArea);
+    const ImportHook texts(FindModule(UMBRA_MFC_DLL), "user32", TEXT_FUNCTION("DrawText"),
+                           NoteTextArea);
     REQUIRE(texts.IsInstalled());
     const auto areaOf = [&button](UINT state) {
         textAreas.clear();
@@ -576,7 +579,7 @@ TEST_CASE("the caption's area gives way to a picture, to the pixel")
         return textAreas[0];
     };
     CHECK(areaOf(0) == CRect(6, 0, width - 6, height));
-    const CString path = ImagePath("Next.gif").c_str();
+    const CString path = ImagePath(_T("Next.gif")).c_str();
     button.control.SetPicture(path, 0x100, 19, 19, 0);
     CHECK(areaOf(0) == CRect(6 + 19, 0, width - 6, height));
     button.control.SetPicture(path, 0x200, 19, 19, 0);
@@ -591,20 +594,20 @@ TEST_CASE("a picture is found under a path beyond ASCII")
     const ForeignFolder folder;
     REQUIRE(folder.IsThere());
     Button button;
-    button.control.SetWindowText("");
+    button.control.SetWindowText(_T(""));
     button.Shade();
     const Picture bare = button.Draw();
-    button.control.SetPicture(folder.ImagePath("Next.gif").c_str(), 0x100, 19, 19, 0);
-    CHECK(button.Draw().Compare(Overlay(bare, LoadImagePicture("Next.gif"), CPoint(4, 11))) ==
+    button.control.SetPicture(folder.ImagePath(_T("Next.gif")).c_str(), 0x100, 19, 19, 0);
+    CHECK(button.Draw().Compare(Overlay(bare, LoadImagePicture(_T("Next.gif")), CPoint(4, 11))) ==
           "the same");
 }
 
 TEST_CASE("a picture without a mask colour is drawn whole")
 {
     Button button;
-    button.control.SetWindowText("");
+    button.control.SetWindowText(_T(""));
     button.Shade();
-    button.control.SetPicture(ImagePath("Next.gif").c_str(), 0x100, 19, 19, CLR_NONE);
+    button.control.SetPicture(ImagePath(_T("Next.gif")).c_str(), 0x100, 19, 19, CLR_NONE);
     CHECK(button.control.m_maskColor == CLR_NONE);
     const Picture shown = button.Draw().Crop(CRect(CPoint(4, 11), CSize(19, 19)));
     CHECK(shown.At(0, 0) == RGB(0, 0, 0));
@@ -616,13 +619,13 @@ TEST_CASE("a picture replaces an icon, and one that does not load leaves neither
     Button button;
     button.control.SetIcons(MakeIcon(red), 0x100, 16, 16);
     CHECK(button.Draw().CountOf(red) == 16 * 16);
-    button.control.SetPicture(ImagePath("Next.gif").c_str(), 0x100, 19, 19, 0);
+    button.control.SetPicture(ImagePath(_T("Next.gif")).c_str(), 0x100, 19, 19, 0);
     CHECK(button.control.m_hIcon == nullptr);
     CHECK(button.control.m_hBitmap != nullptr);
     CHECK(button.control.m_bmpImage.GetSafeHandle() == button.control.m_hBitmap);
 
     button.control.SetIcons(MakeIcon(red), 0x100, 16, 16);
-    CHECK(button.control.SetPicture("no such file.gif", 0x100, 19, 19, 0) == TRUE);
+    CHECK(button.control.SetPicture(_T("no such file.gif"), 0x100, 19, 19, 0) == TRUE);
     CHECK(button.control.m_hIcon == nullptr);
     CHECK(button.control.m_hBitmap == nullptr);
 }
@@ -630,7 +633,7 @@ TEST_CASE("a picture replaces an icon, and one that does not load leaves neither
 TEST_CASE("icons of the three states show in theirs")
 {
     Button button;
-    button.control.SetWindowText("");
+    button.control.SetWindowText(_T(""));
     button.Shade();
     const COLORREF green = RGB(0, 150, 0), blue = RGB(0, 0, 200);
     button.control.SetIcons(MakeIcon(red), 0x100, 16, 16, MakeIcon(green), MakeIcon(blue));
@@ -647,7 +650,7 @@ TEST_CASE("icons of the three states show in theirs")
 TEST_CASE("one icon serves all states, shifted when pressed")
 {
     Button button;
-    button.control.SetWindowText("");
+    button.control.SetWindowText(_T(""));
     button.Shade();
     button.control.SetIcons(MakeIcon(red), 0x100, 16, 16);
     CHECK(button.Draw().At(4, 12) == red);
@@ -672,7 +675,7 @@ TEST_CASE("a button ends its icons, its picture and its font, and each shared ha
     CHECK_FALSE(IsIcon(over));
     {
         Button button;
-        button.control.SetPicture(ImagePath("Next.gif").c_str(), 0x100, 19, 19, 0);
+        button.control.SetPicture(ImagePath(_T("Next.gif")).c_str(), 0x100, 19, 19, 0);
         picture = button.control.m_hBitmap;
         mask = button.control.m_bmpMask.GetSafeHandle();
     }
@@ -694,7 +697,7 @@ TEST_CASE("an icon that serves two or three looks is destroyed once")
                               Case{third, nullptr, 2}, Case{nullptr, fourth, 2}}) {
         auto button = std::make_unique<Button>();
         button->control.SetIcons(MakeIcon(red), 0x100, 16, 16, icons.down, icons.over);
-        const CountCalls ends(FindModule("umbra.dll"), "user32", "DestroyIcon");
+        const CountCalls ends(FindModule(UMBRA_DLL), "user32", "DestroyIcon");
         REQUIRE(ends.IsInstalled());
         button.reset();
         CHECK(ends.Calls() == icons.destroyed);
@@ -705,9 +708,9 @@ TEST_CASE("an icon that serves two or three looks is destroyed once")
 TEST_CASE("a replaced picture is left, not deleted")
 {
     Button button;
-    button.control.SetPicture(ImagePath("Next.gif").c_str(), 0x100, 19, 19, 0);
+    button.control.SetPicture(ImagePath(_T("Next.gif")).c_str(), 0x100, 19, 19, 0);
     const HBITMAP first = button.control.m_hBitmap;
-    button.control.SetPicture(ImagePath("Back.gif").c_str(), 0x100, 19, 19, 0);
+    button.control.SetPicture(ImagePath(_T("Back.gif")).c_str(), 0x100, 19, 19, 0);
     CHECK(button.control.m_hBitmap != first);
     CHECK(::GetObjectType(first) == OBJ_BITMAP);
     ::DeleteObject(first);
@@ -727,7 +730,7 @@ TEST_CASE("a refused tracking leaves the button as it is")
 {
     Button button;
     {
-        const ImportHook tracking(FindModule("umbra.dll"), "comctl32", "_TrackMouseEvent",
+        const ImportHook tracking(FindModule(UMBRA_DLL), "comctl32", "_TrackMouseEvent",
                                   RefuseTracking);
         REQUIRE(tracking.IsInstalled());
         button.control.SendMessage(WM_MOUSEMOVE, 0, MAKELPARAM(5, 5));
@@ -735,7 +738,7 @@ TEST_CASE("a refused tracking leaves the button as it is")
     }
     MovePointer(button.control.m_hWnd);
     REQUIRE(button.control.m_hover);
-    const ImportHook tracking(FindModule("umbra.dll"), "comctl32", "_TrackMouseEvent",
+    const ImportHook tracking(FindModule(UMBRA_DLL), "comctl32", "_TrackMouseEvent",
                               RefuseTracking);
     PressLeft();
     CHECK(button.control.m_hover); // The cancelling was refused.
@@ -1061,7 +1064,7 @@ TEST_CASE("nothing is erased: a repaint is one copy to the screen")
     CClientDC dc(&button.host);
     CHECK(button.control.SendMessage(WM_ERASEBKGND, reinterpret_cast<WPARAM>(dc.GetSafeHdc())) !=
           0);
-    const CountCalls copies(FindModule("umbra-mfc.dll"), "gdi32", "BitBlt");
+    const CountCalls copies(FindModule(UMBRA_MFC_DLL), "gdi32", "BitBlt");
     REQUIRE(copies.IsInstalled());
     button.control.Invalidate(FALSE);
     button.control.UpdateWindow();
@@ -1072,7 +1075,7 @@ TEST_CASE("a paint leaves the target's font and the system's objects as they wer
 {
     Button button;
     button.Shade();
-    button.control.SetPicture(ImagePath("Next.gif").c_str(), 0x100, 19, 19, 0);
+    button.control.SetPicture(ImagePath(_T("Next.gif")).c_str(), 0x100, 19, 19, 0);
     button.Draw();
     const BalancedGdi objects;
     for (int i = 0; i < 20; ++i) {
@@ -1103,29 +1106,29 @@ TEST_CASE("a shade makes all six bitmaps for the button's size, a further one fo
 TEST_CASE("a tool tip gets its text, and another one while checked")
 {
     Button button(BS_AUTOCHECKBOX);
-    REQUIRE(button.control.SetToolTipText("off", "on"));
+    REQUIRE(button.control.SetToolTipText(_T("off"), _T("on")));
     REQUIRE(button.control.m_toolTip.m_hWnd != nullptr);
     const auto text = [&] {
         CString tip;
         button.control.m_toolTip.GetText(tip, &button.control);
-        return std::string(tip);
+        return TString(tip);
     };
-    CHECK(text() == "off");
+    CHECK(text() == _T("off"));
     button.control.SendMessage(BM_SETCHECK, 1);
-    CHECK(text() == "on");
+    CHECK(text() == _T("on"));
     button.control.SendMessage(WM_SHADE_UNCHECK);
-    CHECK(text() == "off");
+    CHECK(text() == _T("off"));
 
-    button.control.SetToolTipText("only");
+    button.control.SetToolTipText(_T("only"));
     button.control.SendMessage(BM_SETCHECK, 1);
-    CHECK(text() == "only");
+    CHECK(text() == _T("only"));
     CHECK(button.control.m_toolTip.GetToolCount() == 1);
 }
 
 TEST_CASE("the tool tip comes up under the real pointer")
 {
     Button button;
-    button.control.SetToolTipText("tip");
+    button.control.SetToolTipText(_T("tip"));
     button.control.m_toolTip.SetDelayTime(TTDT_INITIAL, 10);
     button.host.Show();
     MovePointer(button.control.m_hWnd);
@@ -1139,7 +1142,7 @@ TEST_CASE("presses, releases and moves are relayed to the tool tip, others are n
 {
     Button button;
     button.control.SendMessage(WM_MOUSEMOVE, 0, MAKELPARAM(7, 8)); // No tool tip, no harm.
-    button.control.SetToolTipText("tip");
+    button.control.SetToolTipText(_T("tip"));
     const RelayLog relays(button.control.m_toolTip.m_hWnd);
     const UINT messages[] = {WM_LBUTTONDOWN, WM_MOUSEMOVE, WM_LBUTTONUP};
     for (const UINT message : messages)
@@ -1159,7 +1162,7 @@ TEST_CASE("a host may end the button in a relay, and the message goes no further
     for (const UINT message : {WM_LBUTTONDOWN, WM_MOUSEMOVE, WM_LBUTTONUP}) {
         CAPTURE(message);
         Button button;
-        button.control.SetToolTipText("tip");
+        button.control.SetToolTipText(_T("tip"));
         const RelayLog relays(button.control.m_toolTip.m_hWnd,
                               [&button] { button.control.DestroyWindow(); });
         button.control.m_passedOn.clear();

@@ -2,6 +2,10 @@
 #pragma once
 
 #include "testing/ImportHook.h"
+#include "testing/Text.h"
+
+#include "tests/LibraryFiles.h"
+#include "tests/StartStandIn.h"
 
 #include <windows.h>
 
@@ -13,7 +17,7 @@ class ShellSpy
 public:
     struct Opened
     {
-        std::string target;
+        umbra::testing::TString target;
         int show;
     };
 
@@ -25,7 +29,7 @@ public:
         Commands().clear();
     }
 
-    bool IsInstalled() const { return m_shell.IsInstalled() && m_winExec.IsInstalled(); }
+    bool IsInstalled() const { return m_shell.IsInstalled() && m_start.IsInstalled(); }
     const std::vector<Opened>& Asked() const { return Targets(); }
     const std::vector<Opened>& Run() const { return Commands(); }
 
@@ -45,19 +49,20 @@ private:
         static std::vector<Opened> commands;
         return commands;
     }
-    static HINSTANCE WINAPI Open(HWND, LPCSTR, LPCSTR target, LPCSTR, LPCSTR, INT show)
+    static HINSTANCE WINAPI Open(HWND, LPCTSTR, LPCTSTR target, LPCTSTR, LPCTSTR, INT show)
     {
         Targets().push_back({target, show});
         return reinterpret_cast<HINSTANCE>(Answer());
     }
-    static UINT WINAPI Execute(LPCSTR command, UINT show)
+    static UINT Execute(LPCTSTR command, UINT show)
     {
         Commands().push_back({command, static_cast<int>(show)});
         return 33;
     }
 
-    umbra::testing::ImportHook m_shell{umbra::testing::FindModule("umbra.dll"), "shell32",
-                                       "ShellExecuteA", Open};
-    umbra::testing::ImportHook m_winExec{umbra::testing::FindModule("umbra.dll"), "kernel32",
-                                         "WinExec", Execute};
+    umbra::testing::ImportHook m_shell{umbra::testing::FindModule(UMBRA_DLL), "shell32",
+                                       TEXT_FUNCTION("ShellExecute"), Open};
+    umbra::testing::ImportHook m_start{umbra::testing::FindModule(UMBRA_DLL), "kernel32",
+                                       StartStandIn<Execute>::function,
+                                       StartStandIn<Execute>::Start};
 };

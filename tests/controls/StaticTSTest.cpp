@@ -8,6 +8,7 @@
 
 #include "testing/MessageLog.h"
 #include "testing/Pump.h"
+#include "testing/Text.h"
 
 using namespace umbra::testing;
 
@@ -16,9 +17,9 @@ namespace {
 using Label = LabelOver<CStaticTS>;
 
 /// A bitmap file of `width` by `height` pixels; the left half black, the right half red.
-std::string WriteHalfBlackBmp(const char* name, int width, int height)
+TString WriteHalfBlackBmp(LPCTSTR name, int width, int height)
 {
-    const std::string path = TemporaryPath(name);
+    const TString path = TemporaryPath(name);
     const auto colorAt = [=](int x, int) { return x < width / 2 ? black : red; };
     REQUIRE(WriteBytes(path, MakeBitmapFile(width, height, colorAt, height)));
     return path;
@@ -54,7 +55,7 @@ TEST_CASE("a new label is plain: black centred text, no link, no picture, no col
 
 TEST_CASE("text is drawn in its colour over what the parent drew")
 {
-    Label label("Hello there");
+    Label label(_T("Hello there"));
     label.control.SetLabelTextColor(red);
     const Picture shown = label.host.Show();
     CHECK(CountIn(shown, red, labelPlace) > 20);
@@ -64,7 +65,7 @@ TEST_CASE("text is drawn in its colour over what the parent drew")
 
 TEST_CASE("an empty label paints nothing")
 {
-    Label label("");
+    Label label(_T(""));
     const Picture shown = label.host.Show();
     CHECK(shown.CountOf(green) == shown.Width() * shown.Height());
 }
@@ -74,7 +75,7 @@ TEST_CASE(
 {
     for (const DWORD style : {DWORD{0}, DWORD{WS_BORDER}, DWORD{WS_DLGFRAME}}) {
         CAPTURE(style);
-        Label label("Left text", SS_NOTIFY | SS_LEFT | style);
+        Label label(_T("Left text"), SS_NOTIFY | SS_LEFT | style);
         label.control.SetLabelTextColor(red);
         CheckTextIsDrawnAs(label, FontOf(label.control), red, CSize(1, 1), DT_LEFT | DT_WORDBREAK);
     }
@@ -92,9 +93,9 @@ TEST_CASE("the alignment follows the style, bit by bit")
          {Case{SS_LEFT, DT_LEFT}, Case{SS_CENTER, DT_CENTER}, Case{SS_RIGHT, DT_RIGHT},
           Case{SS_ICON, DT_CENTER}, Case{0xE, DT_RIGHT}, Case{SS_LEFTNOWORDWRAP, DT_LEFT}}) {
         CAPTURE(expected.style);
-        Label label("Text", SS_NOTIFY);
+        Label label(_T("Text"), SS_NOTIFY);
         label.control.ModifyStyle(SS_TYPEMASK, expected.style);
-        label.control.SetWindowText("Text");
+        label.control.SetWindowText(_T("Text"));
         label.host.Show();
         CString text;
         label.control.GetWindowText(text);
@@ -107,7 +108,7 @@ TEST_CASE("the alignment follows the style, bit by bit")
 TEST_CASE("left, centred and right text stand at their sides")
 {
     const auto bounds = [](DWORD style) {
-        Label label("Text", SS_NOTIFY | style);
+        Label label(_T("Text"), SS_NOTIFY | style);
         const Picture shown = label.host.Show();
         return CRect(shown.BoundsOfOthers(green));
     };
@@ -119,7 +120,7 @@ TEST_CASE("left, centred and right text stand at their sides")
 
 TEST_CASE("an alignment that was set by hand stays when the style is not to decide")
 {
-    Label label("Text", SS_NOTIFY | SS_LEFT);
+    Label label(_T("Text"), SS_NOTIFY | SS_LEFT);
     label.control.m_bStyleAlign = FALSE;
     label.control.m_nTextFormat = DT_RIGHT;
     const CRect text = CRect(label.host.Show().BoundsOfOthers(green));
@@ -128,7 +129,7 @@ TEST_CASE("an alignment that was set by hand stays when the style is not to deci
 
 TEST_CASE("etched text is a shadow with a light copy one pixel right of and below it")
 {
-    Label label("I", SS_NOTIFY | SS_LEFT);
+    Label label(_T("I"), SS_NOTIFY | SS_LEFT);
     label.control.SetEmbossed(TRUE);
     label.control.SetLabelTextColor(red);
     const Picture shown = label.host.Show();
@@ -149,7 +150,7 @@ TEST_CASE("etched text is a shadow with a light copy one pixel right of and belo
 
 TEST_CASE("etched text ignores the text colour, for a link as well")
 {
-    Label label("Etched", SS_NOTIFY);
+    Label label(_T("Etched"), SS_NOTIFY);
     label.control.SetLink(TRUE);
     label.control.SetEmbossed(TRUE);
     CHECK_FALSE(label.host.Show().Contains(blue));
@@ -157,7 +158,7 @@ TEST_CASE("etched text ignores the text colour, for a link as well")
 
 TEST_CASE("a link is underlined and blue; made plain again it stays blue")
 {
-    Label label("Link");
+    Label label(_T("Link"));
     const HFONT before = FontOf(label.control);
     label.control.SetLink(TRUE);
     CHECK(label.control.m_bLink);
@@ -174,7 +175,7 @@ TEST_CASE("a link is underlined and blue; made plain again it stays blue")
 
 TEST_CASE("making a link changes nothing but the underline of the font")
 {
-    Label label("Link");
+    Label label(_T("Link"));
     const LOGFONT before = DescribeFont(label.control);
     label.control.SetLink(TRUE);
     CheckOnlyUnderlineDiffers(before, DescribeFont(label.control));
@@ -183,7 +184,7 @@ TEST_CASE("making a link changes nothing but the underline of the font")
 // Kept: the font stays the control's for good; nobody deletes it.
 TEST_CASE("each change between link and plain label leaves one font behind")
 {
-    Label label("Text");
+    Label label(_T("Text"));
     label.control.SetLink(TRUE);
     const HFONT first = FontOf(label.control);
     const BalancedGdi objects;
@@ -195,10 +196,11 @@ TEST_CASE("each change between link and plain label leaves one font behind")
 
 TEST_CASE("a font given to a label is copied with the label's underline, and paints derive theirs")
 {
-    Label label("Text");
+    Label label(_T("Text"));
     label.control.SetLink(TRUE);
     CFont font;
-    font.CreateFont(-20, 0, 0, 0, FW_BOLD, FALSE, FALSE, FALSE, ANSI_CHARSET, 0, 0, 0, 0, "Arial");
+    font.CreateFont(-20, 0, 0, 0, FW_BOLD, FALSE, FALSE, FALSE, ANSI_CHARSET, 0, 0, 0, 0,
+                    _T("Arial"));
     label.control.SetLabelFont(font);
     CHECK_FALSE(label.control.m_bOwnFont);
     const LOGFONT shown = DescribeFont(label.control);
@@ -213,16 +215,16 @@ TEST_CASE(
 {
     CFont plain, underlined;
     plain.CreateFont(-20, 0, 0, 0, FW_NORMAL, FALSE, FALSE, FALSE, ANSI_CHARSET, 0, 0, 0, 0,
-                     "Arial");
+                     _T("Arial"));
     underlined.CreateFont(-20, 0, 0, 0, FW_NORMAL, FALSE, TRUE, FALSE, ANSI_CHARSET, 0, 0, 0, 0,
-                          "Arial");
-    Label label("Text", SS_NOTIFY | SS_LEFT);
+                          _T("Arial"));
+    Label label(_T("Text"), SS_NOTIFY | SS_LEFT);
     label.control.SetLink(TRUE);
     label.control.SetLabelFont(plain);
     label.control.SetFont(&plain); // The host's own word, past the label.
     CheckTextIsDrawnAs(label, underlined, blue, CSize(1, 1), DT_LEFT | DT_WORDBREAK);
 
-    Label other("Text", SS_NOTIFY | SS_LEFT);
+    Label other(_T("Text"), SS_NOTIFY | SS_LEFT);
     other.control.SetLabelFont(underlined);
     other.control.SetFont(&underlined);
     other.control.SetLabelTextColor(red);
@@ -232,7 +234,7 @@ TEST_CASE(
 // Kept: made anew at every paint and never deleted.
 TEST_CASE("each paint of a label with a given font leaves one font behind, others leave nothing")
 {
-    Label label("Text");
+    Label label(_T("Text"));
     label.host.Show();
     CheckPaintsLeaveNothing(label);
     label.control.SetLabelFont(label.host.m_font);
@@ -246,7 +248,7 @@ TEST_CASE("each paint of a label with a given font leaves one font behind, other
 
 TEST_CASE("setting the text colour repaints the parent under the label, without erasing")
 {
-    Label label("Text");
+    Label label(_T("Text"));
     label.host.ModifyStyle(WS_CLIPCHILDREN, 0); // An erase would not reach what lies under it.
     label.host.Show();
     REQUIRE_FALSE(label.host.GetUpdateRect(nullptr));
@@ -262,8 +264,8 @@ TEST_CASE("setting the text colour repaints the parent under the label, without 
 
 TEST_CASE("an opaque picture is copied unscaled into the label, with the text over it")
 {
-    const std::string path = WriteHalfBlackBmp("umbra-label.bmp", 60, 300);
-    Label label("Text", SS_NOTIFY | SS_RIGHT);
+    const TString path = WriteHalfBlackBmp(_T("umbra-label.bmp"), 60, 300);
+    Label label(_T("Text"), SS_NOTIFY | SS_RIGHT);
     label.control.SetLabelTextColor(blue);
     CHECK(label.control.LoadPicture(path.c_str()) == TRUE);
     CHECK(label.control.m_bHasPicture);
@@ -272,20 +274,20 @@ TEST_CASE("an opaque picture is copied unscaled into the label, with the text ov
     CHECK(shown.Crop(CRect(0, 0, 30, 40)).CountOf(black) == 30 * 40);
     CHECK(shown.Crop(CRect(30, 0, 60, 40)).CountOf(red) == 30 * 40);
     CHECK(shown.Contains(blue));
-    ::DeleteFileA(path.c_str());
+    ::DeleteFile(path.c_str());
 }
 
 TEST_CASE("a keyed picture lets the parent show through its key colour")
 {
-    const std::string path = WriteHalfBlackBmp("umbra-label.bmp", 48, 30);
-    Label label("");
+    const TString path = WriteHalfBlackBmp(_T("umbra-label.bmp"), 48, 30);
+    Label label(_T(""));
     label.control.SetTransparentColor(black);
     CHECK(label.control.LoadPicture(path.c_str()) == TRUE);
     CHECK(label.control.m_bmpMask.GetSafeHandle() != nullptr);
     const Picture shown = label.host.Show().Crop(labelPlace);
     CHECK(shown.CountOf(red) == 24 * 30);
     CHECK(shown.Crop(CRect(0, 0, 24, 30)).CountOf(green) == 24 * 30);
-    ::DeleteFileA(path.c_str());
+    ::DeleteFile(path.c_str());
 }
 
 TEST_CASE("a picture is found under a path beyond ASCII")
@@ -296,8 +298,8 @@ TEST_CASE("a picture is found under a path beyond ASCII")
 // Kept: a keyed picture is drawn through a block of this size, whatever its own.
 TEST_CASE("a keyed picture larger than 200 pixels is cut there")
 {
-    const std::string path = WriteHalfBlackBmp("umbra-label.bmp", 260, 240);
-    Label label("", SS_NOTIFY, CRect(10, 10, 310, 310));
+    const TString path = WriteHalfBlackBmp(_T("umbra-label.bmp"), 260, 240);
+    Label label(_T(""), SS_NOTIFY, CRect(10, 10, 310, 310));
     label.control.SetTransparentColor(black);
     label.control.LoadPicture(path.c_str());
     const Picture shown = label.host.Show().Crop(CRect(10, 10, 310, 310));
@@ -305,7 +307,7 @@ TEST_CASE("a keyed picture larger than 200 pixels is cut there")
     CHECK(shown.At(199, 199) == red);
     CHECK(shown.At(200, 0) == green);
     CHECK(shown.At(199, 200) == green);
-    ::DeleteFileA(path.c_str());
+    ::DeleteFile(path.c_str());
 }
 
 TEST_CASE("a key colour set after the picture builds no mask, it waits for the next one")
@@ -320,10 +322,10 @@ TEST_CASE("a picture that does not load changes nothing and still answers TRUE")
 
 TEST_CASE("a picture needs its file no more once it is loaded")
 {
-    const std::string path = WriteHalfBlackBmp("umbra-label.bmp", 48, 30);
-    Label label("");
+    const TString path = WriteHalfBlackBmp(_T("umbra-label.bmp"), 48, 30);
+    Label label(_T(""));
     label.control.LoadPicture(path.c_str());
-    REQUIRE(::DeleteFileA(path.c_str()));
+    REQUIRE(::DeleteFile(path.c_str()));
     CHECK(label.control.m_bHasPicture);
     CHECK(label.host.Show().Contains(red));
 }
@@ -335,7 +337,7 @@ TEST_CASE("a replaced picture and the bitmaps of a label that is gone are left")
 
 TEST_CASE("colour requests are answered with the null brush, a solid one, or nothing")
 {
-    Label label("Text");
+    Label label(_T("Text"));
     CClientDC dc(&label.host);
     const auto ask = [&] {
         return reinterpret_cast<HBRUSH>(
@@ -366,7 +368,7 @@ TEST_CASE("colour requests are answered with the null brush, a solid one, or not
 
 TEST_CASE("erasing is claimed done without drawing")
 {
-    Label label("Text");
+    Label label(_T("Text"));
     CClientDC dc(&label.host);
     CHECK(label.control.SendMessage(WM_ERASEBKGND, reinterpret_cast<WPARAM>(dc.GetSafeHdc())) == 1);
 }
@@ -375,39 +377,39 @@ TEST_CASE("a click on a link opens its trimmed text, shown normally")
 {
     const ShellSpy shell;
     REQUIRE(shell.IsInstalled());
-    Label label("  http://example.invalid/a b \t");
+    Label label(_T("  http://example.invalid/a b \t"));
     label.control.SetLink(TRUE);
     label.host.Show();
     CHECK(Click(label.control.m_hWnd));
     REQUIRE(shell.Asked().size() == 1);
-    CHECK(shell.Asked()[0].target == "http://example.invalid/a b");
+    CHECK(shell.Asked()[0].target == _T("http://example.invalid/a b"));
     CHECK(shell.Asked()[0].show == SW_SHOWNORMAL);
 }
 
 TEST_CASE("a stored target is opened instead of the text once it is to be used")
 {
     const ShellSpy shell;
-    Label label("The text");
+    Label label(_T("The text"));
     label.control.SetLink(TRUE);
-    label.control.m_strLinkTarget = "stored";
+    label.control.m_strLinkTarget = _T("stored");
     label.Press();
-    label.control.SetLinkTarget(" the target ");
+    label.control.SetLinkTarget(_T(" the target "));
     label.Press();
     REQUIRE(shell.Asked().size() == 2);
-    CHECK(shell.Asked()[0].target == "The text");
-    CHECK(shell.Asked()[1].target == "the target");
+    CHECK(shell.Asked()[0].target == _T("The text"));
+    CHECK(shell.Asked()[1].target == _T("the target"));
 }
 
 TEST_CASE(
     "a plain label and a link without text open nothing; the parent is repainted all the same")
 {
     const ShellSpy shell;
-    Label plain("Text");
+    Label plain(_T("Text"));
     plain.host.Show();
     plain.Press();
     CHECK(plain.host.GetUpdateRect(nullptr));
 
-    Label empty("");
+    Label empty(_T(""));
     empty.control.SetLink(TRUE);
     empty.host.Show();
     empty.Press();
@@ -418,21 +420,22 @@ TEST_CASE(
 // Kept: links of this class fall back to this type's program, web addresses included.
 TEST_CASE("what the shell cannot open goes to the toolkit's own document type, web addresses too")
 {
-    const RegisteredClass extension(".QVXLog", "umbra.log");
-    const RegisteredClass command("umbra.log\\shell\\open\\command", "viewer.exe \"%1\" /x");
+    const RegisteredClass extension(_T(".QVXLog"), _T("umbra.log"));
+    const RegisteredClass command(_T("umbra.log\\shell\\open\\command"),
+                                  _T("viewer.exe \"%1\" /x"));
     const ShellSpy shell(32);
-    Label label("http://example.invalid/");
+    Label label(_T("http://example.invalid/"));
     label.control.SetLink(TRUE);
     label.Press();
     REQUIRE(shell.Run().size() == 1);
-    CHECK(shell.Run()[0].target == "viewer.exe  http://example.invalid/");
+    CHECK(shell.Run()[0].target == _T("viewer.exe  http://example.invalid/"));
     CHECK(shell.Run()[0].show == SW_SHOWNORMAL);
 }
 
 TEST_CASE("a control without SS_NOTIFY is transparent to the real pointer")
 {
     const ShellSpy shell;
-    Label label("Text", 0);
+    Label label(_T("Text"), 0);
     label.control.SetLink(TRUE);
     label.host.Show();
     Click(label.host.m_hWnd, {labelPlace.left + 5, labelPlace.top + 5});
@@ -443,17 +446,17 @@ TEST_CASE("the hand shows over a link with text; elsewhere the handler leaves th
 {
     REQUIRE(help.IsInstalled());
     const HCURSOR cross = ::LoadCursor(nullptr, IDC_CROSS);
-    Label plain("Text");
+    Label plain(_T("Text"));
     CHECK(plain.AskCursor() == FALSE);
     CHECK(::GetCursor() == cross);
 
-    Label empty("");
+    Label empty(_T(""));
     empty.control.SetLink(TRUE);
-    empty.control.SetLinkTarget("somewhere");
+    empty.control.SetLinkTarget(_T("somewhere"));
     CHECK(empty.AskCursor() == FALSE);
     CHECK(::GetCursor() == cross);
 
-    Label link("Text");
+    Label link(_T("Text"));
     link.control.SetLink(TRUE);
     CHECK(link.AskCursor() == TRUE);
     REQUIRE(LoadHandCursor() != nullptr);
@@ -462,7 +465,7 @@ TEST_CASE("the hand shows over a link with text; elsewhere the handler leaves th
 
 TEST_CASE("10,000 pointer moves over a link leave nothing behind")
 {
-    Label link("Text");
+    Label link(_T("Text"));
     link.control.SetLink(TRUE);
     CheckMovesLeaveNothing(link);
 }
@@ -471,7 +474,7 @@ TEST_CASE("a label made through its class lies on the dialog-unit grid")
 {
     LabelHost host;
     CStaticTS label;
-    REQUIRE(label.Create("Text", WS_VISIBLE, CRect(103, 59, 314, 156), &host, 7));
+    REQUIRE(label.Create(_T("Text"), WS_VISIBLE, CRect(103, 59, 314, 156), &host, 7));
     int x, y, cx, cy;
     PixelsToDialogUnits(103, 59, 211, 97, &x, &y, &cx, &cy);
     DialogUnitsToPixels(x, y, cx, cy, &x, &y, &cx, &cy);
@@ -484,7 +487,7 @@ TEST_CASE("a label made through its class lies on the dialog-unit grid")
 
 TEST_CASE("a label over a control of a template keeps its place")
 {
-    Label label("Text", SS_NOTIFY, CRect(103, 59, 314, 156));
+    Label label(_T("Text"), SS_NOTIFY, CRect(103, 59, 314, 156));
     CRect place;
     label.control.GetWindowRect(&place);
     label.host.ScreenToClient(&place);
@@ -494,11 +497,11 @@ TEST_CASE("a label over a control of a template keeps its place")
 TEST_CASE("long texts and odd targets do no harm")
 {
     const ShellSpy shell(2);
-    Label label("");
+    Label label(_T(""));
     label.control.SetLink(TRUE);
-    for (const std::string& text :
-         {std::string(65536, 'w'), std::string("a\x01\x02\r\n\tb"), std::string("\x83\x25\x83"),
-          std::string(300, '%'), std::string("   ")}) {
+    for (const TString& text :
+         {TString(65536, 'w'), TString(_T("a\x01\x02\r\n\tb")), TString(_T("\x83\x25\x83")),
+          TString(300, '%'), TString(_T("   "))}) {
         label.control.SetWindowText(text.c_str());
         label.host.Show();
         label.Press();
@@ -513,7 +516,7 @@ TEST_CASE("a control without a font can be made a link and painted")
 {
     LabelHost host;
     CStaticTS label;
-    REQUIRE(label.SubclassWindow(host.AddStatic(labelPlace, "Text")));
+    REQUIRE(label.SubclassWindow(host.AddStatic(labelPlace, _T("Text"))));
     label.SendMessage(WM_SETFONT, 0, FALSE);
     label.SetLink(TRUE);
     CHECK(host.Show().Contains(blue));
@@ -542,7 +545,7 @@ TEST_CASE("a label whose creation the system refuses is not there, and is not mo
 
     LabelHost host;
     RefusedLabel label;
-    CHECK_FALSE(label.Create("Text", WS_CHILD | WS_VISIBLE, CRect(11, 20, 111, 120), &host));
+    CHECK_FALSE(label.Create(_T("Text"), WS_CHILD | WS_VISIBLE, CRect(11, 20, 111, 120), &host));
     CHECK(label.GetSafeHwnd() == nullptr);
     CHECK(label.m_moves == 0);
     int x, y, cx, cy;

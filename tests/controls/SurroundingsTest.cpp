@@ -14,6 +14,7 @@
 #include "testing/Canvas.h"
 #include "testing/Picture.h"
 #include "testing/Pump.h"
+#include "testing/Text.h"
 
 #include <doctest/doctest.h>
 
@@ -43,9 +44,9 @@ COLORREF BarsAt(int x, int y)
     return x >= 2 && x < 7 ? left : x >= 9 && x < 12 ? right : key;
 }
 
-std::string BarsFile()
+TString BarsFile()
 {
-    const std::string path = TemporaryPath("umbra-bars.bmp");
+    const TString path = TemporaryPath(_T("umbra-bars.bmp"));
     REQUIRE(WriteBytes(
         path, MakeBitmapFile(
                   extent, extent, [](int x, int y) { return BarsAt(x, extent - 1 - y); }, extent)));
@@ -93,13 +94,15 @@ public:
     {
         m_brush.CreateSolidBrush(behind);
         CreateEx(WS_EX_TOPMOST | extendedStyle,
-                 AfxRegisterWndClass(0, ::LoadCursor(nullptr, IDC_ARROW), m_brush), "",
+                 AfxRegisterWndClass(0, ::LoadCursor(nullptr, IDC_ARROW), m_brush), _T(""),
                  WS_POPUP | WS_VISIBLE, 40, 40, 200, 220, nullptr, nullptr);
         const bool own = surroundings == Surroundings::ownContexts;
         m_button.SubclassWindow(
-            Add(own ? OwnContextClass("Button") : "Button", buttonPlace, WS_TABSTOP));
-        m_label.SubclassWindow(Add(own ? OwnContextClass("Static") : "Static", labelPlace, 0));
-        m_link.SubclassWindow(Add(own ? OwnContextClass("Static") : "Static", linkPlace, 0));
+            Add(own ? OwnContextClass(_T("Button")) : _T("Button"), buttonPlace, WS_TABSTOP));
+        m_label.SubclassWindow(
+            Add(own ? OwnContextClass(_T("Static")) : _T("Static"), labelPlace, 0));
+        m_link.SubclassWindow(
+            Add(own ? OwnContextClass(_T("Static")) : _T("Static"), linkPlace, 0));
         if (own) {
             for (CWnd* control : {static_cast<CWnd*>(&m_button), static_cast<CWnd*>(&m_label),
                                   static_cast<CWnd*>(&m_link)}) {
@@ -151,23 +154,24 @@ protected:
 
 private:
     /// The name of a class like the system's, whose windows have a context of their own.
-    static const char* OwnContextClass(const char* system)
+    static LPCTSTR OwnContextClass(LPCTSTR system)
     {
-        static char name[64];
-        WNDCLASSA description = {};
-        ::GetClassInfoA(nullptr, system, &description);
-        wsprintfA(name, "UmbraOwn%s", system);
+        static TCHAR name[64];
+        WNDCLASS description = {};
+        ::GetClassInfo(nullptr, system, &description);
+        wsprintf(name, _T("UmbraOwn%s"), system);
         description.style = (description.style & ~CS_PARENTDC & ~CS_GLOBALCLASS) | CS_OWNDC;
         description.lpszClassName = name;
-        description.hInstance = ::GetModuleHandleA(nullptr);
-        ::RegisterClassA(&description);
+        description.hInstance = ::GetModuleHandle(nullptr);
+        ::RegisterClass(&description);
         return name;
     }
 
-    HWND Add(const char* className, const CRect& place, DWORD style)
+    HWND Add(LPCTSTR className, const CRect& place, DWORD style)
     {
-        return ::CreateWindowA(className, "", WS_CHILD | WS_VISIBLE | style, place.left, place.top,
-                               place.Width(), place.Height(), m_hWnd, nullptr, nullptr, nullptr);
+        return ::CreateWindow(className, _T(""), WS_CHILD | WS_VISIBLE | style, place.left,
+                              place.top, place.Width(), place.Height(), m_hWnd, nullptr, nullptr,
+                              nullptr);
     }
 
     const Surroundings m_surroundings;
@@ -290,7 +294,7 @@ TEST_CASE("on a right-to-left page a button's caption reads as on any other")
     for (int i = 0; i < 2; ++i) {
         CxShadeButton& button = pages[i]->m_button;
         button.SetTextColor(left);
-        button.SetWindowText("FL7");
+        button.SetWindowText(_T("FL7"));
         const Picture shown = pages[i]->Show();
         CRect place;
         button.GetWindowRect(&place);
@@ -340,7 +344,7 @@ TEST_CASE("on a right-to-left page icons and opaque pictures are not mirrored ei
 TEST_CASE("on a right-to-left page the faces and focus lines fill the same places as on any other")
 {
     OddPage page(Surroundings::plain, WS_EX_LAYOUTRTL);
-    page.m_button.SetPicture("", CxShadeButton::alignLeft, 0, 0, key);
+    page.m_button.SetPicture(_T(""), CxShadeButton::alignLeft, 0, 0, key);
     page.m_button.SetBorder(4);
     page.m_button.SetShade(SHADE_DIAGONAL, 0, 0, 100, tint);
     page.m_button.SetFocus();
@@ -351,7 +355,7 @@ TEST_CASE("on a right-to-left page the faces and focus lines fill the same place
     CHECK(button.CountOf(behind) == 0);
 
     OddPage other(Surroundings::plain);
-    other.m_button.SetPicture("", CxShadeButton::alignLeft, 0, 0, key);
+    other.m_button.SetPicture(_T(""), CxShadeButton::alignLeft, 0, 0, key);
     other.m_button.SetFocus();
     const Picture plain = other.Show().Crop(buttonPlace);
     for (const int y : {4, 20, 35, 36}) {

@@ -12,7 +12,7 @@ struct Tool
 {
     Tool()
     {
-        REQUIRE(control.SubclassWindow(host.AddStatic(CRect(10, 10, 60, 60), "Text")));
+        REQUIRE(control.SubclassWindow(host.AddStatic(CRect(10, 10, 60, 60), _T("Text"))));
         REQUIRE(toolTip.Create(&control));
     }
 

@@ -13,6 +13,7 @@
 #include "testing/Page.h"
 #include "testing/Picture.h"
 #include "testing/Pump.h"
+#include "testing/Text.h"
 
 #include <doctest/doctest.h>
 
@@ -30,13 +31,13 @@ const int height = 120;
 
 DialogTemplate BareTemplate(DWORD extendedStyle = 0)
 {
-    return DialogTemplate(0, 0, 100, 50, WS_POPUP, "", extendedStyle);
+    return DialogTemplate(0, 0, 100, 50, WS_POPUP, _T(""), extendedStyle);
 }
 
 /// A bitmap of the client area's size: the left half in one colour, the right half in another.
 HBITMAP MakeHalves(COLORREF leftColor, COLORREF rightColor)
 {
-    const std::string path = TemporaryPath("umbra-halves.bmp");
+    const TString path = TemporaryPath(_T("umbra-halves.bmp"));
     REQUIRE(WriteBytes(path, MakeBitmapFile(
                                  width, height,
                                  [=](int x, int) { return x < width / 2 ? leftColor : rightColor; },
@@ -170,8 +171,8 @@ TEST_CASE("on a right-to-left page the strip stands at the right and is not mirr
 {
     g_strImageDir = ProgramFolder().c_str();
     const auto show = [](DWORD extendedStyle) {
-        DialogTemplate source(10, 10, 300, 230, WS_POPUP, "", extendedStyle);
-        source.Button(IDCANCEL, "", 200, 145, 60, 18);
+        DialogTemplate source(10, 10, 300, 230, WS_POPUP, _T(""), extendedStyle);
+        source.Button(IDCANCEL, _T(""), 200, 145, 60, 18);
         CBaseDialog dialog(1, nullptr, false, false, true, false, false, false, false, false);
         dialog.CreateIndirect(const_cast<DLGTEMPLATE*>(source.Get()), nullptr);
         dialog.SetWindowPos(&CWnd::wndTopMost, 30, 30, 0, 0, SWP_NOSIZE | SWP_SHOWWINDOW);
@@ -192,9 +193,9 @@ TEST_CASE("on a right-to-left page the strip stands at the right and is not mirr
 TEST_CASE("a page prints as it shows: its background and its strip")
 {
     g_strImageDir = ProgramFolder().c_str();
-    const DialogTemplate source(10, 10, 300, 230, WS_POPUP, "");
+    const DialogTemplate source(10, 10, 300, 230, WS_POPUP, _T(""));
     DialogTemplate page = source;
-    page.Button(IDCANCEL, "", 200, 145, 60, 18);
+    page.Button(IDCANCEL, _T(""), 200, 145, 60, 18);
     CBaseDialog dialog(1, nullptr, false, false, true, false, false, false, false, false);
     dialog.m_bSolidFill = TRUE;
     dialog.m_crFill = RGB(7, 99, 250);
@@ -211,6 +212,7 @@ TEST_CASE("a page prints as it shows: its background and its strip")
     dialog.DestroyWindow();
 }
 
+#ifndef UNICODE
 TEST_CASE("an image folder whose last character ends in the byte of a backslash gets its backslash")
 {
     class Page : public CBaseDialog
@@ -221,18 +223,19 @@ TEST_CASE("an image folder whose last character ends in the byte of a backslash 
     };
     const int codePage = _getmbcp();
     _setmbcp(932);
-    const CString folder("C:\\\x95\x5C"); // One character of two bytes.
+    const CString folder(_T("C:\\\x95\x5C")); // One character of two bytes.
     g_strImageDir = folder;
     DialogTemplate source = MakePageTemplate(false, false);
     Page page;
     page.CreateIndirect(const_cast<DLGTEMPLATE*>(source.Get()), nullptr);
-    CHECK(page.m_strImageDir == folder + "\\");
+    CHECK(page.m_strImageDir == folder + _T("\\"));
     page.DestroyWindow();
 
-    g_strImageDir = folder + "\\";
+    g_strImageDir = folder + _T("\\");
     page.CreateIndirect(const_cast<DLGTEMPLATE*>(source.Get()), nullptr);
-    CHECK(page.m_strImageDir == folder + "\\");
+    CHECK(page.m_strImageDir == folder + _T("\\"));
     page.DestroyWindow();
     _setmbcp(codePage);
     g_strImageDir = ProgramFolder().c_str();
 }
+#endif

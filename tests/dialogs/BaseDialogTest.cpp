@@ -2,6 +2,7 @@
 #include "shell/PictureLoader.h"
 
 #include "tests/ForeignFolder.h"
+#include "tests/LibraryFiles.h"
 #include "tests/dialogs/DialogChecks.h"
 #include "tests/dialogs/PageTemplate.h"
 
@@ -14,6 +15,7 @@
 #include "testing/Page.h"
 #include "testing/Picture.h"
 #include "testing/Pump.h"
+#include "testing/Text.h"
 
 #include <doctest/doctest.h>
 
@@ -108,8 +110,8 @@ HWND WINAPI NotePicture(DWORD exStyle, LPCSTR className, LPCSTR text, DWORD styl
 struct ExpectedButton
 {
     bool bound = false;
-    std::string caption;
-    std::string icon;
+    TString caption;
+    TString icon;
     bool shaded = false;
 };
 
@@ -119,13 +121,13 @@ ExpectedButton ExpectCancel(const Flags& flags)
     ExpectedButton expected;
     expected.bound = true;
     if (flags.ok) {
-        expected.caption = "OK";
-        expected.icon = "Ok";
+        expected.caption = _T("OK");
+        expected.icon = _T("Ok");
     }
     if (flags.cancel) {
-        expected.caption = flags.closeCaption ? "Close" : "Cancel";
+        expected.caption = flags.closeCaption ? _T("Close") : _T("Cancel");
         if (flags.cancelIcon)
-            expected.icon = "Close";
+            expected.icon = _T("Close");
     }
     expected.shaded = flags.ok || flags.cancel;
     return expected;
@@ -138,8 +140,9 @@ ExpectedButton ExpectOk(const Flags& flags)
         return expected;
     expected.bound = true;
     expected.shaded = true;
-    expected.caption = flags.next ? flags.proceedCaption ? "Proceed" : "Next" : "Confirm";
-    expected.icon = flags.next ? "Next" : "Confirm";
+    expected.caption =
+        flags.next ? flags.proceedCaption ? _T("Proceed") : _T("Next") : _T("Confirm");
+    expected.icon = flags.next ? _T("Next") : _T("Confirm");
     return expected;
 }
 
@@ -148,16 +151,16 @@ ExpectedButton ExpectBack(const Flags& flags)
     ExpectedButton expected;
     if (!flags.back)
         return expected;
-    return {true, "Back", "Back", true};
+    return {true, _T("Back"), _T("Back"), true};
 }
 
 /// Compares an icon with its file by its pixels, drawn as the file's own would be.
-bool ShowsIcon(const CxShadeButton& button, const std::string& name)
+bool ShowsIcon(const CxShadeButton& button, const TString& name)
 {
     const HBITMAP shown = ButtonProbe::Picture(button);
     if (name.empty() || shown == nullptr)
         return name.empty() && shown == nullptr;
-    const HBITMAP file = LoadPictureBitmap(ImagePath((name + ".gif").c_str()).c_str());
+    const HBITMAP file = LoadPictureBitmap(ImagePath((name + _T(".gif")).c_str()).c_str());
     if (file == nullptr)
         return false;
     const bool same = Picture::OfBitmap(shown) == Picture::OfBitmap(file);
@@ -182,14 +185,14 @@ bool IsTinted(const CxShadeButton& button)
 
 /// The button is as the rules ask; `templateCaption` is what it has without them.
 void CheckButton(const CxShadeButton& button, const ExpectedButton& expected,
-                 const char* templateCaption)
+                 LPCTSTR templateCaption)
 {
     CHECK((button.m_hWnd != nullptr) == expected.bound);
     if (button.m_hWnd == nullptr)
         return;
     CString caption;
     button.GetWindowText(caption);
-    CHECK(std::string(caption) == (expected.caption.empty() ? templateCaption : expected.caption));
+    CHECK(TString(caption) == (expected.caption.empty() ? templateCaption : expected.caption));
     CHECK(ShowsIcon(button, expected.icon));
     CHECK(IsTinted(button) == expected.shaded);
 }
@@ -223,7 +226,7 @@ HRESULT WINAPI NoteAttempt(LPOLESTR path, LPUNKNOWN caller, DWORD reserved, OLE_
 /// The strip as the resource has it.
 Picture LoadStrip()
 {
-    const HBITMAP strip = ::LoadBitmap(FindModule("umbra.dll"), MAKEINTRESOURCE(IDB_STRIP));
+    const HBITMAP strip = ::LoadBitmap(FindModule(UMBRA_DLL), MAKEINTRESOURCE(IDB_STRIP));
     const Picture picture = Picture::OfBitmap(strip);
     ::DeleteObject(strip);
     return picture;
@@ -268,9 +271,9 @@ TEST_CASE("all 256 combinations of flags bind, caption, shade and decorate as th
         const Page page(dialog, MakePageTemplate(flags.confirm || flags.next, flags.back));
         REQUIRE(page.IsOpen());
         // Kept: "OK" is a caption of the IDCANCEL button.
-        CheckButton(dialog.m_btnCancel, ExpectCancel(flags), "template cancel");
-        CheckButton(dialog.m_btnOk, ExpectOk(flags), "template ok");
-        CheckButton(dialog.m_btnBack, ExpectBack(flags), "template back");
+        CheckButton(dialog.m_btnCancel, ExpectCancel(flags), _T("template cancel"));
+        CheckButton(dialog.m_btnOk, ExpectOk(flags), _T("template ok"));
+        CheckButton(dialog.m_btnBack, ExpectBack(flags), _T("template back"));
     }
 }
 
@@ -320,8 +323,8 @@ TEST_CASE("a page whose exchange fails is set up all the same, and answers TRUE"
     const DialogTemplate source = MakePageTemplate();
     dialog.CreateIndirect(source.Get());
     CHECK(dialog.m_answer == TRUE);
-    CHECK(std::string(dialog.m_strImageDir) == ProgramFolder() + "\\");
-    CHECK(dialog.m_caption == "Cancel");
+    CHECK(TString(dialog.m_strImageDir) == ProgramFolder() + _T("\\"));
+    CHECK(dialog.m_caption == _T("Cancel"));
     CHECK(dialog.m_isTinted);
     if (dialog.m_hWnd != nullptr)
         dialog.DestroyWindow();
@@ -336,26 +339,26 @@ TEST_CASE("with all flags off the template's captions stay, without shade or ico
     CHECK(dialog.m_btnCancel.m_hWnd != nullptr);
     CHECK(dialog.m_btnOk.m_hWnd == nullptr);
     CHECK(dialog.m_btnBack.m_hWnd == nullptr);
-    CHECK(page.Text(IDCANCEL) == "template cancel");
-    CHECK(page.Text(IDOK) == "template ok");
+    CHECK(page.Text(IDCANCEL) == _T("template cancel"));
+    CHECK(page.Text(IDOK) == _T("template ok"));
     CHECK_FALSE(ButtonProbe::Face(dialog.m_btnCancel).IsValid());
 }
 
 TEST_CASE("the image folder ends with one backslash, given or not")
 {
-    for (const char* folder : {"C:\\app", "C:\\app\\"}) {
+    for (LPCTSTR folder : {_T("C:\\app"), _T("C:\\app\\")}) {
         const HostSettings settings(folder);
         TestPage dialog{Flags()};
         const Page page(dialog, MakePageTemplate());
         REQUIRE(page.IsOpen());
-        CHECK(dialog.m_strImageDir == "C:\\app\\");
+        CHECK(dialog.m_strImageDir == _T("C:\\app\\"));
         CHECK(g_strImageDir == folder);
     }
 }
 
 TEST_CASE("missing images leave the buttons without icons and the picture empty")
 {
-    const HostSettings settings("C:\\no such folder");
+    const HostSettings settings(_T("C:\\no such folder"));
     Flags flags;
     flags.confirm = flags.cancel = flags.back = flags.cancelIcon = true;
     TestPage dialog(flags);
@@ -438,14 +441,14 @@ TEST_CASE("a picture is loaded with the image folder as the working directory")
     TestPage dialog{Flags()};
     const Page page(dialog, MakePageTemplate());
     REQUIRE(page.IsOpen());
-    REQUIRE(std::string(WorkingDirectory()) != ProgramFolder());
-    const ImportHook loads(FindModule("umbra.dll"), "oleaut32", "OleLoadPicturePath", NoteAttempt);
+    REQUIRE(TString(WorkingDirectory()) != ProgramFolder());
+    const ImportHook loads(FindModule(UMBRA_DLL), "oleaut32", "OleLoadPicturePath", NoteAttempt);
     REQUIRE(loads.IsInstalled());
     attempts = {};
     dialog.ShowPicture(IDS_IMAGE_INFO);
     CHECK(attempts.count == 1);
-    CHECK(std::string(attempts.folder) == ProgramFolder());
-    CHECK(std::string(WorkingDirectory()) != ProgramFolder());
+    CHECK(TString(attempts.folder) == ProgramFolder());
+    CHECK(TString(WorkingDirectory()) != ProgramFolder());
 }
 
 TEST_CASE("the page shows through the black of a picture, the first and each further one")
@@ -479,9 +482,9 @@ TEST_CASE("pictures of buttons and page are found in an image folder beyond ASCI
     TestPage dialog(flags);
     const Page page(dialog, MakePageTemplate());
     REQUIRE(page.IsOpen());
-    CHECK(ShowsIcon(dialog.m_btnOk, "Confirm"));
-    CHECK(ShowsIcon(dialog.m_btnCancel, "Close"));
-    CHECK(ShowsIcon(dialog.m_btnBack, "Back"));
+    CHECK(ShowsIcon(dialog.m_btnOk, _T("Confirm")));
+    CHECK(ShowsIcon(dialog.m_btnCancel, _T("Close")));
+    CHECK(ShowsIcon(dialog.m_btnBack, _T("Back")));
     dialog.ShowPicture(IDS_IMAGE_INFO);
     CHECK(dialog.m_picture.m_bHasPicture);
 }
@@ -549,7 +552,7 @@ TEST_CASE("the strip is loaded anew at every paint and leaves nothing behind")
     Page page(dialog, MakePageTemplate());
     REQUIRE(page.IsOpen());
     page.Show();
-    const CountCalls loads(FindModule("umbra-mfc.dll"), "user32", "LoadBitmapA");
+    const CountCalls loads(FindModule(UMBRA_MFC_DLL), "user32", TEXT_FUNCTION("LoadBitmap"));
     REQUIRE(loads.IsInstalled());
     CheckNothingStays(
         [&dialog] {

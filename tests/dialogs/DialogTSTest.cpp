@@ -73,7 +73,7 @@ protected:
 /// A template without controls or frame, in dialog units.
 DialogTemplate PlainTemplate(int width = 150, int height = 100)
 {
-    return DialogTemplate(20, 20, width, height, WS_POPUP | WS_VISIBLE, "A caption");
+    return DialogTemplate(20, 20, width, height, WS_POPUP | WS_VISIBLE, _T("A caption"));
 }
 
 /// A bitmap filled with a colour, the left half with another one.
@@ -256,7 +256,7 @@ TEST_CASE("the caption line is white, one line, centred in its fixed box")
     for (const int width : {100, 300}) {
         const Page page(dialog, PlainTemplate(width, 60));
         REQUIRE(page.IsOpen());
-        dialog.SetWindowText("HHHH");
+        dialog.SetWindowText(_T("HHHH"));
         const Canvas canvas(600, 400, black);
         CHECK(Erase(dialog, canvas) == TRUE);
         const Picture shown = canvas.ToPicture();
@@ -553,7 +553,7 @@ TEST_CASE("the requested rectangle goes through dialog units and back")
 {
     // A window of the dialog class, made with numbers of our own.
     TestDialog dialog;
-    const BOOL created = dialog.CWnd::CreateEx(0, "#32770", "", WS_POPUP, 103, 59, 211, 97,
+    const BOOL created = dialog.CWnd::CreateEx(0, _T("#32770"), _T(""), WS_POPUP, 103, 59, 211, 97,
                                                static_cast<HWND>(nullptr), nullptr);
     REQUIRE(created);
     int x, y, cx, cy;

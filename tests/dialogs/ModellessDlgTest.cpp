@@ -81,7 +81,7 @@ public:
 class Unshown
 {
 public:
-    explicit Unshown(const char* folder)
+    explicit Unshown(LPCTSTR folder)
     {
         g_strImageDir = folder;
         REQUIRE(m_dialog.Create(CModellessDlg::IDD, nullptr));
@@ -125,7 +125,7 @@ public:
 
     Listener()
     {
-        CreateEx(0, AfxRegisterWndClass(0), "", WS_POPUP, 0, 0, 10, 10, nullptr, nullptr);
+        CreateEx(0, AfxRegisterWndClass(0), _T(""), WS_POPUP, 0, 0, 10, 10, nullptr, nullptr);
     }
     ~Listener() override { DestroyWindow(); }
 
@@ -159,7 +159,7 @@ TEST_CASE("the modeless page has one button, disabled, captioned Cancel")
     CHECK(dialog->m_btnBack.m_hWnd == nullptr);
     CString caption;
     dialog->m_btnCancel.GetWindowText(caption);
-    CHECK(caption == "Cancel");
+    CHECK(caption == _T("Cancel"));
     CHECK_FALSE(dialog->m_btnCancel.IsWindowEnabled());
 }
 
@@ -195,7 +195,7 @@ TEST_CASE("the first pump has painted the window before the host goes on")
 
 TEST_CASE("missing images leave the labels without pictures")
 {
-    const Unshown dialog("C:\\no such folder");
+    const Unshown dialog(_T("C:\\no such folder"));
     CHECK_FALSE(LabelProbe::HasPicture(dialog->m_icon));
     CHECK_FALSE(dialog->m_picture.m_bHasPicture);
 }
@@ -289,7 +289,7 @@ TEST_CASE("a typed key reaches the focused control through translation and dispa
     dialog->PumpMessages();
     CString text;
     edit.GetWindowText(text);
-    CHECK(text == "x");
+    CHECK(text == _T("x"));
 }
 
 TEST_CASE("a pump takes WM_QUIT like any other message and does not end the program")
@@ -347,7 +347,7 @@ TEST_CASE("a handler that runs inside a pump may end the window")
         CModellessDlg* m_victim = nullptr;
         Ender()
         {
-            CreateEx(0, AfxRegisterWndClass(0), "", WS_POPUP, 0, 0, 10, 10, nullptr, nullptr);
+            CreateEx(0, AfxRegisterWndClass(0), _T(""), WS_POPUP, 0, 0, 10, 10, nullptr, nullptr);
         }
         ~Ender() override { DestroyWindow(); }
 

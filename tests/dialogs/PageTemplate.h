@@ -13,20 +13,20 @@
 inline umbra::testing::DialogTemplate MakePageTemplate(bool ok = true, bool back = true,
                                                        bool cancel = true)
 {
-    umbra::testing::DialogTemplate page(10, 10, 440, 170, WS_POPUP | WS_VISIBLE, "A page");
+    umbra::testing::DialogTemplate page(10, 10, 440, 170, WS_POPUP | WS_VISIBLE, _T("A page"));
     if (back)
-        page.Button(IDC_BACK, "template back", 200, 145, 60, 18);
+        page.Button(IDC_BACK, _T("template back"), 200, 145, 60, 18);
     if (ok)
-        page.Button(IDOK, "template ok", 270, 145, 60, 18);
+        page.Button(IDOK, _T("template ok"), 270, 145, 60, 18);
     if (cancel)
-        page.Button(IDCANCEL, "template cancel", 340, 145, 60, 18);
+        page.Button(IDCANCEL, _T("template cancel"), 340, 145, 60, 18);
     return page;
 }
 
 /// The process's working directory.
 inline CString WorkingDirectory()
 {
-    char path[1024] = "";
-    ::GetCurrentDirectory(sizeof(path), path);
+    TCHAR path[1024] = _T("");
+    ::GetCurrentDirectory(_countof(path), path);
     return path;
 }

@@ -1,5 +1,5 @@
-// Opening targets with a registry that holds anything. Built from shell/ShellOpen.cpp and
-// CommandLine.cpp.
+// Opening targets with a registry that holds anything. Built from shell/ShellOpen.cpp,
+// CommandLine.cpp and ProgramStart.cpp.
 #include "tests/fuzz/Input.h"
 
 #include "shell/CommandLine.h"

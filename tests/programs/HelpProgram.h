@@ -3,6 +3,8 @@
 
 #include "tests/Folders.h"
 
+#include "testing/Text.h"
+
 #include <windows.h>
 
 #include <string>
@@ -11,21 +13,21 @@ class HelpProgram
 {
 public:
     HelpProgram()
-        : m_installed(::CopyFileA(ProgramPath("test-helpprogram.exe").c_str(), Path().c_str(),
-                                  FALSE) != FALSE)
+        : m_installed(::CopyFile(ProgramPath(_T("test-helpprogram.exe")).c_str(), Path().c_str(),
+                                 FALSE) != FALSE)
     {
     }
-    ~HelpProgram() { ::DeleteFileA(Path().c_str()); }
+    ~HelpProgram() { ::DeleteFile(Path().c_str()); }
     HelpProgram(const HelpProgram&) = delete;
     HelpProgram& operator=(const HelpProgram&) = delete;
 
     bool IsInstalled() const { return m_installed; }
 
-    static std::string Path()
+    static umbra::testing::TString Path()
     {
-        char folder[MAX_PATH] = "";
-        ::GetWindowsDirectoryA(folder, MAX_PATH);
-        return std::string(folder) + "\\winhlp32.exe";
+        TCHAR folder[MAX_PATH] = _T("");
+        ::GetWindowsDirectory(folder, MAX_PATH);
+        return umbra::testing::TString(folder) + _T("\\winhlp32.exe");
     }
 
 private:

@@ -2,8 +2,10 @@
 #include "resources/resource.h"
 
 #include "tests/Folders.h"
+#include "tests/LibraryFiles.h"
 
 #include "testing/ImportHook.h"
+#include "testing/Text.h"
 
 #include <doctest/doctest.h>
 
@@ -19,10 +21,10 @@ namespace {
 std::vector<HMODULE> asked;
 
 /// Looks for the resource as it was asked for, and notes where.
-HRSRC WINAPI NoteModule(HMODULE module, LPCSTR name, LPCSTR type)
+HRSRC WINAPI NoteModule(HMODULE module, LPCTSTR name, LPCTSTR type)
 {
     asked.push_back(module);
-    return ::FindResourceA(module, name, type);
+    return ::FindResource(module, name, type);
 }
 
 /// Which module the class library finds the toolkit's bitmap in.
@@ -44,18 +46,19 @@ long long CountSearches(HMODULE module)
 
 TEST_CASE("the toolkit's resources are searched once while it is loaded, and not when it is gone")
 {
-    const ImportHook searches(FindModule("umbra-mfc.dll"), "kernel32", "FindResourceA", NoteModule);
+    const ImportHook searches(FindModule(UMBRA_MFC_DLL), "kernel32", TEXT_FUNCTION("FindResource"),
+                              NoteModule);
     REQUIRE(searches.IsInstalled());
-    REQUIRE(FindModule("umbra.dll") == nullptr);
+    REQUIRE(FindModule(UMBRA_DLL) == nullptr);
     CHECK(FindStrip() == AfxGetResourceHandle());
     for (int round = 0; round < 3; ++round) {
         CAPTURE(round);
-        const HMODULE toolkit = ::LoadLibraryA(ProgramPath("umbra.dll").c_str());
+        const HMODULE toolkit = ::LoadLibrary(ProgramPath(_T(UMBRA_DLL)).c_str());
         REQUIRE(toolkit != nullptr);
         CHECK(FindStrip() == toolkit);
         CHECK(CountSearches(toolkit) == 1);
         ::FreeLibrary(toolkit);
-        const bool isGone = FindModule("umbra.dll") == nullptr;
+        const bool isGone = FindModule(UMBRA_DLL) == nullptr;
         CHECK(CountSearches(toolkit) == (isGone ? 0 : 1));
         CHECK(FindStrip() == (isGone ? AfxGetResourceHandle() : toolkit));
     }

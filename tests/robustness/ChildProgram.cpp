@@ -1,7 +1,5 @@
 #include "tests/robustness/ChildProgram.h"
 
-#include "tests/Folders.h"
-
 #include <fstream>
 #include <sstream>
 #include <stdlib.h>
@@ -25,7 +23,9 @@ std::string OwnPath()
 std::string TemporaryFile()
 {
     const std::string process = std::to_string(::GetCurrentProcessId());
-    return TemporaryPath(("umbra-child-" + process + ".txt").c_str());
+    char folder[MAX_PATH] = "";
+    ::GetTempPathA(MAX_PATH, folder);
+    return folder + ("umbra-child-" + process + ".txt");
 }
 
 /// The contents of a file.

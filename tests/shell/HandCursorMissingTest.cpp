@@ -1,10 +1,12 @@
 #include "shell/HandCursor.h"
 
+#include "tests/LibraryFiles.h"
 #include "tests/programs/HelpProgram.h"
 #include "tests/shell/ProcessOfItsOwn.h"
 
 #include "testing/CallFault.h"
 #include "testing/ImportHook.h"
+#include "testing/Text.h"
 
 #include <doctest/doctest.h>
 
@@ -13,8 +15,8 @@ using namespace umbra::testing;
 TEST_CASE("part: a process that looks for the hand where there is no help program" *
           doctest::skip())
 {
-    REQUIRE(::GetFileAttributesA(HelpProgram::Path().c_str()) == INVALID_FILE_ATTRIBUTES);
-    const CountCalls libraries(FindModule("umbra.dll"), "kernel32", "LoadLibraryA");
+    REQUIRE(::GetFileAttributes(HelpProgram::Path().c_str()) == INVALID_FILE_ATTRIBUTES);
+    const CountCalls libraries(FindModule(UMBRA_DLL), "kernel32", TEXT_FUNCTION("LoadLibrary"));
     REQUIRE(libraries.IsInstalled());
     for (int i = 0; i < 100; ++i)
         CHECK(LoadHandCursor() == nullptr);

@@ -1,10 +1,12 @@
 #include "shell/HandCursor.h"
 
+#include "tests/LibraryFiles.h"
 #include "tests/programs/HelpProgram.h"
 #include "tests/shell/ProcessOfItsOwn.h"
 
 #include "testing/CallFault.h"
 #include "testing/ImportHook.h"
+#include "testing/Text.h"
 
 #include <doctest/doctest.h>
 
@@ -17,8 +19,8 @@ TEST_CASE("part: a process that borrows the hand from the help program" * doctes
 {
     const HelpProgram help;
     REQUIRE(help.IsInstalled());
-    const HMODULE umbra = FindModule("umbra.dll");
-    const CountCalls libraries(umbra, "kernel32", "LoadLibraryA");
+    const HMODULE umbra = FindModule(UMBRA_DLL);
+    const CountCalls libraries(umbra, "kernel32", TEXT_FUNCTION("LoadLibrary"));
     const CountCalls copies(umbra, "user32", "CopyIcon");
     REQUIRE(libraries.IsInstalled());
     REQUIRE(copies.IsInstalled());
@@ -37,7 +39,7 @@ TEST_CASE("part: a process that borrows the hand from the help program" * doctes
     CHECK(libraries.Calls() == loaded);
 
     // A copy: the help program's module is not needed any more.
-    CHECK(::GetModuleHandleA(HelpProgram::Path().c_str()) == nullptr);
+    CHECK(::GetModuleHandle(HelpProgram::Path().c_str()) == nullptr);
     ICONINFO info;
     REQUIRE(::GetIconInfo(hand, &info));
     CHECK_FALSE(info.fIcon);

@@ -3,11 +3,13 @@
 #include "tests/BitmapFile.h"
 #include "tests/Folders.h"
 #include "tests/ForeignFolder.h"
+#include "tests/LibraryFiles.h"
 
 #include "testing/CallFault.h"
 #include "testing/GdiObjects.h"
 #include "testing/ImportHook.h"
 #include "testing/Picture.h"
+#include "testing/Text.h"
 
 #include <doctest/doctest.h>
 
@@ -23,10 +25,10 @@ using namespace umbra::testing;
 namespace {
 
 /// The bytes of a file; none when it cannot be read.
-std::vector<BYTE> ReadFile(const std::string& path)
+std::vector<BYTE> ReadFile(const TString& path)
 {
     std::vector<BYTE> bytes;
-    if (FILE* file = fopen(path.c_str(), "rb")) {
+    if (FILE* file = _tfopen(path.c_str(), _T("rb"))) {
         BYTE buffer[4096];
         size_t count;
         while ((count = fread(buffer, 1, sizeof(buffer), file)) > 0)
@@ -52,7 +54,7 @@ CSize SizeOf(HBITMAP bitmap)
 }
 
 /// Loads and deletes; tells whether a bitmap came, and that it was a good one.
-bool Loads(const std::string& path)
+bool Loads(const TString& path)
 {
     const HBITMAP bitmap = LoadPictureBitmap(path.c_str());
     if (bitmap == nullptr)
@@ -65,20 +67,20 @@ bool Loads(const std::string& path)
 /// The working directory for the length of a scope.
 struct InFolder
 {
-    explicit InFolder(const std::string& folder)
+    explicit InFolder(const TString& folder)
     {
-        ::GetCurrentDirectoryA(MAX_PATH, former);
-        REQUIRE(::SetCurrentDirectoryA(folder.c_str()));
+        ::GetCurrentDirectory(MAX_PATH, former);
+        REQUIRE(::SetCurrentDirectory(folder.c_str()));
     }
-    ~InFolder() { ::SetCurrentDirectoryA(former); }
-    char former[MAX_PATH];
+    ~InFolder() { ::SetCurrentDirectory(former); }
+    TCHAR former[MAX_PATH];
 };
 
 } // namespace
 
 TEST_CASE("a GIF by its absolute path comes as a bitmap of its size, owned by the caller")
 {
-    const HBITMAP bitmap = LoadPictureBitmap(ImagePath("Next.gif").c_str());
+    const HBITMAP bitmap = LoadPictureBitmap(ImagePath(_T("Next.gif")).c_str());
     REQUIRE(bitmap != nullptr);
     CHECK(SizeOf(bitmap) == CSize(19, 19));
     CHECK(::DeleteObject(bitmap));
@@ -86,19 +88,19 @@ TEST_CASE("a GIF by its absolute path comes as a bitmap of its size, owned by th
 
 TEST_CASE("an absolute path that loads does not ask for the working directory")
 {
-    const CountCalls loads(FindModule("umbra.dll"), "oleaut32", "OleLoadPicturePath");
+    const CountCalls loads(FindModule(UMBRA_DLL), "oleaut32", "OleLoadPicturePath");
     REQUIRE(loads.IsInstalled());
-    CHECK(Loads(ImagePath("Next.gif")));
+    CHECK(Loads(ImagePath(_T("Next.gif"))));
     CHECK(loads.Calls() == 1);
 }
 
 TEST_CASE("a relative path is tried as it is and then below the working directory")
 {
     const InFolder folder(ProgramFolder());
-    CHECK(Loads("images\\Next.gif"));
-    CHECK(Loads("\\images\\InfoIcon1.gif"));
-    const CountCalls loads(FindModule("umbra.dll"), "oleaut32", "OleLoadPicturePath");
-    CHECK_FALSE(Loads("images\\no such file.gif"));
+    CHECK(Loads(_T("images\\Next.gif")));
+    CHECK(Loads(_T("\\images\\InfoIcon1.gif")));
+    const CountCalls loads(FindModule(UMBRA_DLL), "oleaut32", "OleLoadPicturePath");
+    CHECK_FALSE(Loads(_T("images\\no such file.gif")));
     CHECK(loads.Calls() == 2);
 }
 
@@ -106,69 +108,69 @@ TEST_CASE("a joined path longer than 255 characters gives no picture, and no sec
 {
     const InFolder folder(ProgramFolder());
     const size_t room = 255 - ProgramFolder().size() - 2;
-    const CountCalls loads(FindModule("umbra.dll"), "oleaut32", "OleLoadPicturePath");
-    CHECK_FALSE(Loads(std::string(room, 'x')));
+    const CountCalls loads(FindModule(UMBRA_DLL), "oleaut32", "OleLoadPicturePath");
+    CHECK_FALSE(Loads(TString(room, 'x')));
     CHECK(loads.Calls() == 2);
-    CHECK_FALSE(Loads(std::string(room + 1, 'x')));
+    CHECK_FALSE(Loads(TString(room + 1, 'x')));
     CHECK(loads.Calls() == 3);
 }
 
 TEST_CASE("no path, an empty one, a huge one, a folder and a missing file give no picture")
 {
     CHECK(LoadPictureBitmap(nullptr) == nullptr);
-    CHECK_FALSE(Loads(""));
-    CHECK_FALSE(Loads(std::string(10000, 'p')));
+    CHECK_FALSE(Loads(_T("")));
+    CHECK_FALSE(Loads(TString(10000, 'p')));
     CHECK_FALSE(Loads(ProgramFolder()));
-    CHECK_FALSE(Loads(ProgramFolder() + "\\"));
-    CHECK_FALSE(Loads(ImagePath("Missing.gif")));
+    CHECK_FALSE(Loads(ProgramFolder() + _T("\\")));
+    CHECK_FALSE(Loads(ImagePath(_T("Missing.gif"))));
 }
 
 TEST_CASE("a null path does not even try")
 {
-    const CountCalls loads(FindModule("umbra.dll"), "oleaut32", "OleLoadPicturePath");
+    const CountCalls loads(FindModule(UMBRA_DLL), "oleaut32", "OleLoadPicturePath");
     CHECK(LoadPictureBitmap(nullptr) == nullptr);
     CHECK(loads.Calls() == 0);
 }
 
 TEST_CASE("broken files give no picture or a good one, and never more")
 {
-    const std::vector<BYTE> whole = ReadFile(ImagePath("Next.gif"));
+    const std::vector<BYTE> whole = ReadFile(ImagePath(_T("Next.gif")));
     REQUIRE(whole.size() > 50);
-    const std::string path = TemporaryPath("umbra-broken.gif");
+    const TString path = TemporaryPath(_T("umbra-broken.gif"));
     for (size_t length = 0; length < whole.size(); length += 7) {
         REQUIRE(WriteBytes(path, std::vector<BYTE>(whole.begin(), whole.begin() + length)));
         Loads(path); // Checks what comes.
     }
-    const char text[] = "This is no picture, whatever its name says.";
+    const TCHAR text[] = _T("This is no picture, whatever its name says.");
     REQUIRE(WriteBytes(path, std::vector<BYTE>(text, text + sizeof(text))));
     CHECK_FALSE(Loads(path));
     REQUIRE(WriteBytes(path, {}));
     CHECK_FALSE(Loads(path));
-    ::DeleteFileA(path.c_str());
+    ::DeleteFile(path.c_str());
 }
 
 TEST_CASE("a picture of one pixel loads")
 {
-    const std::string path = TemporaryPath("umbra-one.bmp");
+    const TString path = TemporaryPath(_T("umbra-one.bmp"));
     REQUIRE(WriteBytes(path, MakeBmp(1, 1, RGB(10, 20, 30), 1)));
     const HBITMAP bitmap = LoadPictureBitmap(path.c_str());
     REQUIRE(bitmap != nullptr);
     CHECK(SizeOf(bitmap) == CSize(1, 1));
     CHECK(Picture::OfBitmap(bitmap).At(0, 0) == RGB(10, 20, 30));
     ::DeleteObject(bitmap);
-    ::DeleteFileA(path.c_str());
+    ::DeleteFile(path.c_str());
 }
 
 TEST_CASE("a picture of 10,000 by 10,000 pixels gives no picture or a good one")
 {
-    const std::string path = TemporaryPath("umbra-huge.bmp");
+    const TString path = TemporaryPath(_T("umbra-huge.bmp"));
     REQUIRE(WriteBytes(path, MakeBmp(10000, 10000, RGB(10, 20, 30), 2)));
     const HBITMAP bitmap = LoadPictureBitmap(path.c_str());
     if (bitmap != nullptr) {
         CHECK(SizeOf(bitmap) == CSize(10000, 10000));
         ::DeleteObject(bitmap);
     }
-    ::DeleteFileA(path.c_str());
+    ::DeleteFile(path.c_str());
 }
 
 TEST_CASE("an icon gives no picture")
@@ -187,22 +189,22 @@ TEST_CASE("an icon gives no picture")
     memcpy(icon.data(), directory, sizeof(directory));
     memcpy(icon.data() + sizeof(directory), &info, sizeof(info));
     memcpy(icon.data() + sizeof(directory) + sizeof(info), palette, sizeof(palette));
-    const std::string path = TemporaryPath("umbra-icon.ico");
+    const TString path = TemporaryPath(_T("umbra-icon.ico"));
     REQUIRE(WriteBytes(path, icon));
     CHECK_FALSE(Loads(path));
-    ::DeleteFileA(path.c_str());
+    ::DeleteFile(path.c_str());
 }
 
 TEST_CASE("the bitmap outlives the picture object and is no copy in name only")
 {
-    const std::string path = TemporaryPath("umbra-copy.bmp");
+    const TString path = TemporaryPath(_T("umbra-copy.bmp"));
     REQUIRE(WriteBytes(path, MakeBmp(40, 30, RGB(200, 100, 50), 30)));
     std::vector<HBITMAP> bitmaps;
     for (int i = 0; i < 8; ++i) {
         bitmaps.push_back(LoadPictureBitmap(path.c_str()));
         REQUIRE(bitmaps.back() != nullptr);
     }
-    ::DeleteFileA(path.c_str());
+    ::DeleteFile(path.c_str());
     for (const HBITMAP bitmap : bitmaps) {
         const Picture picture = Picture::OfBitmap(bitmap);
         CHECK(picture.CountOf(RGB(200, 100, 50)) == 40 * 30);
@@ -213,23 +215,23 @@ TEST_CASE("the bitmap outlives the picture object and is no copy in name only")
 
 TEST_CASE("no road leaves a graphics object behind")
 {
-    Loads(ImagePath("Next.gif"));
+    Loads(ImagePath(_T("Next.gif")));
     const BalancedGdi objects;
     for (int i = 0; i < 50; ++i) {
-        Loads(ImagePath("Next.gif"));
-        Loads(ImagePath("Missing.gif"));
+        Loads(ImagePath(_T("Next.gif")));
+        Loads(ImagePath(_T("Missing.gif")));
     }
     CHECK_MESSAGE(objects.IsBalanced(), objects.Describe());
 }
 
 TEST_CASE("a failed copy gives no picture and leaves nothing behind")
 {
-    Loads(ImagePath("Next.gif"));
+    Loads(ImagePath(_T("Next.gif")));
     const BalancedGdi objects;
     {
-        const FailAlways copy(FindModule("umbra.dll"), "user32", "CopyImage");
+        const FailAlways copy(FindModule(UMBRA_DLL), "user32", "CopyImage");
         REQUIRE(copy.IsInstalled());
-        CHECK_FALSE(Loads(ImagePath("Next.gif")));
+        CHECK_FALSE(Loads(ImagePath(_T("Next.gif"))));
         CHECK(copy.Failed() > 0);
     }
     CHECK_MESSAGE(objects.IsBalanced(), objects.Describe());
@@ -237,9 +239,9 @@ TEST_CASE("a failed copy gives no picture and leaves nothing behind")
 
 TEST_CASE("a path that cannot be converted gives no picture")
 {
-    const FailAlways conversion(FindModule("umbra.dll"), "kernel32", "MultiByteToWideChar");
+    const FailAlways conversion(FindModule(UMBRA_DLL), "kernel32", "MultiByteToWideChar");
     REQUIRE(conversion.IsInstalled());
-    CHECK_FALSE(Loads(ImagePath("Next.gif")));
+    CHECK_FALSE(Loads(ImagePath(_T("Next.gif"))));
 }
 
 namespace {
@@ -258,11 +260,11 @@ HANDLE WINAPI AnswerSource(HANDLE image, UINT type, int width, int height, UINT 
 
 TEST_CASE("where the copy would be the picture's own bitmap, a real copy is made")
 {
-    const ImportHook copy(FindModule("umbra.dll"), "user32", "CopyImage", AnswerSource);
+    const ImportHook copy(FindModule(UMBRA_DLL), "user32", "CopyImage", AnswerSource);
     REQUIRE(copy.IsInstalled());
     copies = 0;
     const BalancedGdi objects;
-    const HBITMAP bitmap = LoadPictureBitmap(ImagePath("Next.gif").c_str());
+    const HBITMAP bitmap = LoadPictureBitmap(ImagePath(_T("Next.gif")).c_str());
     REQUIRE(bitmap != nullptr);
     CHECK(copies == 2);
     CHECK(SizeOf(bitmap) == CSize(19, 19)); // It lives, although the picture's own is deleted.
@@ -353,7 +355,7 @@ HBITMAP MakeBitmap()
 
 TEST_CASE("the loaded picture is released, and its own bitmap with it")
 {
-    const ImportHook loads(FindModule("umbra.dll"), "oleaut32", "OleLoadPicturePath", OfferPicture);
+    const ImportHook loads(FindModule(UMBRA_DLL), "oleaut32", "OleLoadPicturePath", OfferPicture);
     REQUIRE(loads.IsInstalled());
     // What came back counts, not the code.
     for (const HRESULT code : {S_OK, S_FALSE, E_FAIL}) {
@@ -361,7 +363,7 @@ TEST_CASE("the loaded picture is released, and its own bitmap with it")
         CountingPicture picture(own);
         offered = &picture;
         offeredCode = code;
-        const HBITMAP bitmap = LoadPictureBitmap("any name");
+        const HBITMAP bitmap = LoadPictureBitmap(_T("any name"));
         CHECK(SizeOf(bitmap) == CSize(7, 5));
         CHECK(bitmap != own);
         CHECK(picture.Holders() == 0);
@@ -373,20 +375,20 @@ TEST_CASE("the loaded picture is released, and its own bitmap with it")
 
 TEST_CASE("a picture without a bitmap, or whose bitmap cannot be copied, is released as well")
 {
-    const ImportHook loads(FindModule("umbra.dll"), "oleaut32", "OleLoadPicturePath", OfferPicture);
+    const ImportHook loads(FindModule(UMBRA_DLL), "oleaut32", "OleLoadPicturePath", OfferPicture);
     REQUIRE(loads.IsInstalled());
     offeredCode = S_OK;
     CountingPicture empty(nullptr);
     offered = &empty;
-    CHECK(LoadPictureBitmap("any name") == nullptr);
+    CHECK(LoadPictureBitmap(_T("any name")) == nullptr);
     CHECK(empty.Holders() == 0);
 
     const HBITMAP own = MakeBitmap();
     CountingPicture picture(own);
     offered = &picture;
-    const FailAlways copy(FindModule("umbra.dll"), "user32", "CopyImage");
+    const FailAlways copy(FindModule(UMBRA_DLL), "user32", "CopyImage");
     REQUIRE(copy.IsInstalled());
-    CHECK(LoadPictureBitmap("any name") == nullptr);
+    CHECK(LoadPictureBitmap(_T("any name")) == nullptr);
     CHECK(picture.Holders() == 0);
     CHECK(::GetObjectType(own) != OBJ_BITMAP);
 }
@@ -395,13 +397,13 @@ TEST_CASE("no road leaves a handle of the system behind")
 {
     // A new handle takes the first number that is free.
     const auto firstFree = [] {
-        const HANDLE event = ::CreateEventA(nullptr, TRUE, FALSE, nullptr);
+        const HANDLE event = ::CreateEvent(nullptr, TRUE, FALSE, nullptr);
         ::CloseHandle(event);
         return HandleToULong(event);
     };
     const auto load = [] {
-        Loads(ImagePath("Next.gif"));
-        Loads(ImagePath("Missing.gif"));
+        Loads(ImagePath(_T("Next.gif")));
+        Loads(ImagePath(_T("Missing.gif")));
     };
     for (int i = 0; i < 5; ++i)
         load();
@@ -417,20 +419,21 @@ TEST_CASE("pictures are found under paths beyond ASCII, relative ones too")
 {
     const ForeignFolder foreign;
     REQUIRE(foreign.IsThere());
-    CHECK(Loads(foreign.ImagePath("Next.gif")));
+    CHECK(Loads(foreign.ImagePath(_T("Next.gif"))));
     const InFolder folder(foreign.Path());
-    CHECK(Loads("images\\Next.gif"));
-    CHECK(Loads("\\images\\Next.gif"));
-    CHECK_FALSE(Loads("images\\Missing.gif"));
+    CHECK(Loads(_T("images\\Next.gif")));
+    CHECK(Loads(_T("\\images\\Next.gif")));
+    CHECK_FALSE(Loads(_T("images\\Missing.gif")));
 }
 
+#ifndef UNICODE
 TEST_CASE("a path is read in the code page of the thread, not in that of the system")
 {
     // A Japanese character, and its two bytes in code page 932.
-    const std::string folder = TemporaryPath("");
-    const std::string path = folder + "umbra-\x8A\x47.gif";
+    const TString folder = TemporaryPath(_T(""));
+    const TString path = folder + _T("umbra-\x8A\x47.gif");
     const std::wstring wide = std::wstring(folder.begin(), folder.end()) + L"umbra-\x7D75.gif";
-    const std::string source = ImagePath("Next.gif");
+    const TString source = ImagePath(_T("Next.gif"));
     REQUIRE(::CopyFileW(std::wstring(source.begin(), source.end()).c_str(), wide.c_str(), FALSE));
     const LCID former = ::GetThreadLocale();
     REQUIRE(::SetThreadLocale(MAKELCID(MAKELANGID(LANG_JAPANESE, SUBLANG_DEFAULT), SORT_DEFAULT)));
@@ -440,3 +443,4 @@ TEST_CASE("a path is read in the code page of the thread, not in that of the sys
     ::DeleteObject(bitmap);
     ::DeleteFileW(wide.c_str());
 }
+#endif

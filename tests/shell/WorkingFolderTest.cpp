@@ -4,6 +4,7 @@
 #include "tests/ForeignFolder.h"
 
 #include "testing/CallFault.h"
+#include "testing/Text.h"
 
 #include <doctest/doctest.h>
 
@@ -22,10 +23,10 @@ std::wstring HereWide()
 }
 
 /// The working directory, where it is of an ordinary length.
-std::string Here()
+TString Here()
 {
-    char path[MAX_PATH] = "";
-    ::GetCurrentDirectoryA(sizeof(path), path);
+    TCHAR path[MAX_PATH] = _T("");
+    ::GetCurrentDirectory(_countof(path), path);
     return path;
 }
 
@@ -61,7 +62,7 @@ private:
 
     static std::wstring Root()
     {
-        const std::string root = TemporaryPath("umbra-deep");
+        const TString root = TemporaryPath(_T("umbra-deep"));
         return std::wstring(root.begin(), root.end());
     }
 
@@ -72,14 +73,14 @@ private:
 
 TEST_CASE("the working directory moves for the length of a scope")
 {
-    const std::string before = Here();
+    const TString before = Here();
     REQUIRE(before != ProgramFolder());
     {
         const WorkingFolder folder(ProgramFolder().c_str());
         CHECK(Here() == ProgramFolder());
         {
-            const WorkingFolder inner((ProgramFolder() + "\\images").c_str());
-            CHECK(Here() == ProgramFolder() + "\\images");
+            const WorkingFolder inner((ProgramFolder() + _T("\\images")).c_str());
+            CHECK(Here() == ProgramFolder() + _T("\\images"));
         }
         CHECK(Here() == ProgramFolder());
     }
@@ -88,18 +89,18 @@ TEST_CASE("the working directory moves for the length of a scope")
 
 TEST_CASE("the former directory is gone back to from wherever the process is at the end")
 {
-    const std::string before = Here();
+    const TString before = Here();
     {
         const WorkingFolder folder(ProgramFolder().c_str());
-        ::SetCurrentDirectoryA((ProgramFolder() + "\\images").c_str());
+        ::SetCurrentDirectory((ProgramFolder() + _T("\\images")).c_str());
     }
     CHECK(Here() == before);
 }
 
 TEST_CASE("a folder that is not there moves nothing")
 {
-    const std::string before = Here();
-    for (const char* missing : {"C:\\no such folder", ""}) {
+    const TString before = Here();
+    for (LPCTSTR missing : {_T("C:\\no such folder"), _T("")}) {
         const WorkingFolder folder(missing);
         CHECK(Here() == before);
     }
@@ -110,7 +111,7 @@ TEST_CASE("a folder beyond ASCII is moved to, and back from one")
 {
     const ForeignFolder foreign;
     REQUIRE(foreign.IsThere());
-    const std::string before = Here();
+    const TString before = Here();
     {
         const WorkingFolder folder(foreign.Path().c_str());
         CHECK(Here() == foreign.Path());
@@ -125,7 +126,7 @@ TEST_CASE("a folder beyond ASCII is moved to, and back from one")
 
 TEST_CASE("where the directory is too long to be remembered, the process stays where it is")
 {
-    const std::string before = Here();
+    const TString before = Here();
     {
         const DeepFolder deep;
         if (!deep.Enter()) {
@@ -139,7 +140,7 @@ TEST_CASE("where the directory is too long to be remembered, the process stays w
             CHECK((HereWide() == there));
         }
         CHECK((HereWide() == there));
-        ::SetCurrentDirectoryA(before.c_str());
+        ::SetCurrentDirectory(before.c_str());
     }
     CHECK(Here() == before);
 }

@@ -3,6 +3,9 @@
 #include "testing/CallFault.h"
 #include "testing/GdiObjects.h"
 #include "testing/ImportHook.h"
+#include "testing/Text.h"
+
+#include "tests/LibraryFiles.h"
 
 #include <doctest/doctest.h>
 
@@ -46,7 +49,7 @@ int ToVerticalPixels(int y)
 }
 
 /// Stands in for the list of fonts: there is none.
-int CALLBACK EnumerateNothing(HDC, LPCSTR, FONTENUMPROCA, LPARAM)
+int CALLBACK EnumerateNothing(HDC, LPCTSTR, FONTENUMPROCA, LPARAM)
 {
     return 0;
 }
@@ -58,10 +61,10 @@ LONG WINAPI AnswerWorkedBase()
 }
 
 /// What a font is to say of its heights.
-TEXTMETRICA leadingMetrics;
+TEXTMETRIC leadingMetrics;
 
 /// Stands in for the measuring of a font.
-BOOL WINAPI AnswerLeading(HDC, LPTEXTMETRICA metrics)
+BOOL WINAPI AnswerLeading(HDC, LPTEXTMETRIC metrics)
 {
     *metrics = leadingMetrics;
     return TRUE;
@@ -71,7 +74,7 @@ BOOL WINAPI AnswerLeading(HDC, LPTEXTMETRICA metrics)
 SIZE answeredExtent;
 
 /// Stands in for the measuring of a text.
-BOOL WINAPI AnswerExtent(HDC, LPCSTR, int, LPSIZE extent)
+BOOL WINAPI AnswerExtent(HDC, LPCTSTR, int, LPSIZE extent)
 {
     *extent = answeredExtent;
     return TRUE;
@@ -80,8 +83,8 @@ BOOL WINAPI AnswerExtent(HDC, LPCSTR, int, LPSIZE extent)
 /// Measures as if the reference font were absent and the system's base units were 7 and 13.
 struct WorkedBase
 {
-    HMODULE umbra = FindModule("umbra.dll");
-    ImportHook enumeration{umbra, "gdi32", "EnumFontsA", EnumerateNothing};
+    HMODULE umbra = FindModule(UMBRA_DLL);
+    ImportHook enumeration{umbra, "gdi32", TEXT_FUNCTION("EnumFonts"), EnumerateNothing};
     ImportHook systemBase{umbra, "user32", "GetDialogBaseUnits", AnswerWorkedBase};
 };
 
@@ -195,7 +198,7 @@ TEST_CASE("without the reference font the system's dialog base units are used")
 TEST_CASE("the system's base units are asked for twice")
 {
     const WorkedBase base;
-    const CountCalls calls(FindModule("umbra.dll"), "user32", "GetDialogBaseUnits");
+    const CountCalls calls(FindModule(UMBRA_DLL), "user32", "GetDialogBaseUnits");
     unsigned int horizontal, vertical;
     GetFontBaseUnits(&horizontal, &vertical);
     CHECK(calls.Calls() == 2);
@@ -220,7 +223,7 @@ TEST_CASE("the base units are those of the reference font where it is installed,
 {
     unsigned int horizontal = 0, vertical = 0;
     GetFontBaseUnits(&horizontal, &vertical);
-    MESSAGE("base units ", horizontal, " x ", vertical);
+    MESSAGE("base units ", horizontal, _T(" x "), vertical);
     if (!HasReferenceFont()) {
         CHECK(horizontal == LOWORD(::GetDialogBaseUnits()));
         CHECK(vertical == HIWORD(::GetDialogBaseUnits()));
@@ -229,16 +232,16 @@ TEST_CASE("the base units are those of the reference font where it is installed,
 
     // Measured here by other means: the text metrics' own average and the font's cell.
     const HDC screen = ::GetDC(nullptr);
-    const HFONT font = ::CreateFontA(-::MulDiv(8, ::GetDeviceCaps(screen, LOGPIXELSY), 72), 0, 0, 0,
-                                     400, 0, 0, 0, DEFAULT_CHARSET, 0, 0, 0, 0, "MS Mincho");
+    const HFONT font = ::CreateFont(-::MulDiv(8, ::GetDeviceCaps(screen, LOGPIXELSY), 72), 0, 0, 0,
+                                    400, 0, 0, 0, DEFAULT_CHARSET, 0, 0, 0, 0, _T("MS Mincho"));
     const HGDIOBJ former = ::SelectObject(screen, font);
-    TEXTMETRICA metrics;
-    ::GetTextMetricsA(screen, &metrics);
+    TEXTMETRIC metrics;
+    ::GetTextMetrics(screen, &metrics);
     int alphabet = 0;
-    for (char letter = 'A'; letter <= 'Z'; ++letter) {
-        const char both[] = {letter, static_cast<char>(letter - 'A' + 'a')};
+    for (TCHAR letter = 'A'; letter <= 'Z'; ++letter) {
+        const TCHAR both[] = {letter, static_cast<TCHAR>(letter - 'A' + 'a')};
         SIZE extent;
-        ::GetTextExtentPoint32A(screen, both, 2, &extent);
+        ::GetTextExtentPoint32(screen, both, 2, &extent);
         alphabet += extent.cx;
     }
     ::SelectObject(screen, former);
@@ -269,7 +272,8 @@ TEST_CASE("the vertical base includes the external leading")
     leadingMetrics = {};
     leadingMetrics.tmHeight = 12;
     leadingMetrics.tmExternalLeading = 3;
-    const ImportHook metrics(FindModule("umbra.dll"), "gdi32", "GetTextMetricsA", AnswerLeading);
+    const ImportHook metrics(FindModule(UMBRA_DLL), "gdi32", TEXT_FUNCTION("GetTextMetrics"),
+                             AnswerLeading);
     REQUIRE(metrics.IsInstalled());
     unsigned int horizontal, vertical;
     GetFontBaseUnits(&horizontal, &vertical);
@@ -280,7 +284,7 @@ TEST_CASE("the horizontal base is the average width of the alphabet, rounded to 
 {
     if (!HasReferenceFont())
         return; // The other run of this file has the font.
-    const ImportHook extent(FindModule("umbra.dll"), "gdi32", "GetTextExtentPoint32A",
+    const ImportHook extent(FindModule(UMBRA_DLL), "gdi32", TEXT_FUNCTION("GetTextExtentPoint32"),
                             AnswerExtent);
     REQUIRE(extent.IsInstalled());
     unsigned int horizontal, vertical;
@@ -294,7 +298,7 @@ TEST_CASE("the horizontal base is the average width of the alphabet, rounded to 
 
 TEST_CASE("nothing is cached: every conversion measures anew")
 {
-    const CountCalls calls(FindModule("umbra.dll"), "gdi32", "EnumFontsA");
+    const CountCalls calls(FindModule(UMBRA_DLL), "gdi32", TEXT_FUNCTION("EnumFonts"));
     REQUIRE(calls.IsInstalled());
     int x, y, cx, cy;
     PixelsToDialogUnits(1, 2, 3, 4, &x, &y, &cx, &cy);

@@ -24,6 +24,19 @@ using UINT_PTR = std::uintptr_t;
 using LPARAM = std::intptr_t;
 using COLORREF = DWORD;
 using LPCSTR = const char*;
+using TCHAR = char;
+using LPTSTR = char*;
+using LPCTSTR = const char*;
+using LPCWSTR = const wchar_t*;
+using LPOLESTR = wchar_t*;
+
+// The harnesses are of the narrow flavour.
+#define _T(text) text
+template <class T, std::size_t count>
+constexpr std::size_t _countof(const T (&)[count])
+{
+    return count;
+}
 
 constexpr BOOL TRUE = 1;
 constexpr BOOL FALSE = 0;

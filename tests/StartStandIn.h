@@ -1,0 +1,33 @@
+// Stands in for the function of the system with which the toolkit starts programs.
+#pragma once
+
+#include <windows.h>
+
+/// `Answer` is told the command line and the show state, and answers as WinExec does: more than 31
+/// for a success.
+template <UINT (*Answer)(LPCTSTR command, UINT show)>
+struct StartStandIn
+{
+#ifdef UNICODE
+    static constexpr char function[] = "CreateProcessW";
+
+    static BOOL WINAPI Start(LPCWSTR, LPWSTR command, LPSECURITY_ATTRIBUTES, LPSECURITY_ATTRIBUTES,
+                             BOOL, DWORD, LPVOID, LPCWSTR, LPSTARTUPINFOW start,
+                             LPPROCESS_INFORMATION program)
+    {
+        *program = {};
+        const UINT answer = Answer(command, start->wShowWindow);
+        if (answer > 31)
+            return TRUE;
+        ::SetLastError(answer);
+        return FALSE;
+    }
+#else
+    static constexpr char function[] = "WinExec";
+
+    static UINT WINAPI Start(LPCSTR command, UINT show)
+    {
+        return Answer(command, show);
+    }
+#endif
+};
