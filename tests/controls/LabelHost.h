@@ -75,7 +75,7 @@ public:
                              &opened, nullptr) != ERROR_SUCCESS)
             return;
         ::RegSetValueEx(opened, nullptr, 0, REG_SZ, reinterpret_cast<const BYTE*>(value.c_str()),
-                        static_cast<DWORD>(value.size() + 1));
+                        static_cast<DWORD>((value.size() + 1) * sizeof(TCHAR)));
         ::RegCloseKey(opened);
     }
     ~RegisteredClass() { ::SHDeleteKey(HKEY_CLASSES_ROOT, m_root.c_str()); }
