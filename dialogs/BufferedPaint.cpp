@@ -6,9 +6,9 @@
 #include "controls/ShadeButton.h"
 #include "controls/StaticTS.h"
 
-#include <algorithm>
+#include <afxtempl.h>
+
 #include <utility>
-#include <vector>
 
 namespace umbra {
 
@@ -53,7 +53,8 @@ void Copy(CDC& target, const CPoint& place, CDC& source, const CRect& part)
 struct Control
 {
     HWND window;
-    CRect area; ///< Its client area, in the page's coordinates.
+    CRect area;           ///< Its client area, in the page's coordinates.
+    bool isDrawn = false; ///< Into the buffer.
 };
 
 /// Whether the control can draw itself into any context as it does on the screen.
@@ -73,18 +74,17 @@ CRect AreaOf(HWND control, const CWnd& page)
     return area;
 }
 
-/// The visible controls with a part of the region, the one that is painted first at the front.
-std::vector<Control> ControlsIn(const CRgn& region, const CWnd& page)
+using Controls = CArray<Control, const Control&>;
+
+/// The visible controls with a part of the region, the one that is painted last at the front.
+void FindControls(Controls& controls, const CRgn& region, const CWnd& page)
 {
-    std::vector<Control> controls;
     for (HWND window = ::GetTopWindow(page.GetSafeHwnd()); window != nullptr;
          window = ::GetWindow(window, GW_HWNDNEXT)) {
         const CRect area = AreaOf(window, page);
         if (::IsWindowVisible(window) && region.RectInRegion(area))
-            controls.push_back({window, area});
+            controls.Add({window, area});
     }
-    std::reverse(controls.begin(), controls.end());
-    return controls;
 }
 
 /// Has the control draw itself over what is there, in a canvas where it begins at the origin, as it
@@ -163,31 +163,33 @@ void BufferedPaint::DrawControls(CWnd& page, CDC& dc, CRgn& updated)
 {
     if ((page.GetStyle() & WS_CLIPCHILDREN) != 0)
         return; // The screen's context leaves the controls out.
-    const std::vector<Control> controls = ControlsIn(updated, page);
+    Controls controls;
+    FindControls(controls, updated, page);
     CSize largest(1, 1);
-    for (const Control& control : controls) {
-        largest.cx = max(largest.cx, control.area.Width());
-        largest.cy = max(largest.cy, control.area.Height());
+    for (int i = 0; i < controls.GetCount(); ++i) {
+        largest.cx = max(largest.cx, controls[i].area.Width());
+        largest.cy = max(largest.cy, controls[i].area.Height());
     }
     Canvas canvas(dc, largest);
     if (!canvas.IsReady())
         return;
     // A button that is held may have to change its state first: it paints itself.
     const HWND held = ::GetCapture();
-    const auto draws = [held](const Control& control) {
-        return control.window != held && DrawsAnywhere(control.window);
-    };
-    for (const Control& control : controls) {
-        if (draws(control))
+    bool all = true;
+    for (int i = static_cast<int>(controls.GetCount()) - 1; i >= 0; --i) {
+        Control& control = controls[i];
+        control.isDrawn = control.window != held && DrawsAnywhere(control.window);
+        all = all && control.isDrawn;
+        if (control.isDrawn)
             DrawControl(dc, canvas.Dc(), control);
     }
-    if (std::all_of(controls.begin(), controls.end(), draws)) {
+    if (all) {
         TellPainted(page, updated); // In one go.
         return;
     }
-    for (const Control& control : controls) {
-        if (draws(control))
-            TellPainted(control, updated);
+    for (int i = 0; i < controls.GetCount(); ++i) {
+        if (controls[i].isDrawn)
+            TellPainted(controls[i], updated);
     }
 }
 

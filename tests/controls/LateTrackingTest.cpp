@@ -2,6 +2,7 @@
 // must not have been made before: these cases have a process of their own.
 #include "controls/ShadeButton.h"
 
+#include "tests/LibraryFiles.h"
 #include "tests/controls/LabelHost.h"
 
 #include "testing/CallFault.h"
@@ -24,11 +25,11 @@ TEST_CASE("a button is not hot while the tracking cannot be loaded, and hot once
 {
     LabelHost host;
     HoveredButton button;
-    REQUIRE(button.Create("Text", WS_CHILD | WS_VISIBLE, CRect(50, 60, 170, 100), &host, 7));
+    REQUIRE(button.Create(_T("Text"), WS_CHILD | WS_VISIBLE, CRect(50, 60, 170, 100), &host, 7));
 #ifdef _WIN64 // A 32-bit library has it loaded at once.
     for (const char* missing : {"LoadLibraryA", "GetProcAddress"}) {
         CAPTURE(missing);
-        const FailAlways fault(FindModule("umbra.dll"), "kernel32", missing);
+        const FailAlways fault(FindModule(UMBRA_DLL), "kernel32", missing);
         REQUIRE(fault.IsInstalled());
         button.SendMessage(WM_MOUSEMOVE, 0, MAKELPARAM(5, 5));
         CHECK(fault.Failed() > 0);

@@ -96,13 +96,13 @@ public:
 CRect pictureAskedFor;
 
 /// Notes where the picture is to be made, and makes it.
-HWND WINAPI NotePicture(DWORD exStyle, LPCSTR className, LPCSTR text, DWORD style, int x, int y,
+HWND WINAPI NotePicture(DWORD exStyle, LPCTSTR className, LPCTSTR text, DWORD style, int x, int y,
                         int width, int height, HWND parent, HMENU menu, HINSTANCE module,
                         LPVOID parameter)
 {
     pictureAskedFor = CRect(CPoint(x, y), CSize(width, height));
-    return ::CreateWindowExA(exStyle, className, text, style, x, y, width, height, parent, menu,
-                             module, parameter);
+    return ::CreateWindowEx(exStyle, className, text, style, x, y, width, height, parent, menu,
+                            module, parameter);
 }
 
 /// What the rules ask of one button: not bound, or its caption ("" is the template's) and the name
@@ -408,7 +408,7 @@ TEST_CASE("the picture is asked for in its box, before it snaps to the grid")
     const DialogTemplate source = MakePageTemplate();
     Page page(dialog, source);
     pictureAskedFor.SetRectEmpty();
-    const ImportHook creation(FindModule("umbra-mfc.dll"), "user32", "CreateWindowExA",
+    const ImportHook creation(FindModule(UMBRA_MFC_DLL), "user32", TEXT_FUNCTION("CreateWindowEx"),
                               NotePicture);
     REQUIRE(creation.IsInstalled());
     dialog.ShowPicture(IDS_IMAGE_INFO);
@@ -427,12 +427,12 @@ TEST_CASE("data is exchanged before the image folder is taken over")
             m_folderThen = m_strImageDir;
             TestPage::DoDataExchange(pDX);
         }
-        CString m_folderThen = "not exchanged";
+        CString m_folderThen = _T("not exchanged");
     } dialog{Flags()};
     const DialogTemplate source = MakePageTemplate();
     const Page page(dialog, source);
-    CHECK(dialog.m_folderThen == "");
-    CHECK(dialog.m_strImageDir != "");
+    CHECK(dialog.m_folderThen == _T(""));
+    CHECK(dialog.m_strImageDir != _T(""));
 }
 
 TEST_CASE("a picture is loaded with the image folder as the working directory")

@@ -4,6 +4,7 @@
 #include "controls/NoteStatic.h"
 #include "dialogs/BaseDialog.h"
 
+#include "tests/LibraryFiles.h"
 #include "tests/dialogs/DialogChecks.h"
 #include "tests/dialogs/PageTemplate.h"
 
@@ -31,16 +32,16 @@ public:
     {
         g_strImageDir = ProgramFolder().c_str();
         g_crShade = RGB(180, 200, 230);
-        m_template.Label(textId, "A text", 60, 10, 90, 12, labelStyle)
-            .Label(etchedId, "Etched", 60, 24, 90, 12, labelStyle)
-            .Label(linkId, "A link", 60, 38, 90, 12, labelStyle)
-            .Label(noteId, "A note", 60, 52, 90, 20, labelStyle)
-            .Label(pictureId, "", 60, 74, 40, 30, labelStyle)
-            .Button(buttonId, "A check box", 160, 10, 90, 16,
+        m_template.Label(textId, _T("A text"), 60, 10, 90, 12, labelStyle)
+            .Label(etchedId, _T("Etched"), 60, 24, 90, 12, labelStyle)
+            .Label(linkId, _T("A link"), 60, 38, 90, 12, labelStyle)
+            .Label(noteId, _T("A note"), 60, 52, 90, 20, labelStyle)
+            .Label(pictureId, _T(""), 60, 74, 40, 30, labelStyle)
+            .Button(buttonId, _T("A check box"), 160, 10, 90, 16,
                     DialogTemplate::tabStop | BS_AUTOCHECKBOX | BS_PUSHLIKE);
         if (native) {
-            m_template.Edit(editId, "An edit", 160, 40, 90, 14);
-            m_template.Button(frameId, "A frame", 155, 30, 100, 30,
+            m_template.Edit(editId, _T("An edit"), 160, 40, 90, 14);
+            m_template.Button(frameId, _T("A frame"), 155, 30, 100, 30,
                               DialogTemplate::visibleChild | BS_GROUPBOX);
         }
     }
@@ -49,10 +50,10 @@ public:
     {
         CBaseDialog::OnInitDialog();
         m_etched.SetEmbossed(TRUE);
-        m_link.SetURL("target");
+        m_link.SetURL(_T("target"));
         m_note.SetLabelTextColor(RGB(40, 60, 110));
         m_image.SetTransparentColor(0);
-        m_image.LoadPicture(ImagePath("Info.gif").c_str());
+        m_image.LoadPicture(ImagePath(_T("Info.gif")).c_str());
         ApplyButtonShade(m_button);
         return TRUE;
     }
@@ -152,7 +153,7 @@ TEST_CASE("a buffered page shows what it shows without the buffer")
     {
         const Picture direct = page.ShowAnew();
         page.SetBufferedPainting(true);
-        const FailNth fault(FindModule("umbra-mfc.dll"), "gdi32", "CreateCompatibleBitmap", 1);
+        const FailNth fault(FindModule(UMBRA_MFC_DLL), "gdi32", "CreateCompatibleBitmap", 1);
         REQUIRE(fault.IsInstalled());
         CHECK(page.ShowAnew().Compare(direct) == "the same");
         CHECK(fault.Failed() == 1);
@@ -268,10 +269,10 @@ TEST_CASE("a new text shows in one step, without a moment of an empty label")
     page.m_text.GetWindowRect(&area);
     page.ScreenToClient(&area);
     copiesToScreen = 0;
-    const ImportHook copies(FindModule("umbra-mfc.dll"), "gdi32", "BitBlt", CountCopy);
+    const ImportHook copies(FindModule(UMBRA_MFC_DLL), "gdi32", "BitBlt", CountCopy);
     REQUIRE(copies.IsInstalled());
     page.m_text.SetRedraw(FALSE);
-    page.m_text.SetWindowText("Another text");
+    page.m_text.SetWindowText(_T("Another text"));
     page.m_text.SetRedraw(TRUE);
     page.InvalidateRect(&area, TRUE);
     PumpMessages();

@@ -88,12 +88,12 @@ struct WorkedBase
     ImportHook systemBase{umbra, "user32", "GetDialogBaseUnits", AnswerWorkedBase};
 };
 
-LOGFONTA notedFont;
+LOGFONT notedFont;
 
-HFONT WINAPI NoteFont(const LOGFONTA* font)
+HFONT WINAPI NoteFont(const LOGFONT* font)
 {
     notedFont = *font;
-    return ::CreateFontIndirectA(font);
+    return ::CreateFontIndirect(font);
 }
 
 } // namespace
@@ -255,14 +255,15 @@ TEST_CASE("the reference font is asked for in its size and weight, in any charac
 {
     if (!HasReferenceFont())
         return; // The other run of this file has the font.
-    const ImportHook creation(FindModule("umbra.dll"), "gdi32", "CreateFontIndirectA", NoteFont);
+    const ImportHook creation(FindModule(UMBRA_DLL), "gdi32", TEXT_FUNCTION("CreateFontIndirect"),
+                              NoteFont);
     REQUIRE(creation.IsInstalled());
     unsigned int horizontal, vertical;
     GetFontBaseUnits(&horizontal, &vertical);
     CHECK(notedFont.lfHeight < 0);
     CHECK(notedFont.lfWeight == FW_NORMAL);
     CHECK(notedFont.lfCharSet == DEFAULT_CHARSET);
-    CHECK(lstrcmpA(notedFont.lfFaceName, "MS Mincho") == 0);
+    CHECK(lstrcmp(notedFont.lfFaceName, _T("MS Mincho")) == 0);
 }
 
 TEST_CASE("the vertical base includes the external leading")

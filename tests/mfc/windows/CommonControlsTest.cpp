@@ -6,6 +6,8 @@
 
 #include <doctest/doctest.h>
 
+#include "tests/LibraryFiles.h"
+
 #include "testing/CallFault.h"
 #include "testing/DialogTemplate.h"
 
@@ -56,19 +58,19 @@ TEST_CASE("a window of a common control's class can be made without further prep
 
 TEST_CASE("an unknown class of a template has the common controls registered, a known one has not")
 {
-    const FailAlways unknown(FindModule("umbra-mfc.dll"), "user32", "GetClassInfoW");
-    const CountCalls registered(FindModule("umbra-mfc.dll"), "comctl32", "InitCommonControls");
+    const FailAlways unknown(FindModule(UMBRA_MFC_DLL), "user32", "GetClassInfoW");
+    const CountCalls registered(FindModule(UMBRA_MFC_DLL), "comctl32", "InitCommonControls");
     REQUIRE(unknown.IsInstalled());
     REQUIRE(registered.IsInstalled());
     DialogTemplate page(0, 0, 100, 60);
-    page.Add(WC_TREEVIEWA, 5, "", 0, 0, 10, 10);
+    page.Add(WC_TREEVIEW, 5, _T(""), 0, 0, 10, 10);
     CDialog dialog;
     REQUIRE(dialog.CreateIndirect(page.Get()));
     dialog.DestroyWindow();
     CHECK(registered.Calls() == 1);
 
     DialogTemplate numbered(0, 0, 100, 60); // Names its classes by numbers only.
-    numbered.Button(IDOK, "OK", 0, 0, 10, 10).Edit(6, "", 0, 20, 10, 10);
+    numbered.Button(IDOK, _T("OK"), 0, 0, 10, 10).Edit(6, _T(""), 0, 20, 10, 10);
     CDialog second;
     REQUIRE(second.CreateIndirect(numbered.Get()));
     second.DestroyWindow();
@@ -77,11 +79,11 @@ TEST_CASE("an unknown class of a template has the common controls registered, a 
 
 TEST_CASE("an unknown class of a window has the common controls registered")
 {
-    const FailAlways unknown(FindModule("umbra-mfc.dll"), "user32", "GetClassInfoA");
-    const CountCalls registered(FindModule("umbra-mfc.dll"), "comctl32", "InitCommonControls");
+    const FailAlways unknown(FindModule(UMBRA_MFC_DLL), "user32", TEXT_FUNCTION("GetClassInfo"));
+    const CountCalls registered(FindModule(UMBRA_MFC_DLL), "comctl32", "InitCommonControls");
     REQUIRE(registered.IsInstalled());
     CWnd window;
-    REQUIRE(window.CreateEx(0, WC_TREEVIEW, "", WS_POPUP, 0, 0, 9, 9, NULL, NULL));
+    REQUIRE(window.CreateEx(0, WC_TREEVIEW, _T(""), WS_POPUP, 0, 0, 9, 9, NULL, NULL));
     window.DestroyWindow();
     CHECK(unknown.Failed() == 1);
     CHECK(registered.Calls() == 1);
