@@ -14,8 +14,8 @@ public:
 
     BOOL Open()
     {
-        umbra::testing::DialogTemplate page(10, 10, 200, 100, WS_POPUP | WS_VISIBLE, "Page");
-        page.Button(IDCANCEL, "", 100, 70, 60, 18);
+        umbra::testing::DialogTemplate page(10, 10, 200, 100, WS_POPUP | WS_VISIBLE, _T("Page"));
+        page.Button(IDCANCEL, _T(""), 100, 70, 60, 18);
         return CreateIndirect(const_cast<DLGTEMPLATE*>(page.Get()), NULL);
     }
 };
@@ -27,7 +27,7 @@ extern "C" __declspec(dllexport) int ShowPage()
 {
     if (AfxGetInstanceHandle() == NULL)
         AfxWinInit(::GetModuleHandle(NULL), NULL, ::GetCommandLine(), SW_SHOW);
-    g_strImageDir = "C:\\";
+    g_strImageDir = _T("C:\\");
     Page page;
     if (!page.Open())
         return 1;
@@ -35,5 +35,5 @@ extern "C" __declspec(dllexport) int ShowPage()
     CString caption;
     page.GetDlgItemText(IDCANCEL, caption);
     page.DestroyWindow();
-    return caption == "Cancel" ? 0 : 2;
+    return caption == _T("Cancel") ? 0 : 2;
 }
