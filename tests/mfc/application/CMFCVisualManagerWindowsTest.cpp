@@ -6,7 +6,7 @@
 
 TEST_CASE("the manager of the system's theme knows whether there is one")
 {
-    const HMODULE themes = LoadLibrary("uxtheme.dll");
+    const HMODULE themes = LoadLibrary(_T("uxtheme.dll"));
     REQUIRE(themes != NULL);
     const auto isActive = reinterpret_cast<BOOL(WINAPI*)()>(
         reinterpret_cast<void*>(GetProcAddress(themes, "IsThemeActive")));

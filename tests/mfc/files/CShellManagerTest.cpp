@@ -13,13 +13,13 @@ namespace {
 
 CString PathOf(LPCITEMIDLIST item)
 {
-    char path[MAX_PATH] = "";
-    return SHGetPathFromIDList(item, path) ? CString(path) : CString("no path");
+    TCHAR path[MAX_PATH] = _T("");
+    return SHGetPathFromIDList(item, path) ? CString(path) : CString(_T("no path"));
 }
 
 CString WindowsFolder()
 {
-    char path[MAX_PATH];
+    TCHAR path[MAX_PATH];
     GetWindowsDirectory(path, MAX_PATH);
     return path;
 }
@@ -47,7 +47,7 @@ TEST_CASE("a path that there is not has no name in the shell")
 {
     CShellManager shell;
     LPITEMIDLIST item = reinterpret_cast<LPITEMIDLIST>(&shell);
-    CHECK(FAILED(shell.ItemFromPath("C:\\no such folder\\at all", item)));
+    CHECK(FAILED(shell.ItemFromPath(_T("C:\\no such folder\\at all"), item)));
     CHECK(item == NULL);
     CHECK(FAILED(shell.ItemFromPath(NULL, item)));
 }
@@ -100,11 +100,11 @@ TEST_CASE("the user chooses a folder, beginning with the one that was named")
 {
     ControlHost host;
     CShellManager shell;
-    CString folder = "as before";
+    CString folder = _T("as before");
     NextDialog choose([](HWND box) { Page(box).Click(IDOK); });
     int picture = -1;
-    CHECK(shell.BrowseForFolder(folder, &host, WindowsFolder(), "Which one?", BIF_RETURNONLYFSDIRS,
-                                &picture));
+    CHECK(shell.BrowseForFolder(folder, &host, WindowsFolder(), _T("Which one?"),
+                                BIF_RETURNONLYFSDIRS, &picture));
     REQUIRE(choose.HasRun());
     CHECK(folder.CompareNoCase(WindowsFolder()) == 0);
     CHECK(picture >= 0);
@@ -114,9 +114,9 @@ TEST_CASE("without the user's choice the folder stays as it was")
 {
     ControlHost host;
     CShellManager shell;
-    CString folder = "as before";
+    CString folder = _T("as before");
     NextDialog cancel([](HWND box) { Page(box).Click(IDCANCEL); });
     CHECK_FALSE(shell.BrowseForFolder(folder, &host));
     REQUIRE(cancel.HasRun());
-    CHECK(folder == "as before");
+    CHECK(folder == _T("as before"));
 }
