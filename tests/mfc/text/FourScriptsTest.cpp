@@ -9,6 +9,7 @@
 #include "testing/DialogTemplate.h"
 #include "testing/MessageBoxAnswer.h"
 
+#include "tests/FourScripts.h"
 #include "tests/mfc/ControlHost.h"
 #include "tests/mfc/files/TestFolder.h"
 
@@ -16,37 +17,29 @@ using namespace umbra::testing;
 
 namespace {
 
-#ifdef UNICODE
-/// Japanese, Polish, Arabic and two emoji, which have two units of UTF-16 each.
-const CString scripts(L"\u65E5\u672C\u8A9E za\u017C\u00F3\u0142\u0107 "
-                      L"\u0645\u0631\u062D\u0628\u0627 \U0001F600\U0001F408");
-#else
-const CString scripts("what every code page has");
-#endif
-
 constexpr int fieldId = 100;
 
 /// A page whose only field is exchanged with a string.
 class CTextPage : public CDialog
 {
 public:
-    CString text = scripts;
+    CString text = fourScripts;
 
 protected:
     void DoDataExchange(CDataExchange* pDX) override
     {
         CDialog::DoDataExchange(pDX);
         DDX_Text(pDX, fieldId, text);
-        DDV_MaxChars(pDX, text, scripts.GetLength());
+        DDV_MaxChars(pDX, text, fourScripts.GetLength());
     }
 };
 
 void CheckProfile(CWinApp& app)
 {
-    CHECK(app.WriteProfileString(scripts, scripts, scripts));
-    CHECK(app.GetProfileString(scripts, scripts) == scripts);
-    CHECK(app.WriteProfileInt(scripts, _T("Number"), 42));
-    CHECK(app.GetProfileInt(scripts, _T("Number"), 0) == 42);
+    CHECK(app.WriteProfileString(fourScripts, fourScripts, fourScripts));
+    CHECK(app.GetProfileString(fourScripts, fourScripts) == fourScripts);
+    CHECK(app.WriteProfileInt(fourScripts, _T("Number"), 42));
+    CHECK(app.GetProfileInt(fourScripts, _T("Number"), 0) == 42);
 }
 
 class CSettingsApp : public CWinApp
@@ -61,70 +54,70 @@ public:
 TEST_CASE("windows and controls give back text of four scripts")
 {
     ControlHost host;
-    host.SetWindowText(scripts);
+    host.SetWindowText(fourScripts);
     CString text;
     host.GetWindowText(text);
-    CHECK(text == scripts);
+    CHECK(text == fourScripts);
 
     CListBox list;
     REQUIRE(list.Create(shownChild | LBS_HASSTRINGS, CRect(0, 0, 100, 100), &host, 1));
-    list.AddString(scripts);
+    list.AddString(fourScripts);
     list.GetText(0, text);
-    CHECK(text == scripts);
-    CHECK(list.FindStringExact(-1, scripts) == 0);
+    CHECK(text == fourScripts);
+    CHECK(list.FindStringExact(-1, fourScripts) == 0);
 
     CComboBox combo;
     REQUIRE(combo.Create(shownChild | CBS_DROPDOWN, CRect(0, 0, 100, 100), &host, 2));
-    combo.AddString(scripts);
+    combo.AddString(fourScripts);
     combo.GetLBText(0, text);
-    CHECK(text == scripts);
+    CHECK(text == fourScripts);
 
     CListCtrl report;
     REQUIRE(report.Create(shownChild | LVS_REPORT, CRect(0, 0, 100, 100), &host, 3));
-    report.InsertColumn(0, scripts, LVCFMT_LEFT, 90);
-    report.InsertItem(0, scripts);
-    CHECK(report.GetItemText(0, 0) == scripts);
+    report.InsertColumn(0, fourScripts, LVCFMT_LEFT, 90);
+    report.InsertItem(0, fourScripts);
+    CHECK(report.GetItemText(0, 0) == fourScripts);
 
     CTreeCtrl tree;
     REQUIRE(tree.Create(shownChild, CRect(0, 0, 100, 100), &host, 4));
-    CHECK(tree.GetItemText(tree.InsertItem(scripts)) == scripts);
+    CHECK(tree.GetItemText(tree.InsertItem(fourScripts)) == fourScripts);
 
     CToolTipCtrl tip;
     REQUIRE(tip.Create(&host));
-    REQUIRE(tip.AddTool(&list, scripts));
+    REQUIRE(tip.AddTool(&list, fourScripts));
     tip.GetText(text, &list);
-    CHECK(text == scripts);
+    CHECK(text == fourScripts);
 
     CMenu menu;
     REQUIRE(menu.CreatePopupMenu());
-    menu.AppendMenu(MF_STRING, 1, scripts);
+    menu.AppendMenu(MF_STRING, 1, fourScripts);
     menu.GetMenuString(1, text, MF_BYCOMMAND);
-    CHECK(text == scripts);
+    CHECK(text == fourScripts);
 }
 
 TEST_CASE("a dialog exchanges text of four scripts, from its template on")
 {
-    DialogTemplate page(0, 0, 100, 50, DialogTemplate::popup, scripts);
+    DialogTemplate page(0, 0, 100, 50, DialogTemplate::popup, fourScripts);
     page.Edit(fieldId, _T(""), 5, 5, 80, 12);
     CTextPage dialog;
     REQUIRE(dialog.CreateIndirect(page.Get()));
     CString title;
     dialog.GetWindowText(title);
-    CHECK(title == scripts);
+    CHECK(title == fourScripts);
     CString shown;
     dialog.GetDlgItemText(fieldId, shown);
-    CHECK(shown == scripts);
+    CHECK(shown == fourScripts);
     dialog.text.Empty();
     CHECK(dialog.UpdateData(TRUE));
-    CHECK(dialog.text == scripts);
+    CHECK(dialog.text == fourScripts);
     dialog.DestroyWindow();
 }
 
 TEST_CASE("a message box shows text of four scripts")
 {
     const MessageBoxAnswer answer(IDOK);
-    CHECK(AfxMessageBox(scripts) == IDOK);
-    CHECK(answer.Text() == scripts.GetString());
+    CHECK(AfxMessageBox(fourScripts) == IDOK);
+    CHECK(answer.Text() == fourScripts.GetString());
 }
 
 TEST_CASE("settings keep text of four scripts, in the registry and in a file")
@@ -144,10 +137,10 @@ TEST_CASE("settings keep text of four scripts, in the registry and in a file")
 TEST_CASE("files have names of four scripts")
 {
     const TestFolder folder;
-    const CString path = folder / scripts;
+    const CString path = folder / fourScripts;
     WriteFile(path, "content");
     CFile file(path, CFile::modeRead);
-    CHECK(file.GetFileName() == scripts);
+    CHECK(file.GetFileName() == fourScripts);
     CHECK(file.GetLength() == 7);
     file.Close();
     CFileFind finder;
@@ -155,11 +148,11 @@ TEST_CASE("files have names of four scripts")
     bool found = false;
     for (BOOL more = TRUE; more;) {
         more = finder.FindNextFile();
-        found = found || finder.GetFileName() == scripts;
+        found = found || finder.GetFileName() == fourScripts;
     }
     CHECK(found);
-    CFileException error(CFileException::fileNotFound, ERROR_FILE_NOT_FOUND, scripts);
+    CFileException error(CFileException::fileNotFound, ERROR_FILE_NOT_FOUND, fourScripts);
     TCHAR message[256] = _T("");
     CHECK(error.GetErrorMessage(message, _countof(message)));
-    CHECK(CString(message).Find(scripts) == 0);
+    CHECK(CString(message).Find(fourScripts) == 0);
 }
