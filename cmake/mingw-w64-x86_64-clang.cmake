@@ -7,8 +7,10 @@ execute_process(COMMAND x86_64-w64-mingw32-g++-posix -print-libgcc-file-name
 cmake_path(GET UMBRA_GCC_FOLDER PARENT_PATH UMBRA_GCC_FOLDER)
 set(UMBRA_GCC_HEADERS ${UMBRA_GCC_FOLDER}/include/c++)
 
-# The librarian of LLVM makes no delayed import libraries.
+# LLVM's makes no delayed import libraries, and its others do not read what this linker writes.
 set(CMAKE_DLLTOOL x86_64-w64-mingw32-dlltool CACHE STRING "The librarian")
+set(CMAKE_OBJCOPY x86_64-w64-mingw32-objcopy CACHE STRING "What takes symbols out")
+set(CMAKE_STRIP x86_64-w64-mingw32-strip CACHE STRING "What drops symbols")
 
 set(CMAKE_C_COMPILER clang)
 set(CMAKE_CXX_COMPILER clang++)

@@ -457,9 +457,9 @@ private:
     PXSTR data_; ///< The characters; the bookkeeping of the buffer stands before them.
 };
 
-// Both are compiled into the library, whatever its TCHAR is, and nowhere else. There, a declaration
-// would come before the mark of the exports.
-#ifndef umbra_mfc_EXPORTS
-extern template class CStringT<char, StrTraitMFC_DLL<char>>;
-extern template class CStringT<wchar_t, StrTraitMFC_DLL<wchar_t>>;
+// Both are compiled into the library, whatever its TCHAR is, and nowhere else. There, GCC wants the
+// mark of the exports at the definition, and no declaration before; clang wants it here.
+#if !defined(umbra_mfc_EXPORTS) || defined(__clang__)
+extern template class AFX_EXPORTED CStringT<char, StrTraitMFC_DLL<char>>;
+extern template class AFX_EXPORTED CStringT<wchar_t, StrTraitMFC_DLL<wchar_t>>;
 #endif

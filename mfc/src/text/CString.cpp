@@ -7,5 +7,10 @@
 #include "text/CStringLoading.h"
 #include "text/CStringSearch.h"
 
+#ifdef __clang__ // The declarations have the mark of the exports.
+template class CStringT<char, StrTraitMFC_DLL<char>>;
+template class CStringT<wchar_t, StrTraitMFC_DLL<wchar_t>>;
+#else
 template class AFX_EXPORTED CStringT<char, StrTraitMFC_DLL<char>>;
 template class AFX_EXPORTED CStringT<wchar_t, StrTraitMFC_DLL<wchar_t>>;
+#endif
