@@ -4,6 +4,20 @@
 
 #include <cstdio>
 #include <cstring>
+#include <memory>
+#include <vector>
+
+namespace {
+
+constexpr struct
+{
+    const char* name;
+    SceneKind kind;
+} kinds[] = {{"plain", SceneKind::plain},
+             {"toolkit", SceneKind::toolkit},
+             {"buffered", SceneKind::buffered}};
+
+} // namespace
 
 void PrintPageTable()
 {
@@ -13,21 +27,19 @@ void PrintPageTable()
         "| Controls | plain | CBaseDialog | ratio | buffered | ratio |\n"
         "|--:|--:|--:|--:|--:|--:|\n");
     for (const int controls : {0, 10, 50, 200}) {
-        PageScene plain(SceneKind::plain, controls);
-        PageScene toolkit(SceneKind::toolkit, controls);
-        PageScene buffered(SceneKind::buffered, controls);
-        const auto showOnly = [&](PageScene& scene) {
-            for (PageScene* other : {&plain, &toolkit, &buffered})
-                other->Show(false);
-            scene.Show(true);
-        };
+        std::vector<std::unique_ptr<PageScene>> scenes;
         Race race;
-        race.Add(
-            "plain", [&] { plain.Repaint(); }, [&] { showOnly(plain); });
-        race.Add(
-            "toolkit", [&] { toolkit.Repaint(); }, [&] { showOnly(toolkit); });
-        race.Add(
-            "buffered", [&] { buffered.Repaint(); }, [&] { showOnly(buffered); });
+        for (const auto& known : kinds) {
+            scenes.push_back(std::make_unique<PageScene>(known.kind, controls));
+            PageScene* scene = scenes.back().get();
+            const auto showAlone = [&scenes, scene] {
+                for (const auto& other : scenes)
+                    other->Show(false);
+                scene->Show(true);
+            };
+            race.Add(
+                known.name, [scene] { scene->Repaint(); }, showAlone);
+        }
         race.Run(41);
         const double plainTime = race.NanosecondsOf("plain");
         const double toolkitTime = race.NanosecondsOf("toolkit");
@@ -40,13 +52,6 @@ void PrintPageTable()
 
 bool RepaintScene(const char* kind, int controls, int times)
 {
-    constexpr struct
-    {
-        const char* name;
-        SceneKind kind;
-    } kinds[] = {{"plain", SceneKind::plain},
-                 {"toolkit", SceneKind::toolkit},
-                 {"buffered", SceneKind::buffered}};
     for (const auto& known : kinds) {
         if (std::strcmp(known.name, kind) != 0)
             continue;

@@ -11,12 +11,7 @@ function(umbra_delayed_library library result)
   if(EXISTS ${archive})
     return()
   endif()
-  set(target) # Some compilers serve several.
-  if(CMAKE_CXX_COMPILER_TARGET)
-    set(target --target=${CMAKE_CXX_COMPILER_TARGET})
-  endif()
-  execute_process(COMMAND ${CMAKE_CXX_COMPILER} ${target} -print-file-name=lib${library}.a
-    OUTPUT_VARIABLE import OUTPUT_STRIP_TRAILING_WHITESPACE COMMAND_ERROR_IS_FATAL ANY)
+  umbra_find_import_library(${library} import)
   execute_process(COMMAND ${CMAKE_NM} ${import}
     OUTPUT_VARIABLE symbols ERROR_QUIET COMMAND_ERROR_IS_FATAL ANY)
   string(REGEX MATCHALL " T [A-Za-z0-9_@]+" names "${symbols}")

@@ -19,6 +19,8 @@ public:
             ::SelectObject(m_dc, m_previous);
     }
 
+    bool IsSelected() const { return m_previous != nullptr; }
+
     ScopedSelect(const ScopedSelect&) = delete;
     ScopedSelect& operator=(const ScopedSelect&) = delete;
 

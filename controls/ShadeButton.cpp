@@ -4,6 +4,7 @@
 #include "controls/BufferTarget.h"
 #include "controls/FollowLayout.h"
 #include "controls/KeyedPicture.h"
+#include "controls/MemoryCanvas.h"
 #include "controls/ScopedSelect.h"
 #include "faces/ShadeGenerator.h"
 #include "controls/ToolTipRelay.h"
@@ -176,14 +177,9 @@ void CxShadeButton::DrawItem(LPDRAWITEMSTRUCT lpDrawItemStruct)
         target->PatBlt(0, 0, item.Width(), item.Height(), BLACKNESS); // As new bitmaps are.
         DrawButton(*target, item, lpDrawItemStruct->itemState);
     } else {
-        CDC memory;
-        memory.CreateCompatibleDC(target);
-        CBitmap canvas;
-        canvas.CreateCompatibleBitmap(target, item.Width(), item.Height());
-        const ScopedSelect canvasSelected(memory, canvas.GetSafeHandle());
-        umbra::FollowLayout(memory, *target);
-        DrawButton(memory, item, lpDrawItemStruct->itemState);
-        target->BitBlt(0, 0, item.Width(), item.Height(), &memory, 0, 0, SRCCOPY);
+        umbra::MemoryCanvas canvas(*target, item.Size());
+        DrawButton(canvas.Dc(), item, lpDrawItemStruct->itemState);
+        target->BitBlt(0, 0, item.Width(), item.Height(), &canvas.Dc(), 0, 0, SRCCOPY);
     }
     if (m_maskColor != CLR_NONE && m_hBitmap != nullptr)
         DrawMaskedPicture(*target, lpDrawItemStruct->itemState);

@@ -1,8 +1,8 @@
 #include "dialogs/BufferedPaint.h"
 
 #include "controls/BufferTarget.h"
-#include "controls/FollowLayout.h"
 #include "controls/HyperLink.h"
+#include "controls/MemoryCanvas.h"
 #include "controls/ShadeButton.h"
 #include "controls/StaticTS.h"
 
@@ -13,35 +13,6 @@
 namespace umbra {
 
 namespace {
-
-/// A bitmap in memory, in a context of its own that is like another one.
-class Canvas
-{
-public:
-    Canvas(CDC& like, const CSize& size)
-    {
-        if (m_dc.CreateCompatibleDC(&like) &&
-            m_bitmap.CreateCompatibleBitmap(&like, size.cx, size.cy))
-            m_former = m_dc.SelectObject(&m_bitmap);
-        if (IsReady())
-            FollowLayout(m_dc, like);
-    }
-    ~Canvas()
-    {
-        if (IsReady())
-            m_dc.SelectObject(m_former);
-    }
-    Canvas(const Canvas&) = delete;
-    Canvas& operator=(const Canvas&) = delete;
-
-    bool IsReady() const { return m_former != nullptr; }
-    CDC& Dc() { return m_dc; }
-
-private:
-    CDC m_dc;
-    CBitmap m_bitmap;
-    CBitmap* m_former = nullptr;
-};
 
 /// Copies a part of one context to a place in another one.
 void Copy(CDC& target, const CPoint& place, CDC& source, const CRect& part)
@@ -138,7 +109,7 @@ void BufferedPaint::Paint(CWnd& page)
     if (part.IsRectEmpty())
         return;
 
-    Canvas buffer(screen, part.Size());
+    MemoryCanvas buffer(screen, part.Size());
     CDC& target = buffer.IsReady() ? buffer.Dc() : screen;
     if (buffer.IsReady()) {
         Copy(target, CPoint(0, 0), screen, part); // What is not erased shows through.
@@ -170,7 +141,7 @@ void BufferedPaint::DrawControls(CWnd& page, CDC& dc, CRgn& updated)
         largest.cx = max(largest.cx, controls[i].area.Width());
         largest.cy = max(largest.cy, controls[i].area.Height());
     }
-    Canvas canvas(dc, largest);
+    MemoryCanvas canvas(dc, largest);
     if (!canvas.IsReady())
         return;
     // A button that is held may have to change its state first: it paints itself.

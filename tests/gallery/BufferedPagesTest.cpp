@@ -1,10 +1,11 @@
 // Every page of the gallery shows the same when it is painted through a buffer.
-#include "tests/Folders.h"
+#include "tests/gallery/GalleryLives.h"
 #include "tests/robustness/SelfEnding.h"
 
 #include "gallery/BackgroundsPage.h"
 #include "gallery/ButtonsPage.h"
 #include "gallery/GridPage.h"
+#include "gallery/Images.h"
 #include "gallery/LabelsPage.h"
 #include "gallery/ShadeLabPage.h"
 #include "gallery/StartPage.h"
@@ -31,26 +32,16 @@ Picture PaintAnew(CBaseDialog& page, bool buffered)
 template <class Page, class... Arguments>
 void Compare(Arguments&&... arguments)
 {
-    g_strImageDir = ProgramFolder().c_str();
-    SelfEnding<Page>* shown = nullptr;
+    g_strImageDir = GalleryFolder();
     SelfEnding<Page> page(
         [&](HWND) {
-            const Picture direct = PaintAnew(*shown, false);
-            const Picture buffered = PaintAnew(*shown, true);
+            const Picture direct = PaintAnew(page, false);
+            const Picture buffered = PaintAnew(page, true);
             CHECK(direct.Width() > 300);
             CHECK(buffered.Compare(direct) == "the same");
         },
         std::forward<Arguments>(arguments)...);
-    shown = &page;
     page.DoModal();
-}
-
-WizardTask MakeTask()
-{
-    WizardTask task;
-    task.folder = (ProgramFolder() + "\\images\\").c_str();
-    task.pictures = {"Info.gif", "large.gif", "panel.bmp"};
-    return task;
 }
 
 } // namespace

@@ -157,14 +157,6 @@ void RunLabels()
     Run<CLabelsPage>(nothingMore, nullptr);
 }
 
-WizardTask MakeTask()
-{
-    WizardTask task;
-    task.folder = ImageFolder();
-    task.pictures = {"Info.gif", "large.gif", "panel.bmp"};
-    return task;
-}
-
 void RunWizardFolder()
 {
     WizardTask task = MakeTask();
@@ -210,6 +202,14 @@ void RunWorking()
 }
 
 } // namespace
+
+WizardTask MakeTask()
+{
+    WizardTask task;
+    task.folder = ImageFolder();
+    task.pictures = {"Info.gif", "large.gif", "panel.bmp"};
+    return task;
+}
 
 const std::vector<Life>& LivesOfGallery()
 {

@@ -5,6 +5,11 @@
 
 const std::vector<Life>& LivesOfGallery();
 
+struct WizardTask;
+
+/// A task of the wizard: some pictures of the gallery's own.
+WizardTask MakeTask();
+
 /// What is asked of a run of these: which calls fail, and that the class library may report what
 /// the gallery's own code could not get, as it does for any program.
 constexpr FaultOptions PageOptions(const CallSample& calls)

@@ -19,15 +19,13 @@ int CALLBACK SelectFolder(HWND dialog, UINT message, LPARAM, LPARAM folder)
 /// The bytes before the end mark.
 UINT GetLength(LPCITEMIDLIST pidl)
 {
-    UINT length = 0;
-    if (pidl != NULL)
-        for (const BYTE* at = reinterpret_cast<const BYTE*>(pidl);;) {
-            const USHORT size = reinterpret_cast<LPCITEMIDLIST>(at + length)->mkid.cb;
-            if (size == 0)
-                break;
-            length += size;
-        }
-    return length;
+    if (pidl == NULL)
+        return 0;
+    const BYTE* const begin = reinterpret_cast<const BYTE*>(pidl);
+    const BYTE* end = begin;
+    while (const USHORT size = reinterpret_cast<LPCITEMIDLIST>(end)->mkid.cb)
+        end += size;
+    return static_cast<UINT>(end - begin);
 }
 
 } // namespace

@@ -6,6 +6,7 @@
 
 #include <doctest/doctest.h>
 
+#include "tests/Folders.h"
 #include "tests/LibraryFiles.h"
 
 #include "testing/CallFault.h"
@@ -20,17 +21,14 @@ namespace {
 constexpr DWORD wasLoaded = 1, isLoaded = 2, hasWindow = 4;             // As the program ends.
 constexpr DWORD atOnce = sizeof(void*) == 8 ? 0 : wasLoaded | isLoaded; // By 32-bit programs.
 
-DWORD EndOf(const char* task)
+DWORD EndOf(LPCTSTR task)
 {
-    char path[MAX_PATH];
-    ::GetModuleFileNameA(nullptr, path, MAX_PATH);
-    ::PathRemoveFileSpecA(path);
-    std::string line = '"' + std::string(path) + "\\mfc-test-late-controls.exe\" " + task;
-    STARTUPINFOA startup{};
+    TString line = _T('"') + ProgramPath(_T("mfc-test-late-controls.exe")) + _T("\" ") + task;
+    STARTUPINFO startup{};
     startup.cb = sizeof(startup);
     PROCESS_INFORMATION process{};
-    REQUIRE(::CreateProcessA(nullptr, line.data(), nullptr, nullptr, FALSE, 0, nullptr, nullptr,
-                             &startup, &process));
+    REQUIRE(::CreateProcess(nullptr, line.data(), nullptr, nullptr, FALSE, 0, nullptr, nullptr,
+                            &startup, &process));
     ::WaitForSingleObject(process.hProcess, INFINITE);
     DWORD code = 0;
     ::GetExitCodeProcess(process.hProcess, &code);
@@ -43,17 +41,17 @@ DWORD EndOf(const char* task)
 
 TEST_CASE("a dialog of plain controls does not load the common ones")
 {
-    CHECK(EndOf("plain") == (hasWindow | atOnce));
+    CHECK(EndOf(_T("plain")) == (hasWindow | atOnce));
 }
 
 TEST_CASE("a dialog whose template names a common control shows it without further preparation")
 {
-    CHECK(EndOf("template") == (isLoaded | hasWindow | atOnce));
+    CHECK(EndOf(_T("template")) == (isLoaded | hasWindow | atOnce));
 }
 
 TEST_CASE("a window of a common control's class can be made without further preparation")
 {
-    CHECK(EndOf("create") == (isLoaded | hasWindow | atOnce));
+    CHECK(EndOf(_T("create")) == (isLoaded | hasWindow | atOnce));
 }
 
 TEST_CASE("an unknown class of a template has the common controls registered, a known one has not")
