@@ -1,7 +1,7 @@
-// Lets big blocks of memory fail, for the class library only.
+// Lets blocks of memory fail, for the class library only.
 #pragma once
 
-#include "testing/ImportHook.h"
+#include "testing/CallFault.h"
 
 #include "tests/LibraryFiles.h"
 
@@ -25,4 +25,14 @@ private:
     const HMODULE library_ = umbra::testing::FindModule(UMBRA_MFC_DLL);
     umbra::testing::ImportHook plain_{library_, "msvcrt.dll", "malloc", Allocate};
     umbra::testing::ImportHook again_{library_, "msvcrt.dll", "realloc", Reallocate};
+};
+
+/// While it lives, the library does not get its n-th block; the first is number 1.
+class OneBlockMissing : public umbra::testing::FailNth
+{
+public:
+    explicit OneBlockMissing(long long n)
+        : FailNth(umbra::testing::FindModule(UMBRA_MFC_DLL), "msvcrt.dll", "malloc", n)
+    {
+    }
 };

@@ -53,7 +53,7 @@ BOOL AFXAPI AfxWinInit(HINSTANCE hInstance, HINSTANCE, LPTSTR lpCmdLine, int nCm
 LPCTSTR AFXAPI AfxRegisterWndClass(UINT nClassStyle, HCURSOR hCursor, HBRUSH hbrBackground,
                                    HICON hIcon)
 {
-    thread_local TCHAR name[128];
+    TCHAR(&name)[128] = afxint::CurrentThread().className;
     const HINSTANCE instance = AfxGetInstanceHandle();
     _sntprintf(name, _countof(name), _T("Afx:%p:%x:%p:%p:%p"), static_cast<void*>(instance),
                nClassStyle, static_cast<void*>(hCursor), static_cast<void*>(hbrBackground),

@@ -5,22 +5,20 @@
 
 #include "dialogs/CommonDialogHook.h"
 #include "threads/SystemCall.h"
+#include "threads/ThreadState.h"
 #include "windows/ModalScope.h"
 
 #include <utility>
 
 namespace {
 
-/// The object whose window is still to come.
-thread_local CCommonDialog* awaitingWindow = NULL;
-
 /// Makes an object the one whose window is still to come.
 class ScopedAwaiting
 {
 public:
-    explicit ScopedAwaiting(CCommonDialog* dialog) { awaitingWindow = dialog; }
+    explicit ScopedAwaiting(CCommonDialog* dialog) { afxint::CurrentThread().awaited = dialog; }
     // A dialog that failed, or whose hook was taken out, left it there.
-    ~ScopedAwaiting() { awaitingWindow = NULL; }
+    ~ScopedAwaiting() { afxint::CurrentThread().awaited = NULL; }
     ScopedAwaiting(const ScopedAwaiting&) = delete;
     ScopedAwaiting& operator=(const ScopedAwaiting&) = delete;
 };
@@ -44,7 +42,7 @@ UINT_PTR afxint::CommonDialogHook::Handle(const MSG& message)
     static const UINT listSelection = ::RegisterWindowMessage(LBSELCHSTRING);
 
     if (message.message == WM_INITDIALOG) {
-        CCommonDialog* dialog = std::exchange(awaitingWindow, nullptr);
+        CCommonDialog* dialog = std::exchange(CurrentThread().awaited, nullptr);
         if (dialog == NULL || !dialog->SubclassWindow(message.hwnd))
             return FALSE;
         return dialog->OnInitDialog();

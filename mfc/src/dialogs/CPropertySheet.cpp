@@ -16,19 +16,6 @@ namespace {
 
 constexpr DWORD systemStyle = static_cast<DWORD>(-1); ///< Leaves the styles to the system.
 
-/// The sheet whose window is being made.
-thread_local CPropertySheet* sheetInCreation = NULL;
-
-/// Names the sheet while its window is being made.
-class ScopedCreation
-{
-public:
-    explicit ScopedCreation(CPropertySheet* sheet) { sheetInCreation = sheet; }
-    ~ScopedCreation() { sheetInCreation = NULL; }
-    ScopedCreation(const ScopedCreation&) = delete;
-    ScopedCreation& operator=(const ScopedCreation&) = delete;
-};
-
 bool IsModal(const CPropertySheet& sheet)
 {
     return afxint::ModalState::IsRunning(sheet);
@@ -41,7 +28,7 @@ struct afxint::PropertySheetHook
 {
     static int CALLBACK Procedure(HWND, UINT message, LPARAM lParam) noexcept
     {
-        const CPropertySheet* sheet = sheetInCreation;
+        const auto* sheet = static_cast<CPropertySheet*>(WindowCreation::AwaitedObject());
         if (message != PSCB_PRECREATE || sheet == NULL || sheet->style_ == systemStyle)
             return 0;
         // Both kinds of dialog templates hold the two styles, but not in the same place.
@@ -318,7 +305,6 @@ bool CPropertySheet::ShowSheet(HWND owner)
     header.phpage = systemPages.data();
     header.pfnCallback = afxint::PropertySheetHook::Procedure;
     afxint::WindowCreation creation(this);
-    const ScopedCreation naming(this);
     const INT_PTR sheet = creation.IsReady() ? ::PropertySheet(&header) : -1;
     const HWND window = sheet == -1 ? NULL : (HWND)sheet;
     if (!creation.Finish(window))

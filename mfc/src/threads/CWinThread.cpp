@@ -348,8 +348,7 @@ namespace afxint {
 
 void WatchSystemLoops()
 {
-    // The system takes the hook away when the thread ends.
-    thread_local HHOOK hook = NULL;
+    HHOOK& hook = CurrentThread().systemLoopHook;
     if (hook == NULL)
         hook = SetWindowsHookEx(WH_MSGFILTER, &WatchSystemLoop, NULL, GetCurrentThreadId());
 }

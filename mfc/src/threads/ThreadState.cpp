@@ -4,8 +4,6 @@ namespace afxint {
 
 namespace {
 
-// A thread_local object with a destructor will not do: this compiler's run-time library may free
-// its memory before the destructor runs.
 DWORD StateSlot()
 {
     static const DWORD slot = TlsAlloc();

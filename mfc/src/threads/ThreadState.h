@@ -2,7 +2,9 @@
 #pragma once
 
 #include "objects/HandleMap.h"
+#include "windows/ToolTips.h"
 
+class CCommonDialog;
 class CDC;
 class CGdiObject;
 class CImageList;
@@ -51,12 +53,18 @@ struct ImageListTraits
     static void Unwrap(CImageList* list);
 };
 
+/// No variable of the library is thread_local: this compiler's run-time library ends the program
+/// where there is no memory for one, and may free an object's memory before its destructor runs.
 struct ThreadState
 {
-    CWinThread* thread = NULL;        ///< What AfxGetThread answers; not owned.
-    int handlerDepth = 0;             ///< Message handlers on the stack.
-    MSG currentMessage{};             ///< The message that Default() hands on.
-    WindowCreation* creation = NULL;  ///< Waits for the next window that is created.
+    CWinThread* thread = NULL;       ///< What AfxGetThread answers; not owned.
+    int handlerDepth = 0;            ///< Message handlers on the stack.
+    MSG currentMessage{};            ///< The message that Default() hands on.
+    WindowCreation* creation = NULL; ///< Waits for the next window that is created.
+    CCommonDialog* awaited = NULL;   ///< The common dialog whose window is still to come.
+    HHOOK systemLoopHook = NULL;     ///< Watches the system's own loops; the system frees it.
+    TCHAR className[128] = {};       ///< What AfxRegisterWndClass gave last.
+    ToolTip toolTip;
     HMENU openedMenu = NULL;          ///< The menu whose items may be measured next.
     CWnd* inheritedMainWindow = NULL; ///< The worker thread's own object for its creator's one.
 

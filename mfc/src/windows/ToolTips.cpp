@@ -4,29 +4,24 @@
 #include <classes/CPoint.h>
 #include <classes/CWnd.h>
 
+#include "threads/ThreadState.h"
 #include "windows/CommonControls.h"
 
 namespace {
 
-constexpr INT_PTR noTool = -1;
+constexpr INT_PTR noTool = afxint::ToolTip::noTool;
 
-/// The tip of a thread and the tool that it serves just now.
-struct Tip
+afxint::ToolTip& Tip()
 {
-    HWND window = NULL;
-    HWND asker = NULL; ///< Whose OnToolHitTest told the tool.
-    INT_PTR hit = noTool;
-    TOOLINFO tool{};
-};
-
-thread_local Tip tip;
+    return afxint::CurrentThread().toolTip;
+}
 
 /// The size of the structure in the first version of the common controls that has lParam.
 const UINT toolSize = CCSIZEOF_STRUCT(TOOLINFO, lParam);
 
 void Send(UINT message, WPARAM wParam, LPARAM lParam)
 {
-    SendMessage(tip.window, message, wParam, lParam);
+    SendMessage(Tip().window, message, wParam, lParam);
 }
 
 LPARAM Address(const void* structure)
@@ -36,14 +31,14 @@ LPARAM Address(const void* structure)
 
 bool MakeWindow(HWND asker)
 {
-    if (tip.window != NULL && IsWindow(tip.window))
+    if (Tip().window != NULL && IsWindow(Tip().window))
         return true;
-    tip = Tip{};
+    Tip() = {};
     afxint::NeedCommonControls(ICC_BAR_CLASSES);
-    tip.window = CreateWindowEx(WS_EX_TOPMOST, TOOLTIPS_CLASS, NULL, WS_POPUP | TTS_ALWAYSTIP,
-                                CW_USEDEFAULT, CW_USEDEFAULT, CW_USEDEFAULT, CW_USEDEFAULT,
-                                GetAncestor(asker, GA_ROOT), NULL, NULL, NULL);
-    return tip.window != NULL;
+    Tip().window = CreateWindowEx(WS_EX_TOPMOST, TOOLTIPS_CLASS, NULL, WS_POPUP | TTS_ALWAYSTIP,
+                                  CW_USEDEFAULT, CW_USEDEFAULT, CW_USEDEFAULT, CW_USEDEFAULT,
+                                  GetAncestor(asker, GA_ROOT), NULL, NULL, NULL);
+    return Tip().window != NULL;
 }
 
 /// A text that OnToolHitTest gives is its receiver's, made with malloc.
@@ -55,31 +50,31 @@ void FreeText(const TOOLINFO& tool)
 
 void DropTool()
 {
-    if (tip.hit == noTool)
+    if (Tip().hit == noTool)
         return;
-    if (IsWindow(tip.window)) {
+    if (IsWindow(Tip().window)) {
         Send(TTM_POP, 0, 0);
-        Send(TTM_DELTOOL, 0, Address(&tip.tool));
+        Send(TTM_DELTOOL, 0, Address(&Tip().tool));
     }
-    FreeText(tip.tool);
-    tip.asker = NULL;
-    tip.hit = noTool;
+    FreeText(Tip().tool);
+    Tip().asker = NULL;
+    Tip().hit = noTool;
 }
 
 void TakeTool(HWND asker, INT_PTR hit, const TOOLINFO& tool, bool tracking)
 {
-    tip.asker = asker;
-    tip.hit = hit;
-    tip.tool = tool;
-    tip.tool.cbSize = toolSize;
+    Tip().asker = asker;
+    Tip().hit = hit;
+    Tip().tool = tool;
+    Tip().tool.cbSize = toolSize;
     if (tracking)
-        tip.tool.uFlags |= TTF_TRACK;
+        Tip().tool.uFlags |= TTF_TRACK;
     Send(TTM_ACTIVATE, TRUE, 0);
-    Send(TTM_ADDTOOL, 0, Address(&tip.tool));
+    Send(TTM_ADDTOOL, 0, Address(&Tip().tool));
     if (tracking) {
         const DWORD position = GetMessagePos();
         Send(TTM_TRACKPOSITION, 0, static_cast<LPARAM>(position));
-        Send(TTM_TRACKACTIVATE, TRUE, Address(&tip.tool));
+        Send(TTM_TRACKACTIVATE, TRUE, Address(&Tip().tool));
     }
 }
 
@@ -88,8 +83,8 @@ void TakeTool(HWND asker, INT_PTR hit, const TOOLINFO& tool, bool tracking)
 void Relay(const MSG& message)
 {
     MSG relayed = message;
-    relayed.hwnd = (tip.tool.uFlags & TTF_IDISHWND) != 0 ? reinterpret_cast<HWND>(tip.tool.uId)
-                                                         : tip.tool.hwnd;
+    relayed.hwnd = (Tip().tool.uFlags & TTF_IDISHWND) != 0 ? reinterpret_cast<HWND>(Tip().tool.uId)
+                                                           : Tip().tool.hwnd;
     POINT point = message.pt;
     ScreenToClient(relayed.hwnd, &point);
     relayed.lParam = MAKELPARAM(point.x, point.y);
@@ -105,7 +100,7 @@ bool IsMouseMessage(UINT message)
 
 void afxint::ForgetToolTips(const CWnd& window)
 {
-    if (tip.hit != noTool && tip.asker == window.m_hWnd)
+    if (Tip().hit != noTool && Tip().asker == window.m_hWnd)
         DropTool();
 }
 
@@ -145,14 +140,14 @@ void CWnd::FilterToolTipMessage(MSG* pMsg)
     TOOLINFO tool{};
     tool.cbSize = toolSize;
     const INT_PTR hit = OnToolHitTest(CPoint(point), &tool);
-    const bool same = tip.asker == m_hWnd && tip.hit == hit;
+    const bool same = Tip().asker == m_hWnd && Tip().hit == hit;
     if (!same)
         DropTool();
     if (!same && hit != noTool && MakeWindow(m_hWnd))
         TakeTool(m_hWnd, hit, tool, Has(trackingToolTips));
     else
         FreeText(tool);
-    if (tip.hit != noTool)
+    if (Tip().hit != noTool)
         Relay(*pMsg);
 }
 

@@ -34,6 +34,12 @@ WindowCreation::~WindowCreation()
     StopWaiting();
 }
 
+CWnd* WindowCreation::AwaitedObject()
+{
+    const WindowCreation* creation = CurrentThread().creation;
+    return creation == NULL ? NULL : creation->object_;
+}
+
 bool WindowCreation::Finish(HWND window)
 {
     StopWaiting();

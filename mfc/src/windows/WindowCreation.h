@@ -19,6 +19,8 @@ public:
 
     /// False when no window can be tied to the object; then none is to be made.
     bool IsReady() const { return hook_ != NULL; }
+    /// The object that waits for its window in the calling thread; NULL when none does.
+    static CWnd* AwaitedObject();
     /// Stops waiting; `window` is what the system's function returned. False when the object has no
     /// window and nobody has called its PostNcDestroy yet. The object may be gone otherwise.
     bool Finish(HWND window);

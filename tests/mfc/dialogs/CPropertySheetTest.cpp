@@ -9,8 +9,10 @@
 #include "testing/Pump.h"
 
 #include "tests/mfc/ControlHost.h"
+#include "tests/mfc/LittleMemory.h"
 #include "tests/mfc/Throws.h"
 
+#include <new>
 #include <string>
 #include <vector>
 
@@ -202,6 +204,33 @@ TEST_CASE("an exception that ends the loop of a sheet leaves owner and sheet usa
     CHECK(two.first.m_hWnd == NULL);
     two.sheet.fails = false;
     CHECK(two.Run([](Page& box) { box.Click(IDCANCEL); }) == IDCANCEL);
+}
+
+TEST_CASE("a sheet for which there is too little memory leaves its owner usable")
+{
+    TwoPages two;
+    int sheetsWithoutPage = 0;
+    for (int block = 1, missing = 1; missing != 0; ++block) {
+        CAPTURE(block);
+        two.first.events.clear();
+        INT_PTR result = -1;
+        {
+            const auto close = [](HWND box) { ::PostMessage(box, WM_CLOSE, 0, 0); };
+            const NextDialog first(close), second(close); // One may tell what has failed.
+            const OneBlockMissing memory(block);
+            try {
+                result = two.sheet.DoModal();
+            } catch (const std::bad_alloc&) {
+            }
+            missing = memory.Failed();
+        }
+        CHECK(two.host.IsWindowEnabled());
+        CHECK(two.sheet.m_hWnd == NULL);
+        CHECK(two.first.m_hWnd == NULL);
+        // What fails while the system makes a page does not come out of the system's call.
+        sheetsWithoutPage += result == IDCANCEL && two.first.CountOf("create") == 0;
+    }
+    CHECK(sheetsWithoutPage > 0);
 }
 
 TEST_CASE("a sheet that is ended while it is made has no loop")

@@ -3,12 +3,16 @@
 #include <doctest/doctest.h>
 
 #include "testing/Input.h"
+#include "testing/NextDialog.h"
+#include "testing/Page.h"
 #include "testing/Pump.h"
 
 #include <afxres.h>
 
+#include <new>
 #include <string>
 
+#include "tests/mfc/LittleMemory.h"
 #include "tests/mfc/Resources.h"
 
 using namespace umbra::testing;
@@ -204,6 +208,38 @@ TEST_CASE("a modal state disables the frame and what it owns, and nests")
     CHECK_FALSE(disabled.IsWindowEnabled());
     popup.DestroyWindow();
     disabled.DestroyWindow();
+}
+
+TEST_CASE("a modal state for which there is too little memory leaves frame and windows in order")
+{
+    ScopedFrame frame;
+    REQUIRE(frame.made);
+    CWnd popup;
+    REQUIRE(popup.CreateEx(0, NULL, _T(""), WS_POPUP, CRect(0, 0, 9, 9), frame.Get(), 0));
+    int reported = 0;
+    for (int block = 1, missing = 1; missing != 0; ++block) {
+        const NextDialog answer([](HWND box) { Page(box).Click(IDOK); });
+        bool begun = true;
+        {
+            const OneBlockMissing memory(block);
+            try {
+                frame->BeginModalState();
+            } catch (const std::bad_alloc&) {
+                begun = false;
+            }
+            missing = memory.Failed();
+        }
+        // What failed inside a call of the system's is told; it does not come out of that call.
+        reported += answer.HasRun();
+        CHECK((begun || !answer.HasRun()));
+        CHECK(frame->InModalState() == begun);
+        if (begun)
+            frame->EndModalState();
+        CHECK(frame->IsWindowEnabled());
+        CHECK(popup.IsWindowEnabled());
+    }
+    CHECK(reported > 0);
+    popup.DestroyWindow();
 }
 
 TEST_CASE("a child finds the frame it is in")

@@ -12,6 +12,7 @@
 #include <string>
 
 #include "tests/mfc/FailureCount.h"
+#include "tests/mfc/LittleMemory.h"
 #include "tests/mfc/Resources.h"
 #include "tests/mfc/Throws.h"
 
@@ -478,6 +479,21 @@ TEST_CASE("a window that was only attached is forgotten when it is destroyed")
     CHECK_FALSE(::IsWindow(window));
     CHECK(object.m_hWnd == nullptr);
     CHECK(CWnd::FromHandlePermanent(window) == nullptr);
+}
+
+TEST_CASE("a window that could not be entered is not the object's")
+{
+    const HWND stranger = MakeStranger();
+    CWnd window;
+    {
+        const OneBlockMissing memory(1);
+        CHECK_THROWS_AS(window.Attach(stranger), std::bad_alloc);
+        CHECK(memory.Failed() == 1);
+    }
+    CHECK(window.m_hWnd == NULL);
+    CHECK(CWnd::FromHandlePermanent(stranger) == NULL);
+    REQUIRE(window.Attach(stranger));
+    CHECK(window.DestroyWindow());
 }
 
 TEST_CASE("a subclassed window that is detached keeps working, and may be attached again")
