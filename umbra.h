@@ -4,6 +4,8 @@
 #include <afxcmn.h>
 #include <afxwin.h>
 
+#include "assist/Keyboard.h"
+
 #include "shell/HandCursor.h"
 #include "shell/PictureLoader.h"
 #include "shell/ShellOpen.h"

@@ -71,7 +71,7 @@ if(NOT UMBRA_NATIVE_MFC)
     set(UMBRA_PC_FLAGS "-DUMBRA_UNICODE -DUNICODE -D_UNICODE")
   endif()
   if(CMAKE_CXX_COMPILER_ID STREQUAL GNU)
-    string(APPEND UMBRA_PC_FLAGS " -Wconditionally-supported") # As for those who build with CMake.
+    string(APPEND UMBRA_PC_FLAGS " -Wconditionally-supported -Wno-error=conditionally-supported") # As for those who build with CMake.
   endif()
   foreach(package umbra umbra-mfc)
     set(file ${package}${UMBRA_TARGET_SUFFIX}.pc)

@@ -30,6 +30,7 @@ public:
 
     /// Makes the label a link, underlined; an empty target means its text. The text colour stays.
     void SetURL(CString target);
+    bool IsLink() const { return m_bIsLink; }
 
     /// Gives the control an underlined copy of its font when the label is a link, a semibold one
     /// otherwise. Each call leaves one font object behind.

@@ -2,6 +2,7 @@
 
 #include "controls/Abandon.h"
 #include "controls/BufferTarget.h"
+#include "controls/DialogGroup.h"
 #include "controls/FollowLayout.h"
 #include "controls/KeyedPicture.h"
 #include "controls/MemoryCanvas.h"
@@ -582,21 +583,8 @@ BOOL CxShadeButton::Send(UINT message, WPARAM wParam)
 /// Has the other buttons of the dialog group unchecked once the current message is done.
 void CxShadeButton::UncheckGroup()
 {
-    const HWND parent = ::GetParent(m_hWnd);
-    const HWND first = ::GetNextDlgGroupItem(parent, m_hWnd, FALSE);
-    HWND mark = first;
-    unsigned int steps = 0;
-    for (HWND item = first; item != nullptr && item != m_hWnd;) {
-        ::PostMessage(item, WM_SHADE_UNCHECK, 0, 0);
-        item = ::GetNextDlgGroupItem(parent, item, FALSE);
-        // A hidden or disabled button is not part of the circle, so the walk need not come back to
-        // it: it ends where it has been before.
-        if (item == first || item == mark)
-            return;
-        ++steps;
-        if ((steps & (steps - 1)) == 0) // A power of two.
-            mark = item;
-    }
+    umbra::ForEachOtherOfGroup(m_hWnd,
+                               [](HWND other) { ::PostMessage(other, WM_SHADE_UNCHECK, 0, 0); });
 }
 
 void CxShadeButton::UpdateToolTipText()

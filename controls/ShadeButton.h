@@ -58,6 +58,8 @@ public:
     void SetIcons(HICON hIcon, UINT align, int width, int height, HICON hIconDown = nullptr,
                   HICON hIconOver = nullptr);
 
+    Kind GetKind() const { return static_cast<Kind>(m_buttonKind); }
+
     void SetTextColor(COLORREF color);
     BOOL SetTextFont(const LOGFONT& font); ///< FALSE: no such font; the default GUI font is used.
     void SetBorder(int border);            ///< Inset of focus lines and caption, in pixels.

@@ -62,6 +62,7 @@ BOOL CGalleryPage::OnInitDialog()
         SetLabelText(m_footnote, "The image folder " + ImageFolder() +
                                      " is missing: pictures and icons are left out.");
     }
+    AssistKeyboard(*this);
     return TRUE;
 }
 

@@ -15,6 +15,7 @@ public:
     {
         CBaseDialog::OnInitDialog();
         m_note.SetLabelTextColor(RGB(40, 60, 110));
+        AssistKeyboard(*this);
         return TRUE;
     }
 

@@ -153,7 +153,7 @@ void* TargetOf(const Import& import)
     // The slot may still lead to a stub, which would write over a hook on its first call.
     const char* name = import.name.empty() ? MAKEINTRESOURCEA(import.ordinal) : import.name.c_str();
     HMODULE dll = ::LoadLibraryA(import.dll.c_str());
-    return reinterpret_cast<void*>(::GetProcAddress(dll, name));
+    return reinterpret_cast<void*>(reinterpret_cast<INT_PTR>(::GetProcAddress(dll, name)));
 }
 
 HMODULE ModuleOf(const void* address)

@@ -11,6 +11,7 @@
 
 using umbra::testing::Canvas;
 using umbra::testing::DoModal;
+using umbra::testing::keyNotTaken;
 using umbra::testing::ModalOutcome;
 using umbra::testing::Page;
 using umbra::testing::Picture;
@@ -109,6 +110,21 @@ void RunSavePage()
                                          CHECK(page.Click(IDC_PRINT));
                                      },
                                      Cancel,
+                                 });
+    CHECK(result == IDCANCEL);
+}
+
+void RunAskPage()
+{
+    CAskPage dialog(NULL);
+    const INT_PTR result = Drive("CAskPage", dialog,
+                                 {
+                                     [](Page& page) {
+                                         CHECK(page.Text(IDOK) == "&Confirm");
+                                         ::SetFocus(page.Control(IDCANCEL));
+                                         // Without the assistance it would mean Confirm.
+                                         CHECK(page.PressKey(VK_RETURN) != keyNotTaken);
+                                     },
                                  });
     CHECK(result == IDCANCEL);
 }
@@ -230,6 +246,7 @@ int main()
     RunPanelDialog();
     RunMoveOntoGrid();
     RunSavePage();
+    RunAskPage();
     RunAboutPage();
     RunHintPage();
     RunWelcomePage();

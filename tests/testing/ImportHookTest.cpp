@@ -156,7 +156,7 @@ int WINAPI BindAndCall(int)
 
 TEST_CASE("a delayed import is hooked before its first call, and leads past the stub")
 {
-    void* const stub = reinterpret_cast<void*>(&BindAndCall);
+    void* const stub = reinterpret_cast<void*>(reinterpret_cast<INT_PTR>(&BindAndCall));
     DelayingModule module(stub);
     const std::vector<Import> imports = ImportsOf(module.Handle());
     REQUIRE(imports.size() == 1);
@@ -165,7 +165,7 @@ TEST_CASE("a delayed import is hooked before its first call, and leads past the 
     {
         const ImportHook hook(module.Handle(), "user32.dll", "GetSystemMetrics", AnswerMetric);
         REQUIRE(hook.IsInstalled());
-        CHECK(module.slots[0] == reinterpret_cast<void*>(&AnswerMetric));
+        CHECK(module.slots[0] == reinterpret_cast<void*>(reinterpret_cast<INT_PTR>(&AnswerMetric)));
         CHECK(hook.OriginalAs<decltype(::GetSystemMetrics)>()(SM_CXSCREEN) ==
               ::GetSystemMetrics(SM_CXSCREEN));
     }

@@ -18,7 +18,7 @@ BOOL CMFCVisualManagerWindows::IsWinXPThemeAvailable()
     if (themes == NULL)
         return FALSE;
     const auto isActive =
-        reinterpret_cast<Ask>(reinterpret_cast<void*>(GetProcAddress(themes, "IsThemeActive")));
+        reinterpret_cast<Ask>(reinterpret_cast<INT_PTR>(GetProcAddress(themes, "IsThemeActive")));
     return isActive != NULL && isActive();
 }
 

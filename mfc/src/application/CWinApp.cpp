@@ -276,7 +276,7 @@ void CWinApp::HtmlHelp(DWORD_PTR dwData, UINT nCmd)
     static const HMODULE viewer = ::LoadLibrary(_T("hhctrl.ocx"));
     Show show = NULL;
     if (viewer != NULL)
-        show = reinterpret_cast<Show>(reinterpret_cast<void*>(GetProcAddress(viewer, function)));
+        show = reinterpret_cast<Show>(reinterpret_cast<INT_PTR>(GetProcAddress(viewer, function)));
     if (show == NULL || show(m_pMainWnd->GetSafeHwnd(), m_pszHelpFilePath, nCmd, dwData) == NULL)
         AfxMessageBox(AFX_IDP_FAILED_TO_LAUNCH_HELP);
 }

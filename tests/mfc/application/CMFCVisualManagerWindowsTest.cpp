@@ -9,7 +9,7 @@ TEST_CASE("the manager of the system's theme knows whether there is one")
     const HMODULE themes = LoadLibrary(_T("uxtheme.dll"));
     REQUIRE(themes != NULL);
     const auto isActive = reinterpret_cast<BOOL(WINAPI*)()>(
-        reinterpret_cast<void*>(GetProcAddress(themes, "IsThemeActive")));
+        reinterpret_cast<INT_PTR>(GetProcAddress(themes, "IsThemeActive")));
     REQUIRE(isActive != NULL);
     CHECK(CMFCVisualManagerWindows::IsWinXPThemeAvailable() == isActive());
     FreeLibrary(themes);

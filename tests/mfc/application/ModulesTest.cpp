@@ -22,7 +22,8 @@ public:
     template <class Function>
     Function Find(LPCSTR name) const
     {
-        void* address = reinterpret_cast<void*>(::GetProcAddress(m_hModule, name));
+        void* address =
+            reinterpret_cast<void*>(reinterpret_cast<INT_PTR>(::GetProcAddress(m_hModule, name)));
         REQUIRE(address != nullptr);
         return reinterpret_cast<Function>(address);
     }
