@@ -4,7 +4,6 @@
 
 #include <umbra.h>
 
-#include <cstdio>
 #include <vector>
 
 namespace {
@@ -38,12 +37,12 @@ INT_PTR CALLBACK PlainProcedure(HWND, UINT message, WPARAM, LPARAM)
 HWND AddControl(HWND page, int index)
 {
     const bool isButton = index % 2 != 0;
-    char text[32];
-    std::snprintf(text, sizeof(text), "Control %d", index);
-    return ::CreateWindowA(isButton ? "Button" : "Static", text,
-                           WS_CHILD | WS_VISIBLE | (isButton ? BS_PUSHBUTTON : SS_NOTIFY),
-                           80 + index % columns * 70, 120 + index / columns * 22, 66, 20, page,
-                           nullptr, ::GetModuleHandleA(nullptr), nullptr);
+    CString text;
+    text.Format(_T("Control %d"), index);
+    return ::CreateWindow(isButton ? _T("Button") : _T("Static"), text,
+                          WS_CHILD | WS_VISIBLE | (isButton ? BS_PUSHBUTTON : SS_NOTIFY),
+                          80 + index % columns * 70, 120 + index / columns * 22, 66, 20, page,
+                          nullptr, ::GetModuleHandle(nullptr), nullptr);
 }
 
 } // namespace
@@ -58,8 +57,8 @@ struct PageScene::Content
 PageScene::PageScene(SceneKind kind, int controls) : m_content(new Content)
 {
     if (kind == SceneKind::plain) {
-        m_content->window = ::CreateDialogParamA(
-            ::GetModuleHandleA(nullptr), MAKEINTRESOURCEA(IDD_START), nullptr, PlainProcedure, 0);
+        m_content->window = ::CreateDialogParam(
+            ::GetModuleHandle(nullptr), MAKEINTRESOURCE(IDD_START), nullptr, PlainProcedure, 0);
     } else {
         m_content->page.Create(IDD_START);
         m_content->window = m_content->page.m_hWnd;

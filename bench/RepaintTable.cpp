@@ -9,8 +9,8 @@
 
 namespace {
 
-constexpr char parentClass[] = "UmbraBenchParent";
-constexpr char captionText[] = "Continue";
+constexpr TCHAR parentClass[] = _T("UmbraBenchParent");
+constexpr TCHAR captionText[] = _T("Continue");
 constexpr COLORREF tint = RGB(180, 200, 230);
 
 // What the plain button shows: the face alone, or what a dialog's button shows besides.
@@ -36,11 +36,11 @@ void DrawPlainButton(const DRAWITEMSTRUCT& item)
         RECT area = item.rcItem;
         const HGDIOBJ oldFont = ::SelectObject(memory, ::GetStockObject(DEFAULT_GUI_FONT));
         ::DrawEdge(memory, &area, EDGE_RAISED, BF_RECT);
-        char caption[64];
-        ::GetWindowTextA(item.hwndItem, caption, sizeof(caption));
+        TCHAR caption[64];
+        ::GetWindowText(item.hwndItem, caption, _countof(caption));
         ::SetBkMode(memory, TRANSPARENT);
         ::SetTextColor(memory, ::GetSysColor(COLOR_BTNTEXT));
-        ::DrawTextA(memory, caption, -1, &area, DT_CENTER | DT_VCENTER | DT_SINGLELINE);
+        ::DrawText(memory, caption, -1, &area, DT_CENTER | DT_VCENTER | DT_SINGLELINE);
         ::SelectObject(memory, oldFont);
     }
     ::BitBlt(item.hDC, 0, 0, width, height, memory, 0, 0, SRCCOPY);
@@ -55,26 +55,26 @@ LRESULT CALLBACK PlainParentProc(HWND window, UINT message, WPARAM wParam, LPARA
         DrawPlainButton(*reinterpret_cast<const DRAWITEMSTRUCT*>(lParam));
         return TRUE;
     }
-    return ::DefWindowProcA(window, message, wParam, lParam);
+    return ::DefWindowProc(window, message, wParam, lParam);
 }
 
 // A visible window for a button of the given size; it must not be covered, since what is covered is
 // not painted.
 HWND CreateParent(const FaceSize& size, int left)
 {
-    WNDCLASSA windowClass = {};
+    WNDCLASS windowClass = {};
     windowClass.lpfnWndProc = PlainParentProc;
-    windowClass.hInstance = ::GetModuleHandleA(nullptr);
+    windowClass.hInstance = ::GetModuleHandle(nullptr);
     windowClass.lpszClassName = parentClass;
-    ::RegisterClassA(&windowClass); // Fails from the second time on, which is as well.
-    return ::CreateWindowA(parentClass, "", WS_POPUP | WS_VISIBLE, left, 0, size.width, size.height,
-                           nullptr, nullptr, windowClass.hInstance, nullptr);
+    ::RegisterClass(&windowClass); // Fails from the second time on, which is as well.
+    return ::CreateWindow(parentClass, _T(""), WS_POPUP | WS_VISIBLE, left, 0, size.width,
+                          size.height, nullptr, nullptr, windowClass.hInstance, nullptr);
 }
 
-HWND CreateButton(HWND parent, const FaceSize& size, DWORD style, const char* caption)
+HWND CreateButton(HWND parent, const FaceSize& size, DWORD style, LPCTSTR caption)
 {
-    return ::CreateWindowA("BUTTON", caption, WS_CHILD | WS_VISIBLE | style, 0, 0, size.width,
-                           size.height, parent, nullptr, ::GetModuleHandleA(nullptr), nullptr);
+    return ::CreateWindow(_T("BUTTON"), caption, WS_CHILD | WS_VISIBLE | style, 0, 0, size.width,
+                          size.height, parent, nullptr, ::GetModuleHandle(nullptr), nullptr);
 }
 
 void Repaint(HWND button)
@@ -100,7 +100,7 @@ bool PaintsItself(HWND button)
 
 void PrintLine(const FaceSize& size, bool decorated)
 {
-    const char* const caption = decorated ? captionText : "";
+    const LPCTSTR caption = decorated ? captionText : _T("");
 
     const HWND plainParent = CreateParent(size, 0);
     const HWND plain = CreateButton(plainParent, size, BS_OWNERDRAW, caption);

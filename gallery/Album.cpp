@@ -4,6 +4,7 @@
 #include "gallery/Pointer.h"
 
 #include <testing/Picture.h>
+#include <testing/Text.h>
 
 #include <stdio.h>
 
@@ -85,7 +86,7 @@ void CAlbum::Take(CWnd& window, const char* name, const char* caption)
     CBitmap picture;
     if (!memory.CreateCompatibleDC(&screen) ||
         !picture.CreateCompatibleBitmap(&screen, area.Width(), area.Height())) {
-        Fail(CString(name) + ": no memory for the picture");
+        Fail(CString(name) + _T(": no memory for the picture"));
         return;
     }
     CBitmap* before = memory.SelectObject(&picture);
@@ -95,33 +96,33 @@ void CAlbum::Take(CWnd& window, const char* name, const char* caption)
     const bool blank = IsBlank(memory, area.Size());
     memory.SelectObject(before);
 
-    const CString file = CString(name) + ".png";
+    const CString file = CString(name) + _T(".png");
     if (blank) {
-        Fail(file + ": the window shows nothing");
+        Fail(file + _T(": the window shows nothing"));
         return;
     }
     const Picture shot = Picture::OfBitmap(static_cast<HBITMAP>(picture.GetSafeHandle()));
     if (!shot.SavePng(m_folder + file)) {
-        Fail(m_folder + file + " could not be written");
+        Fail(m_folder + file + _T(" could not be written"));
         return;
     }
     m_entries.push_back({name, caption});
-    printf("%s\n", static_cast<LPCTSTR>(file));
+    printf("%s.png\n", name);
     fflush(stdout);
 }
 
 void CAlbum::WriteIndex()
 {
-    CString page = "<!DOCTYPE html>\n<html lang=\"en\">\n<head>\n<meta charset=\"utf-8\">\n"
-                   "<title>Umbra gallery</title>\n<style>\n"
-                   "body { font: 15px/1.5 sans-serif; background: #f0f3f8; color: #2b3852;"
-                   " margin: 32px; }\n"
-                   "h1 { color: #1c263b; }\n"
-                   "figure { display: inline-block; margin: 0 28px 32px 0;"
-                   " vertical-align: top; }\n"
-                   "img { display: block; border: 1px solid #becadb; }\n"
-                   "figcaption { margin-top: 6px; color: #54637e; max-width: 640px; }\n"
-                   "</style>\n</head>\n<body>\n<h1>Umbra gallery</h1>\n";
+    CStringA page = "<!DOCTYPE html>\n<html lang=\"en\">\n<head>\n<meta charset=\"utf-8\">\n"
+                    "<title>Umbra gallery</title>\n<style>\n"
+                    "body { font: 15px/1.5 sans-serif; background: #f0f3f8; color: #2b3852;"
+                    " margin: 32px; }\n"
+                    "h1 { color: #1c263b; }\n"
+                    "figure { display: inline-block; margin: 0 28px 32px 0;"
+                    " vertical-align: top; }\n"
+                    "img { display: block; border: 1px solid #becadb; }\n"
+                    "figcaption { margin-top: 6px; color: #54637e; max-width: 640px; }\n"
+                    "</style>\n</head>\n<body>\n<h1>Umbra gallery</h1>\n";
     for (const Entry& entry : m_entries) {
         page += "<figure><img src=\"" + entry.name + ".png\" alt=\"" + entry.caption +
                 "\"><figcaption>" + entry.caption + "</figcaption></figure>\n";
@@ -129,22 +130,23 @@ void CAlbum::WriteIndex()
     page += "</body>\n</html>\n";
 
     CFile file;
-    const CString path = m_folder + "index.html";
+    const CString path = m_folder + _T("index.html");
     if (!file.Open(path, CFile::modeCreate | CFile::modeWrite)) {
-        Fail(path + " could not be written");
+        Fail(path + _T(" could not be written"));
         return;
     }
     try {
-        file.Write(static_cast<LPCTSTR>(page), page.GetLength());
+        file.Write(static_cast<LPCSTR>(page), page.GetLength());
         file.Close();
     } catch (CFileException* exception) {
         exception->Delete();
-        Fail(path + " could not be written");
+        Fail(path + _T(" could not be written"));
     }
 }
 
 void CAlbum::Fail(const CString& what)
 {
-    fprintf(stderr, "umbra-gallery: %s\n", static_cast<LPCTSTR>(what));
+    fprintf(stderr, "umbra-gallery: %s\n",
+            umbra::testing::Printable(static_cast<LPCTSTR>(what)).c_str());
     m_complete = FALSE;
 }

@@ -10,7 +10,7 @@ class CAlbum
 public:
     explicit CAlbum(const CString& folder) : m_folder(folder) {}
 
-    /// A picture of a window as the screen shows it.
+    /// A picture of a window as the screen shows it. Name and caption are ASCII.
     void Take(CWnd& window, const char* name, const char* caption);
     void WriteIndex();
     void Fail(const CString& what);
@@ -19,8 +19,8 @@ public:
 private:
     struct Entry
     {
-        CString name;
-        CString caption;
+        CStringA name;
+        CStringA caption;
     };
 
     CString m_folder;

@@ -58,9 +58,10 @@ void CBackgroundsPage::OnDrag()
     m_bDragAnywhere = allow;
     for (CSampleDialog& sample : m_samples)
         sample.AllowDrag(allow);
-    SetLabelText(m_dragState,
-                 allow ? "On.\nPress anywhere in this page or in one of its windows, and move it."
-                       : "Off.\nWindows move by their title bars, and those without one stay put.");
+    SetLabelText(
+        m_dragState,
+        allow ? _T("On.\nPress anywhere in this page or in one of its windows, and move it.")
+              : _T("Off.\nWindows move by their title bars, and those without one stay put."));
 }
 
 void CBackgroundsPage::OnDestroy()

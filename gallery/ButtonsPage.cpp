@@ -22,8 +22,8 @@ const BYTE grain = 10;
 const int pictureSize = 19; // Pixels.
 const COLORREF pictureKey = RGB(0, 0, 0);
 
-const char* const stateCaptions[CButtonsPage::stateCount] = {"Try me", "Hot", "Pressed",
-                                                             "Disabled"};
+const LPCTSTR stateCaptions[CButtonsPage::stateCount] = {_T("Try me"), _T("Hot"), _T("Pressed"),
+                                                         _T("Disabled")};
 
 } // namespace
 
@@ -36,14 +36,14 @@ BOOL CButtonsPage::OnInitDialog()
     CGalleryPage::OnInitDialog();
     CreateMatrix();
     ShadeOthers();
-    m_pictureLeft.SetPicture(PictureFile("Ok.gif"), CxShadeButton::alignLeft, pictureSize,
+    m_pictureLeft.SetPicture(PictureFile(_T("Ok.gif")), CxShadeButton::alignLeft, pictureSize,
                              pictureSize, pictureKey);
-    m_pictureRight.SetPicture(PictureFile("Next.gif"), CxShadeButton::alignRight, pictureSize,
+    m_pictureRight.SetPicture(PictureFile(_T("Next.gif")), CxShadeButton::alignRight, pictureSize,
                               pictureSize, pictureKey);
-    m_pictureAbove.SetPicture(PictureFile("Info.gif"), CxShadeButton::alignTop, pictureSize,
+    m_pictureAbove.SetPicture(PictureFile(_T("Info.gif")), CxShadeButton::alignTop, pictureSize,
                               pictureSize, pictureKey);
-    m_checkPush.SetToolTipText("Press to switch on", "Press to switch off");
-    m_tip.SetToolTipText("A tool tip");
+    m_checkPush.SetToolTipText(_T("Press to switch on"), _T("Press to switch off"));
+    m_tip.SetToolTipText(_T("A tool tip"));
     m_checkPush.SetCheck(BST_CHECKED);
     m_radios[1].SetCheck(BST_CHECKED);
     return TRUE;

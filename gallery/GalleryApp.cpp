@@ -4,13 +4,27 @@
 #include "gallery/Shoot.h"
 #include "gallery/StartPage.h"
 
-#include <string.h>
+#include <shellapi.h>
+
+#include <vector>
 
 CGalleryApp theApp;
 
 namespace {
 
 const int wrongUsage = 2;
+
+// The words of the command line, without the program.
+std::vector<CString> Arguments()
+{
+    int count = 0;
+    LPWSTR* const words = ::CommandLineToArgvW(::GetCommandLineW(), &count);
+    if (words == nullptr)
+        return {};
+    const std::vector<CString> arguments(words + 1, words + count);
+    ::LocalFree(words);
+    return arguments;
+}
 
 } // namespace
 
@@ -23,12 +37,13 @@ BOOL CGalleryApp::InitInstance()
     g_strImageDir = GalleryFolder();
     g_crShade = palette::tint;
 
-    if (__argc > 1) {
-        if (__argc == 3 && strcmp(__argv[1], "--shoot") == 0)
-            m_exitCode = ShootGallery(__argv[2]) ? 0 : 1;
+    const std::vector<CString> arguments = Arguments();
+    if (!arguments.empty()) {
+        if (arguments.size() == 2 && arguments[0] == _T("--shoot"))
+            m_exitCode = ShootGallery(arguments[1]) ? 0 : 1;
         else {
             m_exitCode = wrongUsage;
-            AfxMessageBox("Usage: umbra-gallery [--shoot FOLDER]", MB_OK | MB_ICONINFORMATION);
+            AfxMessageBox(_T("Usage: umbra-gallery [--shoot FOLDER]"), MB_OK | MB_ICONINFORMATION);
         }
         return FALSE;
     }

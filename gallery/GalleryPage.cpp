@@ -13,7 +13,7 @@ namespace {
 const int stripWidth = 72;
 const int stripHeight = 367;
 
-const char titleFace[] = "Arial"; // As the caption line of a bitmap background.
+const TCHAR titleFace[] = _T("Arial"); // As the caption line of a bitmap background.
 
 // The line under the head of a page, in dialog units.
 const int ruleLeft = 58;
@@ -59,8 +59,8 @@ BOOL CGalleryPage::OnInitDialog()
     m_footnote.SetLabelTextColor(palette::muted);
     if (!HasImages()) {
         m_footnote.SetLabelTextColor(palette::ember);
-        SetLabelText(m_footnote, "The image folder " + ImageFolder() +
-                                     " is missing: pictures and icons are left out.");
+        SetLabelText(m_footnote, _T("The image folder ") + ImageFolder() +
+                                     _T(" is missing: pictures and icons are left out."));
     }
     AssistKeyboard(*this);
     return TRUE;

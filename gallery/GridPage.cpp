@@ -54,11 +54,11 @@ void CGridPage::ShowBaseUnits()
     UINT vertical = 0;
     GetFontBaseUnits(&horizontal, &vertical);
     CString text;
-    text.Format("%u x %u pixels", horizontal, vertical);
+    text.Format(_T("%u x %u pixels"), horizontal, vertical);
     SetDlgItemText(IDC_BASE_UNITS, text);
 
     const LONG system = ::GetDialogBaseUnits();
-    text.Format("The system's own: %d x %d", LOWORD(system), HIWORD(system));
+    text.Format(_T("The system's own: %d x %d"), LOWORD(system), HIWORD(system));
     SetDlgItemText(IDC_BASE_SOURCE, text);
 }
 

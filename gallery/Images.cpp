@@ -3,7 +3,7 @@
 CString EndWithBackslash(const CString& folder)
 {
     // The last byte may be the second one of a character, which a backslash looks like.
-    return folder.ReverseFind('\\') == folder.GetLength() - 1 ? folder : folder + "\\";
+    return folder.ReverseFind(_T('\\')) == folder.GetLength() - 1 ? folder : folder + _T("\\");
 }
 
 CString GalleryFolder()
@@ -11,12 +11,12 @@ CString GalleryFolder()
     CString path;
     ::GetModuleFileName(nullptr, path.GetBuffer(MAX_PATH), MAX_PATH);
     path.ReleaseBuffer();
-    return path.Left(path.ReverseFind('\\') + 1);
+    return path.Left(path.ReverseFind(_T('\\')) + 1);
 }
 
 CString ImageFolder()
 {
-    return EndWithBackslash(g_strImageDir) + "images\\";
+    return EndWithBackslash(g_strImageDir) + _T("images\\");
 }
 
 bool HasImages()
@@ -25,7 +25,7 @@ bool HasImages()
     return attributes != INVALID_FILE_ATTRIBUTES && (attributes & FILE_ATTRIBUTE_DIRECTORY) != 0;
 }
 
-CString PictureFile(const char* fileName)
+CString PictureFile(LPCTSTR fileName)
 {
     return ImageFolder() + fileName;
 }

@@ -16,4 +16,4 @@ CString ImageFolder();
 bool HasImages();
 
 /// The full path of a file in the image folder, "badge.gif".
-CString PictureFile(const char* fileName);
+CString PictureFile(LPCTSTR fileName);

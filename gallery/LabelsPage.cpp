@@ -23,11 +23,11 @@ const int largeExtent = 200; // What a keyed picture is cut to.
 /// Whether the system knows what to open a .txt file with.
 bool HasTextProgram()
 {
-    char command[MAX_PATH] = "";
+    TCHAR command[MAX_PATH] = _T("");
     DWORD length = MAX_PATH;
-    return SUCCEEDED(::AssocQueryString(ASSOCF_NOTRUNCATE, ASSOCSTR_COMMAND, ".txt", "open",
+    return SUCCEEDED(::AssocQueryString(ASSOCF_NOTRUNCATE, ASSOCSTR_COMMAND, _T(".txt"), _T("open"),
                                         command, &length)) &&
-           command[0] != '\0';
+           command[0] != _T('\0');
 }
 
 } // namespace
@@ -99,15 +99,15 @@ void CLabelsPage::PrepareTexts()
 void CLabelsPage::PreparePictures()
 {
     CBitmap tile;
-    if (const HBITMAP pattern = LoadPictureBitmap(PictureFile("pattern.gif"))) {
+    if (const HBITMAP pattern = LoadPictureBitmap(PictureFile(_T("pattern.gif")))) {
         tile.Attach(pattern);
         m_pattern.CreatePatternBrush(&tile);
     }
-    m_opaque.LoadPicture(PictureFile("badge.gif"));
+    m_opaque.LoadPicture(PictureFile(_T("badge.gif")));
     m_keyed.SetTransparentColor(pictureKey);
-    m_keyed.LoadPicture(PictureFile("badge.gif"));
+    m_keyed.LoadPicture(PictureFile(_T("badge.gif")));
     m_large.SetTransparentColor(pictureKey);
-    m_large.LoadPicture(PictureFile("large.gif"));
+    m_large.LoadPicture(PictureFile(_T("large.gif")));
 
     const CRect panel = PlaceOf(IDC_PANEL);
     CStaticTS* const badges[] = {&m_opaque, &m_keyed};
@@ -128,18 +128,18 @@ void CLabelsPage::PreparePictures()
 void CLabelsPage::PrepareLinks()
 {
     m_webLink.SetTextColor(palette::accent);
-    m_webLink.SetURL(""); // Opens its text.
+    m_webLink.SetURL(_T("")); // Opens its text.
     FitToText(m_webLink);
 
-    m_fileLink.SetWindowText(PictureFile("about.txt"));
+    m_fileLink.SetWindowText(PictureFile(_T("about.txt")));
     m_fileLink.SetLink(TRUE);
     m_fileLink.SetLabelTextColor(palette::accent);
     FitToText(m_fileLink);
     if (!HasTextProgram()) {
         CString intro;
         m_intro.GetWindowText(intro);
-        intro.TrimRight('.');
-        SetLabelText(m_intro, intro + "; for text files it has none.");
+        intro.TrimRight(_T('.'));
+        SetLabelText(m_intro, intro + _T("; for text files it has none."));
     }
 
     m_targetLink.SetLink(TRUE);
@@ -148,9 +148,9 @@ void CLabelsPage::PrepareLinks()
     FitToText(m_targetLink);
 
     m_tipLink.SetTextColor(palette::accent);
-    m_tipLink.SetURL("https://www.gnu.org/licenses/license-list.html");
+    m_tipLink.SetURL(_T("https://www.gnu.org/licenses/license-list.html"));
     FitToText(m_tipLink);
-    m_tipLink.SetToolTipText("Opens gnu.org in the web browser");
+    m_tipLink.SetToolTipText(_T("Opens gnu.org in the web browser"));
 }
 
 void CLabelsPage::DrawBox(CDC& dc, int controlId, COLORREF fill)

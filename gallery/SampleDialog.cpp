@@ -11,13 +11,14 @@ END_MESSAGE_MAP()
 
 namespace {
 
-const char* const titles[] = {"Plain dialog", "Solid fill", "Bitmap with a caption line", "Shape"};
-const char* const texts[] = {
-    "A dialog with every mode off: the system erases it.",
-    "The client area is filled with one colour, and with another one at a press of the button.",
-    ("A bitmap is the background, and the window text is its caption line. It is neither "
-     "stretched nor tiled."),
-    "An image seen through a mask.",
+const LPCTSTR titles[] = {_T("Plain dialog"), _T("Solid fill"), _T("Bitmap with a caption line"),
+                          _T("Shape")};
+const LPCTSTR texts[] = {
+    _T("A dialog with every mode off: the system erases it."),
+    _T("The client area is filled with one colour, and with another one at a press of the button."),
+    (_T("A bitmap is the background, and the window text is its caption line. It is neither ")
+     _T("stretched nor tiled.")),
+    _T("An image seen through a mask."),
 };
 
 const COLORREF fills[] = {RGB(214, 226, 242), RGB(246, 236, 214), RGB(220, 236, 222),
@@ -130,7 +131,7 @@ void CSampleDialog::OnNextColor()
 void CSampleDialog::PrepareBitmap()
 {
     if (m_image == nullptr)
-        m_image = LoadPictureBitmap(PictureFile("panel.bmp"));
+        m_image = LoadPictureBitmap(PictureFile(_T("panel.bmp")));
     if (m_image == nullptr)
         return;
     SetClientSize(SizeOf(m_image));
@@ -143,8 +144,8 @@ void CSampleDialog::PrepareBitmap()
 void CSampleDialog::PrepareShape()
 {
     if (m_image == nullptr) {
-        m_image = LoadPictureBitmap(PictureFile("shape.bmp"));
-        m_mask = LoadPictureBitmap(PictureFile("shape-mask.bmp"));
+        m_image = LoadPictureBitmap(PictureFile(_T("shape.bmp")));
+        m_mask = LoadPictureBitmap(PictureFile(_T("shape-mask.bmp")));
     }
     if (m_image == nullptr || m_mask == nullptr)
         return;

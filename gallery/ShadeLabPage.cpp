@@ -18,18 +18,23 @@ const int byteMax = 255;
 const int percentMax = 100;
 const int sliderMaxima[] = {byteMax, percentMax, percentMax, byteMax, byteMax, byteMax};
 const int pictureSize = 19; // Pixels.
+#ifdef UNICODE
+const UINT textFormat = CF_UNICODETEXT;
+#else
+const UINT textFormat = CF_TEXT;
+#endif
 
 bool CopyText(CWnd& owner, const CString& text)
 {
     if (!owner.OpenClipboard())
         return false;
     bool copied = false;
-    const size_t size = text.GetLength() + 1;
+    const size_t size = (text.GetLength() + 1) * sizeof(TCHAR);
     if (const HGLOBAL block = ::GlobalAlloc(GMEM_MOVEABLE, size)) {
         memcpy(::GlobalLock(block), static_cast<LPCTSTR>(text), size);
         ::GlobalUnlock(block);
         ::EmptyClipboard();
-        copied = ::SetClipboardData(CF_TEXT, block) != nullptr;
+        copied = ::SetClipboardData(textFormat, block) != nullptr;
         if (!copied)
             ::GlobalFree(block);
     }
@@ -50,13 +55,13 @@ BOOL CShadeLabPage::OnInitDialog()
     ApplyButtonShade(m_btnReset);
     for (const ShadeStyleName& style : shadeStyles) {
         CString item;
-        item.Format("%d  %s", static_cast<int>(style.style), style.text);
+        item.Format(_T("%d  %s"), static_cast<int>(style.style), style.text);
         m_style.AddString(item);
     }
     for (int i = 0; i < sliderCount; ++i)
         m_sliders[i].SetRange(0, sliderMaxima[i]);
-    m_live[2].SetPicture(PictureFile("Ok.gif"), CxShadeButton::alignLeft, pictureSize, pictureSize,
-                         RGB(0, 0, 0));
+    m_live[2].SetPicture(PictureFile(_T("Ok.gif")), CxShadeButton::alignLeft, pictureSize,
+                         pictureSize, RGB(0, 0, 0));
     OnReset();
     return TRUE;
 }
@@ -106,8 +111,8 @@ void CShadeLabPage::OnStyle()
 void CShadeLabPage::OnCopy()
 {
     SetLabelText(m_footnote, CopyText(*this, CallText())
-                                 ? "The call is on the clipboard."
-                                 : "The clipboard is not to be had at the moment.");
+                                 ? _T("The call is on the clipboard.")
+                                 : _T("The clipboard is not to be had at the moment."));
 }
 
 void CShadeLabPage::OnReset()
@@ -129,7 +134,7 @@ CString CShadeLabPage::CallText() const
 {
     const int style = max(0, m_style.GetCurSel());
     CString text;
-    text.Format("SetShade(%s, %d, %d, %d, RGB(%d, %d, %d));", shadeStyles[style].name,
+    text.Format(_T("SetShade(%s, %d, %d, %d, RGB(%d, %d, %d));"), shadeStyles[style].name,
                 Value(IDC_GRANULARITY), Value(IDC_HIGHLIGHT), Value(IDC_COLORING), Value(IDC_RED),
                 Value(IDC_GREEN), Value(IDC_BLUE));
     return text;

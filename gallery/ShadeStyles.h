@@ -6,18 +6,18 @@
 struct ShadeStyleName
 {
     ShadeStyle style;
-    const char* name; ///< As in source text.
-    const char* text; ///< For people.
+    LPCTSTR name; ///< As in source text.
+    LPCTSTR text; ///< For people.
 };
 
 inline const ShadeStyleName shadeStyles[] = {
-    {SHADE_NOISE, "SHADE_NOISE", "Noise"},
-    {SHADE_DIAGONAL, "SHADE_DIAGONAL", "Diagonal"},
-    {SHADE_ROWS, "SHADE_ROWS", "Rows"},
-    {SHADE_COLUMNS, "SHADE_COLUMNS", "Columns"},
-    {SHADE_ROW_BUMP, "SHADE_ROW_BUMP", "Row bump"},
-    {SHADE_COLUMN_BUMP, "SHADE_COLUMN_BUMP", "Column bump"},
-    {SHADE_CROSS_BUMP, "SHADE_CROSS_BUMP", "Cross bump"},
-    {SHADE_ROUNDED_BUMP, "SHADE_ROUNDED_BUMP", "Rounded bump"},
-    {SHADE_SCRATCHED, "SHADE_SCRATCHED", "Scratched"},
+    {SHADE_NOISE, _T("SHADE_NOISE"), _T("Noise")},
+    {SHADE_DIAGONAL, _T("SHADE_DIAGONAL"), _T("Diagonal")},
+    {SHADE_ROWS, _T("SHADE_ROWS"), _T("Rows")},
+    {SHADE_COLUMNS, _T("SHADE_COLUMNS"), _T("Columns")},
+    {SHADE_ROW_BUMP, _T("SHADE_ROW_BUMP"), _T("Row bump")},
+    {SHADE_COLUMN_BUMP, _T("SHADE_COLUMN_BUMP"), _T("Column bump")},
+    {SHADE_CROSS_BUMP, _T("SHADE_CROSS_BUMP"), _T("Cross bump")},
+    {SHADE_ROUNDED_BUMP, _T("SHADE_ROUNDED_BUMP"), _T("Rounded bump")},
+    {SHADE_SCRATCHED, _T("SHADE_SCRATCHED"), _T("Scratched")},
 };

@@ -28,7 +28,7 @@ public:
     {
         PointAway();
         if (!page.Create(templateId, nullptr)) {
-            album.Fail("a page could not be opened");
+            album.Fail(_T("a page could not be opened"));
             return;
         }
         page.SetWindowPos(nullptr, pagePlace.x, pagePlace.y, 0, 0, SWP_NOSIZE | SWP_NOZORDER);
@@ -86,7 +86,7 @@ void ShootStart(CAlbum& album)
 void ShootStartWithoutImages(CAlbum& album)
 {
     const CString folder = g_strImageDir;
-    g_strImageDir += "missing\\";
+    g_strImageDir += _T("missing\\");
     CStartPage page;
     CShownPage shown(album, page, IDD_START);
     if (shown.IsOpen())
@@ -119,7 +119,7 @@ void ShootBackgrounds(CAlbum& album)
         PointAway();
         CSampleDialog& window = page.Sample(sample.kind);
         if (window.GetSafeHwnd() == nullptr) {
-            album.Fail(CString(sample.name) + ": the window did not open");
+            album.Fail(CString(sample.name) + _T(": the window did not open"));
             continue;
         }
         album.Take(window, sample.name, sample.caption);
@@ -208,7 +208,7 @@ void ShootWizard(CAlbum& album)
         CWizardPicturesPage page(task, nullptr);
         CShownPage shown(album, page, IDD_WIZARD_PICTURES);
         if (shown.IsOpen()) {
-            page.Select("large.gif");
+            page.Select(_T("large.gif"));
             album.Take(page, "wizard-2", "Step 2: Back, Proceed and Cancel.");
         }
     }
@@ -224,7 +224,7 @@ void ShootWizard(CAlbum& album)
         if (shown.IsOpen())
             album.Take(page, "wizard-4-failed", "Step 4 after a failure: Back and Close.");
     }
-    task.indexFile = task.folder + "pictures.html"; // Shown, not written.
+    task.indexFile = task.folder + _T("pictures.html"); // Shown, not written.
     CWizardResultPage page(task, nullptr);
     CShownPage shown(album, page, IDD_WIZARD_RESULT);
     if (shown.IsOpen())
@@ -238,7 +238,7 @@ void ShootWorking(CAlbum& album)
     if (!shown.IsOpen())
         return;
     if (!page.BeginWork()) {
-        album.Fail("the working window did not open");
+        album.Fail(_T("the working window did not open"));
         return;
     }
     g_pModelessDlg->SetWindowPos(nullptr, pagePlace.x, pagePlace.y, 0, 0,
@@ -250,7 +250,7 @@ void ShootWorking(CAlbum& album)
     album.Take(*g_pModelessDlg, "working-amid", "Amid the job; the host has enabled Cancel.");
     Click(*g_pModelessDlg->GetDlgItem(IDCANCEL));
     if (page.WorkOn())
-        album.Fail("the job does not hear the Cancel button");
+        album.Fail(_T("the job does not hear the Cancel button"));
     page.EndWork();
     album.Take(page, "working", "Working: the user has cancelled the job.");
 }
@@ -295,7 +295,7 @@ BOOL ShootGallery(const CString& folder)
     // What fails here fails again when the first file is written.
     ::CreateDirectory(folder, nullptr);
     if (!HasImages())
-        album.Fail("the image folder " + ImageFolder() + " is missing");
+        album.Fail(_T("the image folder ") + ImageFolder() + _T(" is missing"));
     for (const auto shoot :
          {ShootStart, ShootStartWithoutImages, ShootBackgrounds, ShootGrid, ShootButtons,
           ShootShadeLab, ShootLabels, ShootWizard, ShootWorking, ShootDarkColors, ShootRightToLeft})

@@ -10,19 +10,36 @@
 
 namespace {
 
-const char indexName[] = "pictures.html";
+const TCHAR indexName[] = _T("pictures.html");
+
+// Text of this program in the bytes of the index page.
+#ifdef UNICODE
+const char indexCharset[] = "utf-8";
+
+CStringA IndexText(const CString& text)
+{
+    return CStringA(CW2A(text, CP_UTF8));
+}
+#else
+const char indexCharset[] = "windows-1252";
+
+const CStringA& IndexText(const CString& text)
+{
+    return text;
+}
+#endif
 
 bool IsPicture(const CString& fileName)
 {
-    const CString extension = fileName.Mid(fileName.ReverseFind('.') + 1);
-    for (const char* known : {"bmp", "gif", "jpg", "jpeg"}) {
+    const CString extension = fileName.Mid(fileName.ReverseFind(_T('.')) + 1);
+    for (const LPCTSTR known : {_T("bmp"), _T("gif"), _T("jpg"), _T("jpeg")}) {
         if (extension.CompareNoCase(known) == 0)
             return true;
     }
     return false;
 }
 
-CString EscapeHtml(CString text)
+CStringA EscapeHtml(CStringA text)
 {
     text.Replace("&", "&amp;");
     text.Replace("<", "&lt;");
@@ -31,9 +48,9 @@ CString EscapeHtml(CString text)
 }
 
 // A file name as part of an address.
-CString EscapeAddress(const CString& name)
+CStringA EscapeAddress(const CStringA& name)
 {
-    CString address;
+    CStringA address;
     for (int i = 0; i < name.GetLength(); ++i) {
         const unsigned char c = static_cast<unsigned char>(name[i]);
         if (isalnum(c) || strchr("-_.~", c) != nullptr)
@@ -44,21 +61,22 @@ CString EscapeAddress(const CString& name)
     return address;
 }
 
-CString IndexPage(const WizardTask& task)
+CStringA IndexPage(const WizardTask& task)
 {
-    const CString heading = EscapeHtml(task.heading);
-    CString page = "<!DOCTYPE html>\r\n<html lang=\"en\">\r\n<head>\r\n"
-                   "<meta charset=\"windows-1252\">\r\n<title>" +
-                   heading +
-                   "</title>\r\n<style>\r\n"
-                   "body { font-family: sans-serif; background: #f0f3f8; color: #2b3852; }\r\n"
-                   "figure { display: inline-block; margin: 12px; vertical-align: top; }\r\n"
-                   "img { max-width: 320px; border: 1px solid #becadb; }\r\n"
-                   "</style>\r\n</head>\r\n<body>\r\n<h1>" +
-                   heading + "</h1>\r\n";
+    const CStringA heading = EscapeHtml(IndexText(task.heading));
+    CStringA page = CStringA("<!DOCTYPE html>\r\n<html lang=\"en\">\r\n<head>\r\n"
+                             "<meta charset=\"") +
+                    indexCharset + "\">\r\n<title>" + heading +
+                    "</title>\r\n<style>\r\n"
+                    "body { font-family: sans-serif; background: #f0f3f8; color: #2b3852; }\r\n"
+                    "figure { display: inline-block; margin: 12px; vertical-align: top; }\r\n"
+                    "img { max-width: 320px; border: 1px solid #becadb; }\r\n"
+                    "</style>\r\n</head>\r\n<body>\r\n<h1>" +
+                    heading + "</h1>\r\n";
     for (const CString& picture : task.pictures) {
-        const CString name = EscapeHtml(picture);
-        page += "<figure><img src=\"" + EscapeAddress(picture) + "\" alt=\"" + name +
+        const CStringA fileName = IndexText(picture);
+        const CStringA name = EscapeHtml(fileName);
+        page += "<figure><img src=\"" + EscapeAddress(fileName) + "\" alt=\"" + name +
                 "\"><figcaption>" + name + "</figcaption></figure>\r\n";
     }
     return page + "</body>\r\n</html>\r\n";
@@ -105,7 +123,7 @@ std::vector<CString> FindPictures(const CString& folder)
 {
     std::vector<CString> names;
     CFileFind finder;
-    BOOL more = finder.FindFile(folder + "*.*");
+    BOOL more = finder.FindFile(folder + _T("*.*"));
     while (more) {
         more = finder.FindNextFile();
         if (!finder.IsDirectory() && IsPicture(finder.GetFileName()))
@@ -124,8 +142,8 @@ BOOL WriteIndex(WizardTask& task)
     if (!file.Open(path, CFile::modeCreate | CFile::modeWrite))
         return FALSE;
     try {
-        const CString page = IndexPage(task);
-        file.Write(static_cast<LPCTSTR>(page), page.GetLength());
+        const CStringA page = IndexPage(task);
+        file.Write(static_cast<LPCSTR>(page), page.GetLength());
         file.Close();
     } catch (CFileException* exception) {
         exception->Delete();

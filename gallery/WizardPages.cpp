@@ -34,9 +34,9 @@ CString Count(size_t number)
 {
     CString text;
     if (number == 1)
-        text = "1 picture";
+        text = _T("1 picture");
     else
-        text.Format("%u pictures", static_cast<UINT>(number));
+        text.Format(_T("%u pictures"), static_cast<UINT>(number));
     return text;
 }
 
@@ -113,12 +113,12 @@ void CWizardFolderPage::OnBrowse()
 {
     BROWSEINFO question = {};
     question.hwndOwner = m_hWnd;
-    question.lpszTitle = "The folder with the pictures";
+    question.lpszTitle = _T("The folder with the pictures");
     question.ulFlags = BIF_RETURNONLYFSDIRS | BIF_NEWDIALOGSTYLE;
     const LPITEMIDLIST choice = ::SHBrowseForFolder(&question);
     if (choice == nullptr)
         return;
-    char path[MAX_PATH] = "";
+    TCHAR path[MAX_PATH] = _T("");
     if (::SHGetPathFromIDList(choice, path))
         SetDlgItemText(IDC_FOLDER, path);
     ::CoTaskMemFree(choice);
@@ -135,8 +135,8 @@ void CWizardFolderPage::ShowFound()
 {
     const size_t count = FindPictures(Folder()).size();
     SetLabelText(m_found, count > 0
-                              ? Count(count) + " found there (bmp, gif and jpg files)."
-                              : CString("There are no pictures there: choose another folder."));
+                              ? Count(count) + _T(" found there (bmp, gif and jpg files).")
+                              : CString(_T("There are no pictures there: choose another folder.")));
     m_btnOk.EnableWindow(count > 0);
 }
 
@@ -175,10 +175,10 @@ void CWizardPicturesPage::OnPicture()
     const int index = m_list.GetCurSel();
     if (index < 0)
         return;
-    CString text = "This file cannot be shown.";
+    CString text = _T("This file cannot be shown.");
     if (m_preview.Show(m_task.folder + m_task.pictures[index])) {
         const CSize size = m_preview.PictureSize();
-        text.Format("%d x %d pixels", static_cast<int>(size.cx), static_cast<int>(size.cy));
+        text.Format(_T("%d x %d pixels"), static_cast<int>(size.cx), static_cast<int>(size.cy));
     }
     SetLabelText(m_info, text);
 }
@@ -192,11 +192,11 @@ BOOL CWizardConfirmPage::OnInitDialog()
 {
     CWizardPage::OnInitDialog();
     m_summary.SetLabelTextColor(palette::text);
-    m_summary.SetWindowText("The page pictures.html will be written into the folder\n" +
-                            m_task.folder + "\nand show its " + Count(m_task.pictures.size()) +
-                            ". A file of that name there is replaced.");
+    m_summary.SetWindowText(_T("The page pictures.html will be written into the folder\n") +
+                            m_task.folder + _T("\nand show its ") + Count(m_task.pictures.size()) +
+                            _T(". A file of that name there is replaced."));
     if (m_task.heading.IsEmpty()) {
-        m_task.heading = "My pictures";
+        m_task.heading = _T("My pictures");
         UpdateData(FALSE);
     }
     return TRUE;
@@ -224,19 +224,19 @@ BOOL CWizardResultPage::OnInitDialog()
     ShowPicture(done ? IDS_IMAGE_INFO : IDS_IMAGE_ERROR);
     m_btnBack.ShowWindow(done ? SW_HIDE : SW_SHOW);
     if (!done) {
-        SetLabelText(m_intro, "Nothing was written.");
-        m_summary.SetWindowText("No file can be made in the folder\n" + m_task.folder +
-                                "\nGo back and choose another one.");
+        SetLabelText(m_intro, _T("Nothing was written."));
+        m_summary.SetWindowText(_T("No file can be made in the folder\n") + m_task.folder +
+                                _T("\nGo back and choose another one."));
         m_link.ShowWindow(SW_HIDE);
         return TRUE;
     }
-    m_summary.SetWindowText("The index of " + Count(m_task.pictures.size()) +
-                            " was written. A click opens it:");
+    m_summary.SetWindowText(_T("The index of ") + Count(m_task.pictures.size()) +
+                            _T(" was written. A click opens it:"));
     m_link.SetWindowText(m_task.indexFile);
     m_link.SetTextColor(palette::accent);
     m_link.SetURL(m_task.indexFile);
     FitToText(m_link);
-    m_link.SetToolTipText("Opens the page in the web browser");
+    m_link.SetToolTipText(_T("Opens the page in the web browser"));
     return TRUE;
 }
 

@@ -40,9 +40,10 @@ CWorkingDialog::CWorkingDialog() : CModellessDlg(nullptr)
 BOOL CWorkingDialog::OnInitDialog()
 {
     CModellessDlg::OnInitDialog();
-    m_title.SetWindowText("Counting prime numbers");
-    m_detail.SetWindowText("");
-    m_hint.SetWindowText("Drag this window, or press Tab: it answers between the pieces of work.");
+    m_title.SetWindowText(_T("Counting prime numbers"));
+    m_detail.SetWindowText(_T(""));
+    m_hint.SetWindowText(
+        _T("Drag this window, or press Tab: it answers between the pieces of work."));
     CRect place(progressPlace);
     MapDialogRect(&place);
     m_progress.Create(WS_CHILD | WS_VISIBLE | PBS_SMOOTH, place, this, IDC_WORK_PROGRESS);
@@ -55,7 +56,7 @@ void CWorkingDialog::AllowCancel()
     if (m_btnCancel.IsWindowEnabled())
         return;
     m_btnCancel.EnableWindow(TRUE);
-    SetLabelText(m_hint, "Cancel ends the work after the present piece.");
+    SetLabelText(m_hint, _T("Cancel ends the work after the present piece."));
 }
 
 void CWorkingDialog::ShowProgress(int percent, const CString& detail)
@@ -127,8 +128,8 @@ void CWorkingPage::EndWork()
     AfxGetApp()->EndWaitCursor();
 
     CString text;
-    text.Format(cancelled ? "Cancelled: %u prime numbers found below %u."
-                          : "Done: there are %u prime numbers below %u.",
+    text.Format(cancelled ? _T("Cancelled: %u prime numbers found below %u.")
+                          : _T("Done: there are %u prime numbers below %u."),
                 m_primes, min(m_next, limit));
     SetLabelText(m_result, text);
 }
@@ -170,6 +171,6 @@ void CWorkingPage::Report()
 {
     m_lastReport = ::GetTickCount();
     CString detail;
-    detail.Format("%u of %u tested: %u are prime.", min(m_next, limit), limit, m_primes);
+    detail.Format(_T("%u of %u tested: %u are prime."), min(m_next, limit), limit, m_primes);
     Dialog()->ShowProgress(Percent(), detail);
 }

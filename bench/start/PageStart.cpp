@@ -39,10 +39,10 @@ class CStartApp : public CWinApp
 {
     BOOL InitInstance() override
     {
-        char program[MAX_PATH];
-        ::GetModuleFileNameA(nullptr, program, MAX_PATH);
+        TCHAR program[MAX_PATH];
+        ::GetModuleFileName(nullptr, program, MAX_PATH);
         const CString folder(program);
-        g_strImageDir = folder.Left(folder.ReverseFind('\\'));
+        g_strImageDir = folder.Left(folder.ReverseFind(_T('\\')));
         g_crShade = RGB(180, 200, 230);
         CStartPage page;
         page.DoModal();

@@ -11,7 +11,7 @@ INT_PTR CALLBACK PageProcedure(HWND page, UINT message, WPARAM, LPARAM)
     case WM_INITDIALOG:
         return TRUE;
     case WM_PAINT:
-        ::PostMessageA(page, paintedMessage, 0, 0);
+        ::PostMessage(page, paintedMessage, 0, 0);
         return FALSE;
     case paintedMessage:
         EndWhenPainted(page);
@@ -25,6 +25,6 @@ INT_PTR CALLBACK PageProcedure(HWND page, UINT message, WPARAM, LPARAM)
 
 int WINAPI WinMain(HINSTANCE instance, HINSTANCE, LPSTR, int)
 {
-    ::DialogBoxParamA(instance, MAKEINTRESOURCEA(IDD_START), nullptr, PageProcedure, 0);
+    ::DialogBoxParam(instance, MAKEINTRESOURCE(IDD_START), nullptr, PageProcedure, 0);
     return 1;
 }
