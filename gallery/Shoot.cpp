@@ -6,6 +6,7 @@
 #include "gallery/GridPage.h"
 #include "gallery/Images.h"
 #include "gallery/LabelsPage.h"
+#include "gallery/LanguagesPage.h"
 #include "gallery/Pointer.h"
 #include "gallery/ShadeLabPage.h"
 #include "gallery/StartPage.h"
@@ -193,6 +194,19 @@ void ShootLabels(CAlbum& album)
     album.Take(page, "labels-tip", "The tool tip of a link.");
 }
 
+void ShootLanguages(CAlbum& album)
+{
+    CLanguagesPage page(nullptr);
+    CShownPage shown(album, page, IDD_LANGUAGES);
+    if (!shown.IsOpen())
+        return;
+    album.Take(page, "languages", "Languages: four scripts in every kind of control.");
+    Click(shown.Control(IDC_GREETING_FIRST + 2));
+    PointAt(shown.Control(IDC_LANGUAGE_LINK_FIRST + 2));
+    Settle(tipTime);
+    album.Take(page, "languages-arabic", "Another language, and the tip of a link in it.");
+}
+
 void ShootWizard(CAlbum& album)
 {
     WizardTask task;
@@ -296,9 +310,9 @@ BOOL ShootGallery(const CString& folder)
     ::CreateDirectory(folder, nullptr);
     if (!HasImages())
         album.Fail(_T("the image folder ") + ImageFolder() + _T(" is missing"));
-    for (const auto shoot :
-         {ShootStart, ShootStartWithoutImages, ShootBackgrounds, ShootGrid, ShootButtons,
-          ShootShadeLab, ShootLabels, ShootWizard, ShootWorking, ShootDarkColors, ShootRightToLeft})
+    for (const auto shoot : {ShootStart, ShootStartWithoutImages, ShootBackgrounds, ShootGrid,
+                             ShootButtons, ShootShadeLab, ShootLabels, ShootLanguages, ShootWizard,
+                             ShootWorking, ShootDarkColors, ShootRightToLeft})
         shoot(album);
     album.WriteIndex();
     return album.IsComplete();

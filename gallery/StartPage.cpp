@@ -4,6 +4,7 @@
 #include "gallery/ButtonsPage.h"
 #include "gallery/GridPage.h"
 #include "gallery/LabelsPage.h"
+#include "gallery/LanguagesPage.h"
 #include "gallery/ShadeLabPage.h"
 #include "gallery/Wizard.h"
 #include "gallery/WorkingPage.h"
@@ -23,9 +24,9 @@ void ShowRoom(CWnd* parent)
 
 // In the order of the buttons.
 void (*const rooms[])(CWnd* parent) = {
-    ShowRoom<CBackgroundsPage>, ShowRoom<CGridPage>,   ShowRoom<CButtonsPage>,
-    ShowRoom<CShadeLabPage>,    ShowRoom<CLabelsPage>, RunWizard,
-    ShowRoom<CWorkingPage>,
+    ShowRoom<CBackgroundsPage>, ShowRoom<CGridPage>,      ShowRoom<CButtonsPage>,
+    ShowRoom<CShadeLabPage>,    ShowRoom<CLabelsPage>,    RunWizard,
+    ShowRoom<CWorkingPage>,     ShowRoom<CLanguagesPage>,
 };
 
 } // namespace

@@ -7,6 +7,7 @@
 #include "gallery/GridPage.h"
 #include "gallery/Images.h"
 #include "gallery/LabelsPage.h"
+#include "gallery/LanguagesPage.h"
 #include "gallery/ShadeLabPage.h"
 #include "gallery/StartPage.h"
 #include "gallery/WizardPages.h"
@@ -71,6 +72,10 @@ TEST_CASE("the rooms show the same through a buffer")
     SUBCASE("labels")
     {
         Compare<CLabelsPage>(nullptr);
+    }
+    SUBCASE("languages")
+    {
+        Compare<CLanguagesPage>(nullptr);
     }
     SUBCASE("working")
     {

@@ -1,5 +1,6 @@
 #include "tests/gallery/GalleryLives.h"
 
+#include "tests/FourScripts.h"
 #include "tests/robustness/SelfEnding.h"
 #include "tests/robustness/Stage.h"
 
@@ -8,6 +9,7 @@
 #include "gallery/GridPage.h"
 #include "gallery/Images.h"
 #include "gallery/LabelsPage.h"
+#include "gallery/LanguagesPage.h"
 #include "gallery/ShadeLabPage.h"
 #include "gallery/StartPage.h"
 #include "gallery/WizardPages.h"
@@ -44,10 +46,10 @@ bool IsRepetition(int id)
            id < IDC_MATRIX_FIRST + CButtonsPage::styleCount * CButtonsPage::stateCount;
 }
 
-bool IsOfClass(HWND window, const char* className)
+bool IsOfClass(HWND window, LPCTSTR className)
 {
-    char name[32] = "";
-    ::GetClassName(window, name, sizeof(name));
+    TCHAR name[32] = _T("");
+    ::GetClassName(window, name, _countof(name));
     return lstrcmpi(name, className) == 0;
 }
 
@@ -56,7 +58,7 @@ std::vector<HWND> ControlsOf(HWND page)
     std::vector<HWND> controls;
     for (HWND child = ::GetWindow(page, GW_CHILD); child != nullptr;
          child = ::GetWindow(child, GW_HWNDNEXT)) {
-        const bool drawsItself = IsOfClass(child, "Button") || IsOfClass(child, "Static");
+        const bool drawsItself = IsOfClass(child, _T("Button")) || IsOfClass(child, _T("Static"));
         if (drawsItself && ::IsWindowVisible(child))
             controls.push_back(child);
     }
@@ -133,8 +135,9 @@ void RunBackgrounds()
 
 void RunGrid()
 {
-    Run<CGridPage>([](CGridPage& page) { ::SetDlgItemText(page.m_hWnd, IDC_REQUEST_FIRST, "211"); },
-                   nullptr);
+    Run<CGridPage>(
+        [](CGridPage& page) { ::SetDlgItemText(page.m_hWnd, IDC_REQUEST_FIRST, _T("211")); },
+        nullptr);
 }
 
 void RunButtons()
@@ -157,18 +160,30 @@ void RunLabels()
     Run<CLabelsPage>(nothingMore, nullptr);
 }
 
+void RunLanguages()
+{
+    Run<CLanguagesPage>(
+        [](CLanguagesPage& page) {
+            ::SendDlgItemMessage(page.m_hWnd, IDC_LANGUAGES, WM_KEYDOWN, VK_DOWN, 0);
+            ::SetDlgItemText(page.m_hWnd, IDC_TYPED, fourScripts);
+        },
+        nullptr);
+}
+
 void RunWizardFolder()
 {
     WizardTask task = MakeTask();
     Run<CWizardFolderPage>(
-        [](CWizardFolderPage& page) { ::SetDlgItemText(page.m_hWnd, IDC_FOLDER, "C:\\nowhere"); },
+        [](CWizardFolderPage& page) {
+            ::SetDlgItemText(page.m_hWnd, IDC_FOLDER, _T("C:\\nowhere"));
+        },
         task, nullptr);
 }
 
 void RunWizardPictures()
 {
     WizardTask task = MakeTask();
-    Run<CWizardPicturesPage>([](CWizardPicturesPage& page) { page.Select("large.gif"); }, task,
+    Run<CWizardPicturesPage>([](CWizardPicturesPage& page) { page.Select(_T("large.gif")); }, task,
                              nullptr);
 }
 
@@ -182,7 +197,7 @@ void RunWizardResult()
 {
     WizardTask task = MakeTask(); // Not carried out.
     Run<CWizardResultPage>(nothingMore, task, nullptr);
-    task.indexFile = task.folder + "pictures.html";
+    task.indexFile = task.folder + _T("pictures.html");
     Run<CWizardResultPage>(nothingMore, task, nullptr);
 }
 
@@ -207,7 +222,7 @@ WizardTask MakeTask()
 {
     WizardTask task;
     task.folder = ImageFolder();
-    task.pictures = {"Info.gif", "large.gif", "panel.bmp"};
+    task.pictures = {_T("Info.gif"), _T("large.gif"), _T("panel.bmp")};
     return task;
 }
 
@@ -220,6 +235,7 @@ const std::vector<Life>& LivesOfGallery()
         {"buttons", RunButtons},
         {"shade lab", RunShadeLab},
         {"labels", RunLabels},
+        {"languages", RunLanguages},
         {"wizard, folder", RunWizardFolder},
         {"wizard, pictures", RunWizardPictures},
         {"wizard, confirm", RunWizardConfirm},
