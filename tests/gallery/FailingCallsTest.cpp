@@ -3,11 +3,11 @@
 
 TEST_CASE("part: pages with failing calls of umbra.dll" * doctest::skip())
 {
-    LiveWithFailures("umbra.dll", IsOfSystem, LivesOfGallery(), PageOptions({1, 2}));
+    LiveWithFailures(UMBRA_DLL, IsOfSystem, LivesOfGallery(), PageOptions({1, 2}));
 }
 
 TEST_CASE("whichever call of umbra.dll fails while a gallery page is open: nothing crashes or "
           "hangs and nothing is lost")
 {
-    CheckReport(FailEachCall("umbra.dll", "part: pages with failing calls of umbra.dll"));
+    CheckReport(FailEachCall(UMBRA_DLL, "part: pages with failing calls of umbra.dll"));
 }

@@ -3,11 +3,11 @@
 
 TEST_CASE("part: pages with failing calls of umbra-mfc.dll" * doctest::skip())
 {
-    LiveWithFailures("umbra-mfc.dll", IsOfWindows, LivesOfGallery(), PageOptions({1, 1}));
+    LiveWithFailures(UMBRA_MFC_DLL, IsOfWindows, LivesOfGallery(), PageOptions({1, 1}));
 }
 
 TEST_CASE("whichever call of umbra-mfc.dll fails while a gallery page is open: nothing crashes or "
           "hangs and nothing is lost")
 {
-    CheckReport(FailEachCall("umbra-mfc.dll", "part: pages with failing calls of umbra-mfc.dll"));
+    CheckReport(FailEachCall(UMBRA_MFC_DLL, "part: pages with failing calls of umbra-mfc.dll"));
 }

@@ -1,5 +1,6 @@
 #include "gallery/GridView.h"
 
+#include "tests/LibraryFiles.h"
 #include "tests/robustness/Stage.h"
 
 #include "testing/CallFault.h"
@@ -17,7 +18,7 @@ bool Paints(CSize extent)
 {
     Stage stage;
     CGridView view;
-    const HWND window = stage.Add("Static", "", 0, CRect(20, 20, 220, 120));
+    const HWND window = stage.Add(_T("Static"), _T(""), 0, CRect(20, 20, 220, 120));
     if (!view.SubclassWindow(window))
         return false;
     view.Show(someRectangle, CRect(), RGB(200, 100, 0), extent);
@@ -39,7 +40,7 @@ TEST_CASE("a view of any extent is painted at once")
 
 TEST_CASE("a view without base units, or with one only, is painted without lines")
 {
-    const HMODULE umbra = FindModule("umbra.dll");
+    const HMODULE umbra = FindModule(UMBRA_DLL);
     {
         const FailAlways none(umbra, "user32", "GetDialogBaseUnits");
         REQUIRE(none.IsInstalled());

@@ -136,7 +136,7 @@ const LONG loaderCount = sizeof(loaders) / sizeof(loaders[0]);
 CString TemporaryPicture()
 {
     CString name;
-    name.Format("umbra-picture-%lu.bin", ::GetCurrentProcessId());
+    name.Format(_T("umbra-picture-%lu.bin"), ::GetCurrentProcessId());
     return TemporaryPath(name).c_str();
 }
 
@@ -144,7 +144,7 @@ CString TemporaryPicture()
 CString WritePicture(const PictureFile& file)
 {
     const CString path = TemporaryPicture();
-    std::ofstream(static_cast<const char*>(path), std::ios::binary) << file.bytes;
+    std::ofstream(static_cast<LPCTSTR>(path), std::ios::binary) << file.bytes;
     return path;
 }
 

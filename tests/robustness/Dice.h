@@ -1,11 +1,12 @@
 // Random choices that a seed repeats.
 #pragma once
 
+#include "testing/Text.h"
+
 #include <afxcmn.h>
 
 #include <iterator>
 #include <random>
-#include <string>
 
 class Dice
 {
@@ -24,15 +25,16 @@ public:
 
     COLORREF Color() { return Percent(10) ? CLR_NONE : m_engine() & 0xFFFFFF; }
 
-    /// A text of any bytes but 0, its length often at the edge of some buffer.
-    std::string Text()
+    /// A text of any characters but 0, its length often at the edge of some buffer.
+    umbra::testing::TString Text()
     {
         static const int edges[] = {0,   1,   2,   255, 256,  257,  259, 260,
                                     261, 527, 528, 529, 1023, 1024, 4096};
         const int length = Percent(50) ? Below(40) : Pick(edges);
-        std::string text(static_cast<size_t>(length), 'x');
-        for (char& c : text)
-            c = static_cast<char>(Percent(70) ? Between('a', 'z') : Between(1, 255));
+        umbra::testing::TString text(static_cast<size_t>(length), _T('x'));
+        for (TCHAR& c : text)
+            c = static_cast<TCHAR>(Percent(70) ? Between('a', 'z')
+                                               : Between(1, sizeof(TCHAR) == 1 ? 255 : 0xFFFF));
         return text;
     }
 

@@ -16,15 +16,15 @@ class EndingHost : public CWnd
 public:
     EndingHost()
     {
-        CreateEx(WS_EX_TOPMOST, AfxRegisterWndClass(0, ::LoadCursor(nullptr, IDC_ARROW)), "",
+        CreateEx(WS_EX_TOPMOST, AfxRegisterWndClass(0, ::LoadCursor(nullptr, IDC_ARROW)), _T(""),
                  WS_POPUP | WS_VISIBLE, 50, 50, 300, 200, nullptr, nullptr);
     }
     ~EndingHost() override { DestroyWindow(); }
 
-    HWND Add(const char* className, DWORD style)
+    HWND Add(LPCTSTR className, DWORD style)
     {
-        return ::CreateWindow(className, "a text", WS_CHILD | WS_VISIBLE | style, 10, 10, 100, 40,
-                              m_hWnd, reinterpret_cast<HMENU>(100), nullptr, nullptr);
+        return ::CreateWindow(className, _T("a text"), WS_CHILD | WS_VISIBLE | style, 10, 10, 100,
+                              40, m_hWnd, reinterpret_cast<HMENU>(100), nullptr, nullptr);
     }
 
     /// Destroys the window, then the object, and fills its memory.
@@ -90,7 +90,7 @@ private:
 void AddTippedCheckBox(EndingHost& host, Room<HastyButton>& button)
 {
     host.m_button = button.Get();
-    REQUIRE(button.Get()->SubclassWindow(host.Add("Button", BS_AUTOCHECKBOX)));
+    REQUIRE(button.Get()->SubclassWindow(host.Add(_T("Button"), BS_AUTOCHECKBOX)));
     button.Get()->SetToolTipText("a tip");
     button.Get()->HurryToolTip();
 }
@@ -103,7 +103,7 @@ TEST_CASE("a link label may be ended while the shell opens its target")
     const FakeShell shell(dice);
     EndingHost host;
     Room<CHyperLink> link;
-    REQUIRE(link.Get()->SubclassWindow(host.Add("Static", SS_NOTIFY)));
+    REQUIRE(link.Get()->SubclassWindow(host.Add(_T("Static"), SS_NOTIFY)));
     link.Get()->SetURL("http://example.invalid/");
     FakeShell::WhileOpening() = [&] { EndingHost::End(link.Get()); };
     ::SendMessage(link.Get()->m_hWnd, WM_LBUTTONDOWN, MK_LBUTTON, 0);
@@ -117,7 +117,7 @@ TEST_CASE("a transparent label may be ended while the shell opens its target")
     const FakeShell shell(dice);
     EndingHost host;
     Room<CStaticTS> label;
-    REQUIRE(label.Get()->SubclassWindow(host.Add("Static", SS_NOTIFY)));
+    REQUIRE(label.Get()->SubclassWindow(host.Add(_T("Static"), SS_NOTIFY)));
     label.Get()->SetLinkTarget("http://example.invalid/");
     label.Get()->SetLink(TRUE);
     FakeShell::WhileOpening() = [&] { EndingHost::End(label.Get()); };
@@ -131,7 +131,7 @@ TEST_CASE("a shaded button may be ended by the repaint that dragging out of it b
     EndingHost host;
     Room<HastyButton> button;
     host.m_button = button.Get();
-    REQUIRE(button.Get()->SubclassWindow(host.Add("Button", BS_PUSHBUTTON)));
+    REQUIRE(button.Get()->SubclassWindow(host.Add(_T("Button"), BS_PUSHBUTTON)));
     const HWND window = button.Get()->m_hWnd;
     REQUIRE(MovePointer(window, {20, 20}));
     REQUIRE(PressLeft());

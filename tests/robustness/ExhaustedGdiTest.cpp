@@ -59,21 +59,21 @@ struct Everything
     {
         const auto place = [](int row) { return CRect(10, 10 + 30 * row, 150, 36 + 30 * row); };
         const auto label = [&](int row) {
-            return stage.Add("Static", "A text", SS_NOTIFY, place(row));
+            return stage.Add(_T("Static"), _T("A text"), SS_NOTIFY, place(row));
         };
         plain.SubclassWindow(label(0));
         keyed.SubclassWindow(label(1));
         keyed.SetTransparentColor(RGB(0, 0, 0));
-        keyed.LoadPicture(ImageFile("Info.gif"));
+        keyed.LoadPicture(ImageFile(_T("Info.gif")));
         note.SubclassWindow(label(2));
         note.CopyWindowFont();
         link.SubclassWindow(label(3));
         link.SetTransparentColor(RGB(0, 0, 0));
-        link.SetBitmapFile(ImageFile("InfoIcon1.gif"));
-        link.SetURL("target");
-        button.SubclassWindow(stage.Add("Button", "Go on", WS_TABSTOP, place(4)));
+        link.SetBitmapFile(ImageFile(_T("InfoIcon1.gif")));
+        link.SetURL(_T("target"));
+        button.SubclassWindow(stage.Add(_T("Button"), _T("Go on"), WS_TABSTOP, place(4)));
         button.SetShade(SHADE_DIAGONAL, 0, 0, 50, RGB(180, 200, 230));
-        button.SetPicture(ImageFile("Ok.gif"), CxShadeButton::alignLeft, 19, 19, RGB(0, 0, 0));
+        button.SetPicture(ImageFile(_T("Ok.gif")), CxShadeButton::alignLeft, 19, 19, RGB(0, 0, 0));
     }
 
     Picture Show()
@@ -108,10 +108,10 @@ TEST_CASE("a full table of graphics objects spoils nothing for later")
             all.stage.Show();
             Stage::HoverAndPress(all.button.m_hWnd);
             Stage::HoverAndPress(all.link.m_hWnd);
-            const HBITMAP loaded = LoadPictureBitmap(ImageFile("Info.gif"));
+            const HBITMAP loaded = LoadPictureBitmap(ImageFile(_T("Info.gif")));
             if (loaded != nullptr)
                 ::DeleteObject(loaded);
-            all.keyed.LoadPicture(ImageFile("no such.gif"));
+            all.keyed.LoadPicture(ImageFile(_T("no such.gif")));
         }
     }
     Stage::MovePointer(all.stage.m_hWnd, {-20, -20});
@@ -119,7 +119,7 @@ TEST_CASE("a full table of graphics objects spoils nothing for later")
     ::SetFocus(nullptr);
     PumpMessages();
     CHECK(all.Show().Compare(before) == "the same");
-    const HBITMAP loaded = LoadPictureBitmap(ImageFile("Info.gif"));
+    const HBITMAP loaded = LoadPictureBitmap(ImageFile(_T("Info.gif")));
     CHECK(loaded != nullptr);
     ::DeleteObject(loaded);
     all.stage.Close();

@@ -2,10 +2,10 @@
 
 TEST_CASE("part: lives with failing calls of umbra.dll" * doctest::skip())
 {
-    LiveWithFailures("umbra.dll", IsOfSystem, LivesOfClasses(), {everyCall});
+    LiveWithFailures(UMBRA_DLL, IsOfSystem, LivesOfClasses(), {everyCall});
 }
 
 TEST_CASE("whichever call of umbra.dll fails: nothing crashes or hangs and nothing is lost")
 {
-    CheckReport(FailEachCall("umbra.dll", "part: lives with failing calls of umbra.dll"));
+    CheckReport(FailEachCall(UMBRA_DLL, "part: lives with failing calls of umbra.dll"));
 }

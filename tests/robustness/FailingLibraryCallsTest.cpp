@@ -2,10 +2,10 @@
 
 TEST_CASE("part: lives with failing calls of umbra-mfc.dll" * doctest::skip())
 {
-    LiveWithFailures("umbra-mfc.dll", IsOfWindows, LivesOfClasses());
+    LiveWithFailures(UMBRA_MFC_DLL, IsOfWindows, LivesOfClasses());
 }
 
 TEST_CASE("whichever call of umbra-mfc.dll fails: nothing crashes or hangs and nothing is lost")
 {
-    CheckReport(FailEachCall("umbra-mfc.dll", "part: lives with failing calls of umbra-mfc.dll"));
+    CheckReport(FailEachCall(UMBRA_MFC_DLL, "part: lives with failing calls of umbra-mfc.dll"));
 }

@@ -13,9 +13,16 @@ using umbra::testing::Import;
 
 namespace {
 
+/// Whether an imported function is one of the tables below, which name functions that take text
+/// without their last letter.
+bool IsNamed(const std::string& function, const std::string& name)
+{
+    return function == name || function == name + "A" || function == name + "W";
+}
+
 /// What takes a message further answers whatever its receiver does.
-const char* const passesMessagesOn[] = {"CallNextHookEx", "CallWindowProcA", "DefWindowProcA",
-                                        "DispatchMessageA"};
+const char* const passesMessagesOn[] = {"CallNextHookEx", "CallWindowProc", "DefWindowProc",
+                                        "DispatchMessage"};
 
 /// Locks, clocks, identities and the run-time's start and end.
 const char* const cannotFail[] = {
@@ -34,7 +41,7 @@ const char* const cannotFail[] = {
     "IsDBCSLeadByteEx",
     "IsDebuggerPresent",
     "LeaveCriticalSection",
-    "OutputDebugStringA",
+    "OutputDebugString",
     "QueryPerformanceCounter",
     "QueryPerformanceFrequency",
     "RaiseException",
@@ -49,12 +56,12 @@ const char* const cannotFail[] = {
     "VirtualProtect",
     "VirtualQuery",
     "__C_specific_handler",
-    "lstrcpyA",
-    "lstrlenA",
-    "lstrcmpA",
-    "lstrcmpiA",
-    "lstrcatA",
-    "lstrcpynA",
+    "lstrcpy",
+    "lstrlen",
+    "lstrcmp",
+    "lstrcmpi",
+    "lstrcat",
+    "lstrcpyn",
 };
 
 /// What the run-time library does with memory and text, and what it tells.
@@ -86,7 +93,10 @@ const char* const cannotFailInRunTime[] = {
     "strerror",
     "strlen",
     "strncmp",
+    "wcscmp",
+    "wcscpy",
     "wcslen",
+    "wcsncmp",
 };
 
 /// A function that does not fail with NULL or FALSE.
@@ -99,9 +109,9 @@ struct KnownFailure
 const ULONG_PTR minusOne = static_cast<ULONG_PTR>(-1);
 
 const KnownFailure knownFailures[] = {
-    {"CreateFileA", {minusOne, ERROR_FILE_NOT_FOUND}},
+    {"CreateFile", {minusOne, ERROR_FILE_NOT_FOUND}},
     {"GetBkColor", {CLR_INVALID, ERROR_INVALID_HANDLE}},
-    {"GetMessageA", {minusOne, ERROR_INVALID_WINDOW_HANDLE}},
+    {"GetMessage", {minusOne, ERROR_INVALID_WINDOW_HANDLE}},
     {"GetNearestColor", {CLR_INVALID, ERROR_INVALID_HANDLE}},
     {"GetPixel", {CLR_INVALID, ERROR_INVALID_HANDLE}},
     {"GetTextColor", {CLR_INVALID, ERROR_INVALID_HANDLE}},
@@ -111,17 +121,18 @@ const KnownFailure knownFailures[] = {
     {"MulDiv", {minusOne, ERROR_ARITHMETIC_OVERFLOW}},
     {"OleLoadPicturePath", {static_cast<ULONG_PTR>(E_OUTOFMEMORY), ERROR_NOT_ENOUGH_MEMORY}},
     {"RegCloseKey", {ERROR_INVALID_HANDLE, ERROR_INVALID_HANDLE}},
-    {"RegOpenKeyExA", {ERROR_FILE_NOT_FOUND, ERROR_FILE_NOT_FOUND}},
-    {"RegQueryValueA", {ERROR_MORE_DATA, ERROR_MORE_DATA}},
+    {"RegOpenKeyEx", {ERROR_FILE_NOT_FOUND, ERROR_FILE_NOT_FOUND}},
+    {"RegQueryValue", {ERROR_MORE_DATA, ERROR_MORE_DATA}},
     {"SetBkColor", {CLR_INVALID, ERROR_INVALID_HANDLE}},
     {"SetPixel", {CLR_INVALID, ERROR_INVALID_HANDLE}},
     {"SetTextColor", {CLR_INVALID, ERROR_INVALID_HANDLE}},
-    {"ShellExecuteA", {SE_ERR_OOM, ERROR_NOT_ENOUGH_MEMORY}},
+    {"ShellExecute", {SE_ERR_OOM, ERROR_NOT_ENOUGH_MEMORY}},
     {"TlsAlloc", {TLS_OUT_OF_INDEXES, ERROR_NOT_ENOUGH_MEMORY}},
     {"WaitForMultipleObjects", {WAIT_FAILED, ERROR_INVALID_HANDLE}},
     {"WaitForSingleObject", {WAIT_FAILED, ERROR_INVALID_HANDLE}},
     {"WinExec", {ERROR_FILE_NOT_FOUND, ERROR_FILE_NOT_FOUND}},
     {"_chdir", {minusOne, ERROR_PATH_NOT_FOUND}},
+    {"_wchdir", {minusOne, ERROR_PATH_NOT_FOUND}},
     {"_close", {minusOne, ERROR_INVALID_HANDLE}},
     {"_read", {minusOne, ERROR_READ_FAULT}},
 };
@@ -147,7 +158,8 @@ BOOL CanFail(const Import& import)
     for (const auto& names :
          {std::span<const char* const>(passesMessagesOn), std::span<const char* const>(cannotFail),
           std::span<const char* const>(cannotFailInRunTime)}) {
-        if (std::find(names.begin(), names.end(), import.name) != names.end())
+        if (std::any_of(names.begin(), names.end(),
+                        [&](const char* name) { return IsNamed(import.name, name); }))
             return FALSE;
     }
     return TRUE;
@@ -156,7 +168,7 @@ BOOL CanFail(const Import& import)
 Failure FailureOf(const Import& import)
 {
     for (const KnownFailure& known : knownFailures) {
-        if (import.name == known.name)
+        if (IsNamed(import.name, known.name))
             return known.failure;
     }
     return {};

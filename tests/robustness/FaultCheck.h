@@ -1,6 +1,7 @@
 // What the tests of failing calls have in common.
 #pragma once
 
+#include "tests/LibraryFiles.h"
 #include "tests/robustness/FaultRun.h"
 
 #include <doctest/doctest.h>
@@ -12,7 +13,7 @@
 /// Of umbra.dll: all that the system and the run-time give.
 inline bool IsOfSystem(const umbra::testing::Import& import)
 {
-    return import.dll != "umbra-mfc.dll";
+    return import.dll != UMBRA_MFC_DLL;
 }
 
 /// Of umbra-mfc.dll: windows, graphics, pictures and resources. Memory is the run-time's, and its

@@ -95,14 +95,15 @@ const char notBound[] = "This operation is not supported.";
 const char assertion[] = "Assertion failed";
 
 /// Stands in for the message box: closes it, and reports one that nobody expects.
-int WINAPI AnswerBox(HWND, LPCSTR text, LPCSTR, UINT)
+int WINAPI AnswerBox(HWND, LPCTSTR text, LPCTSTR, UINT)
 {
-    const bool isReport = expectedReport != nullptr && strcmp(text, expectedReport) == 0;
-    if (isReport || strcmp(text, notBound) == 0)
+    const std::string said = Printable(text);
+    const bool isReport = expectedReport != nullptr && said == expectedReport;
+    if (isReport || said == notBound)
         return IDOK;
-    if (strncmp(text, assertion, strlen(assertion)) == 0)
+    if (said.compare(0, strlen(assertion), assertion) == 0)
         return IDIGNORE;
-    sharedProgress->AddFinding((std::string("says \"") + text + "\"").c_str());
+    sharedProgress->AddFinding(("says \"" + said + "\"").c_str());
     return IDOK;
 }
 
@@ -335,6 +336,7 @@ void LiveWithFailures(const char* module, ImportFilter filter, const std::vector
     const SharedMemory memory(ChildArgument(), sizeof(Progress));
     sharedProgress = static_cast<Progress*>(memory.Get());
     expectedReport = options.report;
-    const ImportHook boxes(FindModule("umbra-mfc.dll"), "user32", "MessageBoxA", AnswerBox);
+    const ImportHook boxes(FindModule(UMBRA_MFC_DLL), "user32", TEXT_FUNCTION("MessageBox"),
+                           AnswerBox);
     FaultRun(FindModule(module), filter, lives, options.calls, *sharedProgress).Run();
 }

@@ -1,17 +1,20 @@
-// A buffer whose end is the end of the accessible memory: the first byte written or read past it is
-// an access violation. The bytes before it are watched.
+// A buffer of characters whose end is the end of the accessible memory: the first byte written or
+// read past it is an access violation. The bytes before it are watched.
 #pragma once
+
+#include "testing/Text.h"
 
 #include <windows.h>
 
+#include <algorithm>
 #include <string.h>
-#include <string>
 
 class GuardedBuffer
 {
 public:
-    explicit GuardedBuffer(size_t size)
+    explicit GuardedBuffer(size_t characters)
     {
+        const size_t size = characters * sizeof(TCHAR);
         SYSTEM_INFO system;
         ::GetSystemInfo(&system);
         const size_t page = system.dwPageSize;
@@ -27,7 +30,7 @@ public:
     GuardedBuffer(const GuardedBuffer&) = delete;
     GuardedBuffer& operator=(const GuardedBuffer&) = delete;
 
-    char* Get() const { return m_memory + m_before; }
+    TCHAR* Get() const { return reinterpret_cast<TCHAR*>(m_memory + m_before); }
     bool IsFrontIntact() const
     {
         for (size_t i = 0; i < m_before; ++i) {
@@ -47,9 +50,9 @@ private:
 class GuardedText : public GuardedBuffer
 {
 public:
-    explicit GuardedText(const std::string& text) : GuardedBuffer(text.size() + 1)
+    explicit GuardedText(const umbra::testing::TString& text) : GuardedBuffer(text.size() + 1)
     {
-        memcpy(Get(), text.c_str(), text.size() + 1);
+        std::copy_n(text.c_str(), text.size() + 1, Get());
     }
-    operator const char*() const { return Get(); }
+    operator LPCTSTR() const { return Get(); }
 };

@@ -3,6 +3,7 @@
 #include "tests/robustness/FailureTable.h"
 #include "tests/robustness/Stage.h"
 
+#include "tests/LibraryFiles.h"
 #include "tests/programs/HelpProgram.h"
 
 #include "controls/StaticTS.h"
@@ -38,8 +39,8 @@ struct Progress
 std::vector<Import> ImportsThatCanFail()
 {
     std::vector<Import> imports;
-    for (const Import& import : ImportsOf(FindModule("umbra.dll"))) {
-        if (!import.name.empty() && import.dll != "umbra-mfc.dll" && CanFail(import))
+    for (const Import& import : ImportsOf(FindModule(UMBRA_DLL))) {
+        if (!import.name.empty() && import.dll != UMBRA_MFC_DLL && CanFail(import))
             imports.push_back(import);
     }
     return imports;
@@ -76,7 +77,7 @@ TEST_CASE("part: the hand cursor with a failing call" * doctest::skip())
         for (size_t i = 0; i < imports.size(); ++i) {
             const bool fails = progress.import == static_cast<LONG>(i);
             faults.push_back(std::make_unique<CallFault>(
-                FindModule("umbra.dll"), imports[i].dll.c_str(), imports[i].name.c_str(), 1,
+                FindModule(UMBRA_DLL), imports[i].dll.c_str(), imports[i].name.c_str(), 1,
                 fails ? 1 : 0, ChooseFailure(imports[i], progress)));
         }
         progress.hasHand = LoadHandCursor() != nullptr;
@@ -131,7 +132,7 @@ TEST_CASE("a Windows directory that does not fit its buffer has no help program"
     auto& progress = *static_cast<Progress*>(memory.Get());
     const std::vector<Import> imports = ImportsThatCanFail();
     const auto folder = std::find_if(imports.begin(), imports.end(), [](const Import& import) {
-        return import.name == "GetWindowsDirectoryA";
+        return import.name == TEXT_FUNCTION("GetWindowsDirectory");
     });
     REQUIRE(folder != imports.end());
     progress.import = static_cast<LONG>(folder - imports.begin());

@@ -1,6 +1,9 @@
 // Texts of every length around the sizes of the toolkit's buffers, and far beyond.
 #include "tests/robustness/GuardedBuffer.h"
 
+#include "tests/LibraryFiles.h"
+#include "tests/StartStandIn.h"
+
 #include "shell/CommandLine.h"
 #include "shell/PictureLoader.h"
 #include "shell/PicturePath.h"
@@ -13,15 +16,22 @@
 
 #include <doctest/doctest.h>
 
+#include <algorithm>
 #include <direct.h>
 #include <map>
 #include <mbctype.h>
 #include <olectl.h>
-#include <string>
 #include <vector>
 
 using namespace umbra;
 using namespace umbra::testing;
+
+/// The name by which a function of the run-time library is imported that takes text.
+#ifdef UNICODE
+#define RUN_TIME_FUNCTION(name) "_w" name
+#else
+#define RUN_TIME_FUNCTION(name) "_" name
+#endif
 
 namespace {
 
@@ -31,15 +41,15 @@ const size_t edges[] = {0,   1,   2,   254, 255, 256, 257,  258,   259,   260,
 /// The module whose calls are caught.
 HMODULE Umbra()
 {
-    return FindModule("umbra.dll");
+    return FindModule(UMBRA_DLL);
 }
 
-/// A text that shows where it was cut: its bytes count up.
-std::string Long(size_t length)
+/// A text that shows where it was cut: its characters count up.
+TString Long(size_t length)
 {
-    std::string text(length, ' ');
+    TString text(length, _T(' '));
     for (size_t i = 0; i < length; ++i)
-        text[i] = static_cast<char>('a' + i % 26);
+        text[i] = static_cast<TCHAR>(_T('a') + i % 26);
     return text;
 }
 
@@ -48,9 +58,9 @@ class ScriptedRegistry
 {
 public:
     ScriptedRegistry() { Values().clear(); }
-    static std::map<std::string, std::string>& Values()
+    static std::map<TString, TString>& Values()
     {
-        static std::map<std::string, std::string> values;
+        static std::map<TString, TString> values;
         return values;
     }
     bool IsInstalled() const
@@ -59,7 +69,7 @@ public:
     }
 
 private:
-    static LSTATUS WINAPI Open(HKEY, LPCSTR name, DWORD, REGSAM, HKEY* key)
+    static LSTATUS WINAPI Open(HKEY, LPCTSTR name, DWORD, REGSAM, HKEY* key)
     {
         const auto found = Values().find(name);
         if (found == Values().end())
@@ -68,20 +78,20 @@ private:
         return ERROR_SUCCESS;
     }
     /// As the system does: too long a value is not touched; the terminator comes only when stored.
-    static LSTATUS WINAPI Query(HKEY key, LPCSTR, LPSTR out, LONG* size)
+    static LSTATUS WINAPI Query(HKEY key, LPCTSTR, LPTSTR out, LONG* size)
     {
-        const std::string& value = *reinterpret_cast<std::string*>(key);
-        const LONG length = static_cast<LONG>(value.size());
+        const TString& value = *reinterpret_cast<TString*>(key);
+        const LONG length = static_cast<LONG>(value.size() * sizeof(TCHAR));
         const bool fits = length <= *size;
         if (fits)
-            memcpy(out, value.data(), value.size());
+            std::copy(value.begin(), value.end(), out);
         *size = length;
         return fits ? ERROR_SUCCESS : ERROR_MORE_DATA;
     }
     static LSTATUS WINAPI Close(HKEY) { return ERROR_SUCCESS; }
 
-    ImportHook m_open{Umbra(), "advapi32", "RegOpenKeyExA", Open};
-    ImportHook m_query{Umbra(), "advapi32", "RegQueryValueA", Query};
+    ImportHook m_open{Umbra(), "advapi32", TEXT_FUNCTION("RegOpenKeyEx"), Open};
+    ImportHook m_query{Umbra(), "advapi32", TEXT_FUNCTION("RegQueryValue"), Query};
     ImportHook m_close{Umbra(), "advapi32", "RegCloseKey", Close};
 };
 
@@ -94,56 +104,58 @@ public:
         Targets().clear();
         Commands().clear();
         REQUIRE(m_shell.IsInstalled());
-        REQUIRE(m_winExec.IsInstalled());
+        REQUIRE(m_start.IsInstalled());
     }
-    static std::vector<std::string>& Targets()
+    static std::vector<TString>& Targets()
     {
-        static std::vector<std::string> targets;
+        static std::vector<TString> targets;
         return targets;
     }
-    static std::vector<std::string>& Commands()
+    static std::vector<TString>& Commands()
     {
-        static std::vector<std::string> commands;
+        static std::vector<TString> commands;
         return commands;
     }
 
 private:
-    static HINSTANCE WINAPI Open(HWND, LPCSTR, LPCSTR target, LPCSTR, LPCSTR, INT)
+    static HINSTANCE WINAPI Open(HWND, LPCTSTR, LPCTSTR target, LPCTSTR, LPCTSTR, INT)
     {
         Targets().push_back(target);
         return reinterpret_cast<HINSTANCE>(ERROR_FILE_NOT_FOUND);
     }
-    static UINT WINAPI Execute(LPCSTR command, UINT)
+    static UINT Execute(LPCTSTR command, UINT)
     {
         Commands().push_back(command);
         return 33;
     }
 
-    ImportHook m_shell{Umbra(), "shell32", "ShellExecuteA", Open};
-    ImportHook m_winExec{Umbra(), "kernel32", "WinExec", Execute};
+    using Starts = StartStandIn<Execute>;
+
+    ImportHook m_shell{Umbra(), "shell32", TEXT_FUNCTION("ShellExecute"), Open};
+    ImportHook m_start{Umbra(), "kernel32", Starts::function, Starts::Start};
 };
 
-const std::string openVerb = "\\shell\\open\\command";
+const TString openVerb = _T("\\shell\\open\\command");
 
 /// What ShellOpen runs for a type name and a command of the registry, both with their terminators;
 /// empty when nothing.
-std::string RunWith(const std::string& type, const std::string& command, const std::string& target)
+TString RunWith(const TString& type, const TString& command, const TString& target)
 {
     const ScriptedRegistry registry;
     REQUIRE(registry.IsInstalled());
-    ScriptedRegistry::Values()[".hostile"] = type;
+    ScriptedRegistry::Values()[_T(".hostile")] = type;
     ScriptedRegistry::Values()[type.c_str() + openVerb] = command;
     const FailingShell shell;
     const GuardedText guarded(target);
-    ShellOpen(guarded, SW_SHOWNORMAL, ".hostile");
+    ShellOpen(guarded, SW_SHOWNORMAL, _T(".hostile"));
     REQUIRE(FailingShell::Commands().size() <= 1);
-    return FailingShell::Commands().empty() ? "" : FailingShell::Commands()[0];
+    return FailingShell::Commands().empty() ? TString() : FailingShell::Commands()[0];
 }
 
 /// The text with its terminator as one more character.
-std::string Terminated(const std::string& text)
+TString Terminated(const TString& text)
 {
-    return text + '\0';
+    return text + _T('\0');
 }
 
 /// Notes the paths that the picture loader is asked for, and finds none of them.
@@ -176,41 +188,42 @@ private:
 class FarFolder
 {
 public:
-    explicit FarFolder(const std::string& folder)
+    explicit FarFolder(const TString& folder)
     {
         Folder() = folder;
         Visited().clear();
         REQUIRE(m_get.IsInstalled());
         REQUIRE(m_change.IsInstalled());
     }
-    static std::vector<std::string>& Visited()
+    static std::vector<TString>& Visited()
     {
-        static std::vector<std::string> folders;
+        static std::vector<TString> folders;
         return folders;
     }
 
 private:
-    static std::string& Folder()
+    static TString& Folder()
     {
-        static std::string folder;
+        static TString folder;
         return folder;
     }
-    static char* Get(char* out, int capacity)
+    static TCHAR* Get(TCHAR* out, int capacity)
     {
         if (Folder().size() >= static_cast<size_t>(capacity))
             return nullptr;
-        return strcpy(out, Folder().c_str());
+        return _tcscpy(out, Folder().c_str());
     }
-    static int Change(const char* folder)
+    static int Change(const TCHAR* folder)
     {
         Visited().push_back(folder);
         return 0;
     }
 
-    ImportHook m_get{Umbra(), "msvcrt", "_getcwd", Get};
-    ImportHook m_change{Umbra(), "msvcrt", "_chdir", Change};
+    ImportHook m_get{Umbra(), "msvcrt", RUN_TIME_FUNCTION("getcwd"), Get};
+    ImportHook m_change{Umbra(), "msvcrt", RUN_TIME_FUNCTION("chdir"), Change};
 };
 
+#ifndef UNICODE
 /// Code page 932, in which bytes from 0x81 on may lead a character of two.
 class JapaneseText
 {
@@ -231,6 +244,7 @@ private:
     LCID m_locale;
     int m_codePage;
 };
+#endif
 
 } // namespace
 
@@ -249,14 +263,14 @@ TEST_CASE("a composed command line fills its buffer to the last byte and never g
                 CAPTURE(length);
                 CAPTURE(room);
                 const GuardedBuffer buffer(capacity);
-                strcpy(buffer.Get(), Long(length).c_str());
-                const std::string target = Long(static_cast<size_t>(room));
+                _tcscpy(buffer.Get(), Long(length).c_str());
+                const TString target = Long(static_cast<size_t>(room));
                 const GuardedText guarded(target);
                 const BOOL composed = ComposeCommandLine(buffer.Get(), capacity, guarded);
                 REQUIRE(composed == (spare <= 0));
                 if (composed)
-                    REQUIRE(std::string(buffer.Get()) == Long(length) + " " + target);
-                REQUIRE(strnlen(buffer.Get(), capacity) < capacity);
+                    REQUIRE(TString(buffer.Get()) == Long(length) + _T(" ") + target);
+                REQUIRE(_tcsnlen(buffer.Get(), capacity) < capacity);
                 REQUIRE(buffer.IsFrontIntact());
             }
         }
@@ -265,27 +279,29 @@ TEST_CASE("a composed command line fills its buffer to the last byte and never g
 
 TEST_CASE("what stands behind a placeholder takes no room from the target")
 {
-    const std::string command = "run.exe \"%1\" " + Long(shellCommandCapacity - 14);
+    const TString command = _T("run.exe \"%1\" ") + Long(shellCommandCapacity - 14);
     REQUIRE(command.size() == shellCommandCapacity - 1);
-    const std::string target = Long(shellCommandCapacity - 8 - 2);
+    const TString target = Long(shellCommandCapacity - 8 - 2);
     const GuardedBuffer buffer(shellCommandCapacity);
-    strcpy(buffer.Get(), command.c_str());
+    _tcscpy(buffer.Get(), command.c_str());
     REQUIRE(ComposeCommandLine(buffer.Get(), shellCommandCapacity, target.c_str()));
-    CHECK(std::string(buffer.Get()) == "run.exe  " + target);
-    CHECK(strlen(buffer.Get()) == shellCommandCapacity - 1);
+    CHECK(TString(buffer.Get()) == _T("run.exe  ") + target);
+    CHECK(_tcslen(buffer.Get()) == shellCommandCapacity - 1);
 }
 
 TEST_CASE("a placeholder is found at the very end of a text, and no half of one beyond it")
 {
-    for (const char* ending : {"%1", "\"%1\"", "%", "\"%1", "\"%", "\"", "\x83"}) {
+    for (const LPCTSTR ending :
+         {_T("%1"), _T("\"%1\""), _T("%"), _T("\"%1"), _T("\"%"), _T("\""), _T("\x83")}) {
         CAPTURE(ending);
         const GuardedText command(Long(300) + ending);
-        const bool whole = strstr(ending, "%1") != nullptr;
+        const bool whole = _tcsstr(ending, _T("%1")) != nullptr;
         CHECK(CutPlaceholder(command.Get()) == (whole ? TRUE : FALSE));
-        CHECK(strlen(command.Get()) >= 300);
+        CHECK(_tcslen(command.Get()) >= 300);
     }
 }
 
+#ifndef UNICODE
 TEST_CASE("a lead byte at the end of a command takes nothing from beyond it")
 {
     const JapaneseText japanese;
@@ -298,6 +314,7 @@ TEST_CASE("a lead byte at the end of a command takes nothing from beyond it")
     CHECK(CutPlaceholder(command.Get()));
     CHECK(std::string(command) == "run.exe \x83\x25");
 }
+#endif
 
 TEST_CASE("registered values of every length are read whole or not at all")
 {
@@ -306,11 +323,11 @@ TEST_CASE("registered values of every length are read whole or not at all")
             CAPTURE(length);
             CAPTURE(terminated);
             const ScriptedRegistry registry;
-            const std::string value = Long(length);
-            ScriptedRegistry::Values()["key"] = terminated ? Terminated(value) : value;
+            const TString value = Long(length);
+            ScriptedRegistry::Values()[_T("key")] = terminated ? Terminated(value) : value;
             const GuardedBuffer out(MAX_PATH);
-            REQUIRE(QueryRegistryDefault(HKEY_CLASSES_ROOT, "key", out.Get()) == ERROR_SUCCESS);
-            const std::string read = out.Get();
+            REQUIRE(QueryRegistryDefault(HKEY_CLASSES_ROOT, _T("key"), out.Get()) == ERROR_SUCCESS);
+            const TString read = out.Get();
             CHECK((read == value || read.empty()));
             CHECK(read.empty() == (length == 0 || length >= MAX_PATH));
             CHECK(out.IsFrontIntact());
@@ -320,23 +337,23 @@ TEST_CASE("registered values of every length are read whole or not at all")
 
 TEST_CASE("a value of the real registry that fills the buffer without a terminator is not cut")
 {
-    const std::string key = "umbra.hostile.value";
+    const TString key = _T("umbra.hostile.value");
     HKEY opened;
-    REQUIRE(::RegCreateKeyExA(HKEY_CURRENT_USER, key.c_str(), 0, nullptr, 0, KEY_ALL_ACCESS,
-                              nullptr, &opened, nullptr) == ERROR_SUCCESS);
+    REQUIRE(::RegCreateKeyEx(HKEY_CURRENT_USER, key.c_str(), 0, nullptr, 0, KEY_ALL_ACCESS, nullptr,
+                             &opened, nullptr) == ERROR_SUCCESS);
     for (const DWORD length : {MAX_PATH - 2, MAX_PATH - 1, MAX_PATH, MAX_PATH + 1}) {
         CAPTURE(length);
-        const std::string value = Long(length + 1); // The byte behind must not look like its end.
-        REQUIRE(::RegSetValueExA(opened, nullptr, 0, REG_SZ,
-                                 reinterpret_cast<const BYTE*>(value.c_str()),
-                                 length) == ERROR_SUCCESS);
+        const TString value = Long(length + 1); // The character behind must not look like its end.
+        REQUIRE(::RegSetValueEx(opened, nullptr, 0, REG_SZ,
+                                reinterpret_cast<const BYTE*>(value.c_str()),
+                                length * sizeof(TCHAR)) == ERROR_SUCCESS);
         const GuardedBuffer out(MAX_PATH);
         CHECK(QueryRegistryDefault(HKEY_CURRENT_USER, key.c_str(), out.Get()) == ERROR_SUCCESS);
-        const std::string read = out.Get();
+        const TString read = out.Get();
         CHECK((read.empty() || read == Long(length)));
     }
     ::RegCloseKey(opened);
-    ::RegDeleteKeyA(HKEY_CURRENT_USER, key.c_str());
+    ::RegDeleteKey(HKEY_CURRENT_USER, key.c_str());
 }
 
 TEST_CASE("each label reads the registry the same way")
@@ -353,13 +370,13 @@ TEST_CASE("each label reads the registry the same way")
     } label;
     const ScriptedRegistry registry;
     for (const size_t length : {size_t{259}, size_t{260}}) {
-        ScriptedRegistry::Values()["key"] = Terminated(Long(length));
+        ScriptedRegistry::Values()[_T("key")] = Terminated(Long(length));
         const GuardedBuffer ofLink(MAX_PATH);
         const GuardedBuffer ofLabel(MAX_PATH);
-        CHECK(link.QueryRegistryDefault(nullptr, "key", ofLink.Get()) == ERROR_SUCCESS);
-        CHECK(label.QueryRegistryDefault(nullptr, "key", ofLabel.Get()) == ERROR_SUCCESS);
-        CHECK(std::string(ofLink.Get()) == (length < MAX_PATH ? Long(length) : ""));
-        CHECK(std::string(ofLabel.Get()) == ofLink.Get());
+        CHECK(link.QueryRegistryDefault(nullptr, _T("key"), ofLink.Get()) == ERROR_SUCCESS);
+        CHECK(label.QueryRegistryDefault(nullptr, _T("key"), ofLabel.Get()) == ERROR_SUCCESS);
+        CHECK(TString(ofLink.Get()) == (length < MAX_PATH ? Long(length) : TString()));
+        CHECK(TString(ofLabel.Get()) == ofLink.Get());
     }
 }
 
@@ -371,14 +388,14 @@ TEST_CASE("no command is run that was cut, whatever the lengths of type, command
         for (const size_t command : shorts) {
             for (const size_t target : {size_t{1}, size_t{266}, size_t{267}, size_t{268},
                                         size_t{269}, size_t{525}, size_t{526}, size_t{65536}}) {
-                const std::string ran =
+                const TString ran =
                     RunWith(Terminated(Long(type)), Terminated(Long(command)), Long(target));
                 const bool fits = type < MAX_PATH && command < MAX_PATH &&
                                   command + 1 + target < shellCommandCapacity;
                 CAPTURE(type);
                 CAPTURE(command);
                 CAPTURE(target);
-                REQUIRE(ran == (fits ? Long(command) + " " + Long(target) : ""));
+                REQUIRE(ran == (fits ? Long(command) + _T(" ") + Long(target) : TString()));
                 run += fits ? 1 : 0;
             }
         }
@@ -389,7 +406,7 @@ TEST_CASE("no command is run that was cut, whatever the lengths of type, command
 TEST_CASE("the shell itself gets a target of any length whole")
 {
     for (const size_t length : edges) {
-        RunWith(Terminated("type"), Terminated("run.exe %1"), Long(length));
+        RunWith(Terminated(_T("type")), Terminated(_T("run.exe %1")), Long(length));
         REQUIRE(FailingShell::Targets().size() == 1);
         CHECK(FailingShell::Targets()[0] == Long(length));
     }
@@ -409,7 +426,8 @@ TEST_CASE("a joined picture path fills its buffer to the last byte and never goe
                 const BOOL joined =
                     JoinPicturePath(guardedFolder, guardedPath, out.Get(), capacity);
                 REQUIRE(joined == (folder + 2 + path < capacity));
-                REQUIRE(std::string(out.Get()) == (joined ? Long(folder) + "//" + Long(path) : ""));
+                REQUIRE(TString(out.Get()) ==
+                        (joined ? Long(folder) + _T("//") + Long(path) : TString()));
                 REQUIRE(out.IsFrontIntact());
             }
         }
@@ -425,20 +443,21 @@ TEST_CASE("picture paths and working directories of every length are joined whol
             CAPTURE(folder);
             CAPTURE(path);
             NoPictures::Paths().clear();
-            const std::string narrow = Long(path);
-            const GuardedText guarded(narrow);
+            const TString text = Long(path);
+            const GuardedText guarded(text);
             REQUIRE(LoadPictureBitmap(guarded) == nullptr);
             const std::vector<std::wstring>& asked = NoPictures::Paths();
             const bool fits = folder + 2 + path < 256;
             REQUIRE(asked.size() == (fits ? 2 : 1));
-            REQUIRE(asked[0] == std::wstring(narrow.begin(), narrow.end()));
-            const std::string joined = Long(folder) + "//" + narrow;
+            REQUIRE(asked[0] == std::wstring(text.begin(), text.end()));
+            const TString joined = Long(folder) + _T("//") + text;
             if (fits)
                 REQUIRE(asked[1] == std::wstring(joined.begin(), joined.end()));
         }
     }
 }
 
+#ifndef UNICODE
 TEST_CASE("a path that ends in half a character is converted within its own length")
 {
     const JapaneseText japanese;
@@ -454,6 +473,7 @@ TEST_CASE("a path that ends in half a character is converted within its own leng
         CHECK(NoPictures::Paths()[1].size() <= strlen(path) + strlen("C:\\\x83//"));
     }
 }
+#endif
 
 TEST_CASE("a path of more than a thousand million characters gives no picture")
 {
@@ -470,14 +490,15 @@ TEST_CASE("a path of more than a thousand million characters gives no picture")
     for (size_t i = 0; i < pieces; ++i)
         REQUIRE(::MapViewOfFileEx(memory, FILE_MAP_WRITE, 0, 0, piece, start + i * piece) !=
                 nullptr);
-    memset(start, 'p', piece);
+    const auto path = reinterpret_cast<TCHAR*>(start);
+    std::fill_n(path, piece / sizeof(TCHAR), _T('p'));
     char* const end = static_cast<char*>(
         ::VirtualAlloc(start + pieces * piece, piece, MEM_RESERVE | MEM_COMMIT, PAGE_READWRITE));
     CHECK(end == start + pieces * piece); // Zeros, which end the path.
     {
         const NoPictures pictures;
         if (end != nullptr)
-            CHECK(LoadPictureBitmap(start) == nullptr);
+            CHECK(LoadPictureBitmap(path) == nullptr);
         CHECK(NoPictures::Paths() == std::vector<std::wstring>{L"(none)"});
     }
     ::VirtualFree(end, 0, MEM_RELEASE);
@@ -497,26 +518,26 @@ TEST_CASE("a page with an image folder of any length opens, and goes back to the
         }
     };
     const CString former = g_strImageDir;
-    const std::string here = "C:\\here";
+    const TString here = _T("C:\\here");
     for (const size_t length : {size_t{1}, size_t{255}, size_t{256}, size_t{257}, size_t{259},
                                 size_t{260}, size_t{261}, size_t{65536}}) {
         for (const size_t away : {here.size(), size_t{259}, size_t{260}, size_t{261}}) {
             CAPTURE(length);
             CAPTURE(away);
-            const std::string folder = away == here.size() ? here : Long(away);
+            const TString folder = away == here.size() ? here : Long(away);
             const FarFolder working(folder);
             g_strImageDir = Long(length).c_str();
             PicturePage page;
             umbra::testing::DialogTemplate source(0, 0, 300, 100,
                                                   umbra::testing::DialogTemplate::popup);
-            source.Button(IDCANCEL, "Cancel", 10, 10, 50, 14);
+            source.Button(IDCANCEL, _T("Cancel"), 10, 10, 50, 14);
             REQUIRE(page.CreateIndirect(source.Get()));
             FarFolder::Visited().clear();
             page.ShowPicture(16);
-            const std::vector<std::string>& visited = FarFolder::Visited();
+            const std::vector<TString>& visited = FarFolder::Visited();
             if (away <= 260) { // It can be remembered, so it is left and come back to.
                 REQUIRE(visited.size() == 2);
-                CHECK(visited[0] == Long(length) + "\\");
+                CHECK(visited[0] == Long(length) + _T("\\"));
                 CHECK(visited[1] == folder);
             } else {
                 CHECK(visited.empty());
@@ -530,17 +551,17 @@ TEST_CASE("a page with an image folder of any length opens, and goes back to the
 TEST_CASE("labels, links and buttons take, paint and open texts of any length")
 {
     const ScriptedRegistry registry;
-    for (const char* extension : {".htm", ".QVXLog"})
-        ScriptedRegistry::Values()[extension] = Terminated("type");
-    ScriptedRegistry::Values()["type" + openVerb] = Terminated("run.exe %1");
+    for (const LPCTSTR extension : {_T(".htm"), _T(".QVXLog")})
+        ScriptedRegistry::Values()[extension] = Terminated(_T("type"));
+    ScriptedRegistry::Values()[_T("type") + openVerb] = Terminated(_T("run.exe %1"));
     const FailingShell shell;
 
     CDialogTS dialog(1);
     umbra::testing::DialogTemplate source(10, 10, 300, 150,
                                           umbra::testing::DialogTemplate::popup | WS_VISIBLE);
     const DWORD style = umbra::testing::DialogTemplate::visibleChild | SS_NOTIFY;
-    source.Label(100, "", 10, 10, 100, 20, style).Label(101, "", 10, 40, 100, 20, style);
-    source.Button(102, "", 10, 70, 100, 20);
+    source.Label(100, _T(""), 10, 10, 100, 20, style).Label(101, _T(""), 10, 40, 100, 20, style);
+    source.Button(102, _T(""), 10, 70, 100, 20);
     dialog.m_bmpBack.CreateBitmap(40, 40, 1, 32, nullptr);
     dialog.m_bHasBitmap = TRUE;
     dialog.m_bCaptionText = TRUE;
@@ -553,7 +574,7 @@ TEST_CASE("labels, links and buttons take, paint and open texts of any length")
     link.SubclassDlgItem(100, &dialog);
     label.SubclassDlgItem(101, &dialog);
     button.SubclassDlgItem(102, &dialog);
-    link.SetURL("");
+    link.SetURL(_T(""));
     label.SetLink(TRUE);
     for (const size_t length : edges) {
         CAPTURE(length);
@@ -573,7 +594,7 @@ TEST_CASE("labels, links and buttons take, paint and open texts of any length")
         FailingShell::Commands().clear();
         link.SendMessage(WM_LBUTTONDOWN, MK_LBUTTON, 0);
         label.SendMessage(WM_LBUTTONDOWN, MK_LBUTTON, 0);
-        const std::string whole = "run.exe  " + Long(length);
+        const TString whole = _T("run.exe  ") + Long(length);
         if (length == 0 || whole.size() >= shellCommandCapacity) {
             CHECK(FailingShell::Commands().empty());
         } else {

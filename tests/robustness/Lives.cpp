@@ -91,12 +91,12 @@ void UseGrid()
 /// Pictures that are there, that are not, and one below the working directory.
 void UsePictureLoader()
 {
-    for (const char* name : {"Info.gif", "no such.gif"}) {
+    for (const LPCTSTR name : {_T("Info.gif"), _T("no such.gif")}) {
         const HBITMAP bitmap = LoadPictureBitmap(ImageFile(name));
         if (bitmap != nullptr)
             ::DeleteObject(bitmap);
     }
-    const HBITMAP below = LoadPictureBitmap("images\\Info.gif");
+    const HBITMAP below = LoadPictureBitmap(_T("images\\Info.gif"));
     if (below != nullptr)
         ::DeleteObject(below);
 }
@@ -105,7 +105,7 @@ void UsePictureLoader()
 void UseShell()
 {
     for (int i = 0; i < 8; ++i)
-        ShellOpen("http://example.org/", SW_SHOWNORMAL, ".htm");
+        ShellOpen(_T("http://example.org/"), SW_SHOWNORMAL, _T(".htm"));
 }
 
 // Labels.
@@ -138,21 +138,21 @@ void SetUpLinkLabel(CStaticTS& label)
 {
     label.SetLink(TRUE);
     label.SetTransparent(TRUE);
-    label.SetLinkTarget("  http://example.org/  ");
+    label.SetLinkTarget(_T("  http://example.org/  "));
     label.SetLabelFont(static_cast<HFONT>(::GetStockObject(ANSI_VAR_FONT)));
 }
 
 void SetUpKeyedLabel(CStaticTS& label)
 {
     label.SetTransparentColor(RGB(0, 0, 0));
-    label.LoadPicture(ImageFile("Info.gif"));
-    label.LoadPicture(ImageFile("Error.gif"));
+    label.LoadPicture(ImageFile(_T("Info.gif")));
+    label.LoadPicture(ImageFile(_T("Error.gif")));
 }
 
 void SetUpOpaqueLabel(CStaticTS& label)
 {
-    label.LoadPicture(ImageFile("Info.gif"));
-    label.LoadPicture(ImageFile("no such.gif"));
+    label.LoadPicture(ImageFile(_T("Info.gif")));
+    label.LoadPicture(ImageFile(_T("no such.gif")));
 }
 
 void SetUpNote(CNoteStatic& note)
@@ -166,18 +166,18 @@ void SetUpHyperLink(CHyperLink& link)
 {
     link.SetTextColor(RGB(0, 0, 255));
     link.SetTransparentColor(RGB(0, 0, 0));
-    link.SetBitmapFile(ImageFile("InfoIcon1.gif"));
-    link.SetBitmapFile(ImageFile("Error.gif"));
-    link.SetToolTipText("A tip");
-    link.SetToolTipText("Another tip");
-    link.SetURL("http://example.org/");
+    link.SetBitmapFile(ImageFile(_T("InfoIcon1.gif")));
+    link.SetBitmapFile(ImageFile(_T("Error.gif")));
+    link.SetToolTipText(_T("A tip"));
+    link.SetToolTipText(_T("Another tip"));
+    link.SetURL(_T("http://example.org/"));
     link.ApplyLinkFont();
 }
 
 void SetUpPlainHyperLink(CHyperLink& link)
 {
     link.ApplyLinkFont();
-    link.SetToolTipText("A tip");
+    link.SetToolTipText(_T("A tip"));
 }
 
 /// A label that is made through its class.
@@ -185,14 +185,14 @@ void UseCreatedLabel()
 {
     Stage stage;
     CStaticTS label;
-    if (label.Create("A text", WS_CHILD | WS_VISIBLE | SS_NOTIFY, CRect(20, 20, 140, 60), &stage,
-                     7))
-        label.LoadPicture(ImageFile("Info.gif"));
+    if (label.Create(_T("A text"), WS_CHILD | WS_VISIBLE | SS_NOTIFY, CRect(20, 20, 140, 60),
+                     &stage, 7))
+        label.LoadPicture(ImageFile(_T("Info.gif")));
     stage.Show();
     label.DestroyWindow();
     // The object may also go before its window.
     CStaticTS second;
-    second.Create("Another", WS_CHILD | WS_VISIBLE, CRect(20, 20, 140, 60), &stage, 8);
+    second.Create(_T("Another"), WS_CHILD | WS_VISIBLE, CRect(20, 20, 140, 60), &stage, 8);
 }
 
 // Buttons.
@@ -204,9 +204,9 @@ void SetUpButton(CxShadeButton& button)
     button.SetTextColor(RGB(90, 0, 0));
     LOGFONT font = {};
     font.lfHeight = -12;
-    lstrcpy(font.lfFaceName, "Arial");
+    lstrcpy(font.lfFaceName, _T("Arial"));
     button.SetTextFont(font);
-    button.SetToolTipText("A tip", "While checked");
+    button.SetToolTipText(_T("A tip"), _T("While checked"));
 }
 
 /// A button of the style, with everything that a user does.
@@ -236,15 +236,15 @@ void GiveNothing(CxShadeButton&)
 
 void GivePicture(CxShadeButton& button)
 {
-    button.SetPicture(ImageFile("Ok.gif"), CxShadeButton::alignLeft, 19, 19, RGB(0, 0, 0));
-    button.SetPicture(ImageFile("Next.gif"), CxShadeButton::alignRight, 19, 19, RGB(0, 0, 0));
-    button.SetPicture(ImageFile("no such.gif"), CxShadeButton::alignTop, 19, 19, RGB(0, 0, 0));
-    button.SetPicture(ImageFile("Back.gif"), CxShadeButton::alignTop, 19, 19, RGB(0, 0, 0));
+    button.SetPicture(ImageFile(_T("Ok.gif")), CxShadeButton::alignLeft, 19, 19, RGB(0, 0, 0));
+    button.SetPicture(ImageFile(_T("Next.gif")), CxShadeButton::alignRight, 19, 19, RGB(0, 0, 0));
+    button.SetPicture(ImageFile(_T("no such.gif")), CxShadeButton::alignTop, 19, 19, RGB(0, 0, 0));
+    button.SetPicture(ImageFile(_T("Back.gif")), CxShadeButton::alignTop, 19, 19, RGB(0, 0, 0));
 }
 
 void GiveOpaquePicture(CxShadeButton& button)
 {
-    button.SetPicture(ImageFile("Ok.gif"), CxShadeButton::alignLeft, 19, 19, CLR_NONE);
+    button.SetPicture(ImageFile(_T("Ok.gif")), CxShadeButton::alignLeft, 19, 19, CLR_NONE);
     button.SetFlat(TRUE);
 }
 
@@ -285,8 +285,8 @@ public:
     void Live()
     {
         const DialogTemplate source =
-            DialogTemplate(20, 20, 150, 100, WS_POPUP | WS_VISIBLE | WS_CAPTION, "A caption")
-                .Button(IDOK, "&Go on", 10, 10, 50, 14);
+            DialogTemplate(20, 20, 150, 100, WS_POPUP | WS_VISIBLE | WS_CAPTION, _T("A caption"))
+                .Button(IDOK, _T("&Go on"), 10, 10, 50, 14);
         if (!CreateIndirect(source.Get()))
             return;
         const HWND window = m_hWnd;
@@ -360,8 +360,8 @@ public:
 void UseModalDialog()
 {
     const DialogTemplate source =
-        DialogTemplate(20, 20, 150, 100, WS_POPUP | WS_CAPTION, "A caption")
-            .Button(IDCANCEL, "&Go on", 10, 10, 50, 14);
+        DialogTemplate(20, 20, 150, 100, WS_POPUP | WS_CAPTION, _T("A caption"))
+            .Button(IDCANCEL, _T("&Go on"), 10, 10, 50, 14);
     SelfEnding<CDialogTS> dialog(UseItsButton, 0U, nullptr);
     dialog.InitModalIndirect(source.Get());
     dialog.DoModal();

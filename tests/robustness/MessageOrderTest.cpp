@@ -193,7 +193,7 @@ public:
 
 private:
     Stage m_stage;
-    HWND m_other = m_stage.Add("Edit", "", WS_TABSTOP, CRect(20, 120, 140, 150));
+    HWND m_other = m_stage.Add(_T("Edit"), _T(""), WS_TABSTOP, CRect(20, 120, 140, 150));
     CxShadeButton m_button;
     Record m_record;
 };
@@ -374,8 +374,9 @@ TEST_CASE("a modal page disables its owner before it shows and enables it before
     record.LeaveFocusOut(); // How dialogs pass it on is the system's.
     record.ListenTo(owner.m_hWnd, "owner");
     g_strImageDir = "no such folder";
-    const DialogTemplate source = DialogTemplate(20, 20, 150, 100, WS_POPUP | WS_CAPTION, "A page")
-                                      .Button(IDCANCEL, "&Go on", 10, 10, 50, 14);
+    const DialogTemplate source =
+        DialogTemplate(20, 20, 150, 100, WS_POPUP | WS_CAPTION, _T("A page"))
+            .Button(IDCANCEL, _T("&Go on"), 10, 10, 50, 14);
     MovePointerAway();
     PumpMessages();
     record.Clear();

@@ -52,8 +52,8 @@ public:
     /// The seeds of rounds are numbers of 32 bits.
     explicit Monkey(unsigned seed) : m_seed(seed), m_dice(seed), m_mischief(seed ^ 0x5EED)
     {
-        m_fonts[0].CreatePointFont(80, "Arial");
-        m_fonts[1].CreatePointFont(240, "Courier New");
+        m_fonts[0].CreatePointFont(80, _T("Arial"));
+        m_fonts[1].CreatePointFont(240, _T("Courier New"));
         umbra::testing::SetCrashContext(m_context);
     }
     ~Monkey() { umbra::testing::SetCrashContext(nullptr); }
@@ -354,7 +354,7 @@ private:
         }
         case 4: {
             Describe("WM_GETTEXT", window);
-            char text[300];
+            TCHAR text[300];
             memset(text, '#', sizeof(text));
             ::SendMessage(window, WM_GETTEXT, 256, reinterpret_cast<LPARAM>(text));
             break;
@@ -469,12 +469,12 @@ private:
         }
     }
 
-    const char* PickPicture()
+    LPCTSTR PickPicture()
     {
-        static const char* const names[] = {"Info.gif", "Error.gif", "InfoIcon1.gif", "None.gif",
-                                            ""};
+        static const LPCTSTR names[] = {_T("Info.gif"), _T("Error.gif"), _T("InfoIcon1.gif"),
+                                        _T("None.gif"), _T("")};
         static CString path;
-        path = g_strImageDir + "\\images\\" + m_dice.Pick(names);
+        path = g_strImageDir + _T("\\images\\") + m_dice.Pick(names);
         return path;
     }
 
@@ -503,7 +503,7 @@ private:
         case 4: {
             LOGFONT font = {};
             font.lfHeight = m_dice.Between(-40, 40);
-            lstrcpy(font.lfFaceName, m_dice.Percent(50) ? "Arial" : "No such face");
+            lstrcpy(font.lfFaceName, m_dice.Percent(50) ? _T("Arial") : _T("No such face"));
             button.SetTextFont(font);
             break;
         }
@@ -601,10 +601,11 @@ private:
             return;
         }
         // A text of 64 K is painted once and then made short again, or nothing else would happen.
-        const std::string text(static_cast<size_t>(m_dice.Between(65534, 65538)), 'W');
+        const umbra::testing::TString text(static_cast<size_t>(m_dice.Between(65534, 65538)),
+                                           _T('W'));
         ::SendMessage(window, WM_SETTEXT, 0, reinterpret_cast<LPARAM>(text.c_str()));
         ::UpdateWindow(window);
-        ::SendMessage(window, WM_SETTEXT, 0, reinterpret_cast<LPARAM>("short"));
+        ::SendMessage(window, WM_SETTEXT, 0, reinterpret_cast<LPARAM>(_T("short")));
     }
 
     void Pump()

@@ -224,10 +224,11 @@ public:
     {
         constexpr DWORD tab = umbra::testing::DialogTemplate::tabStop;
         constexpr DWORD label = umbra::testing::DialogTemplate::visibleChild | SS_NOTIFY;
-        umbra::testing::DialogTemplate page(10, 10, 440, 200, WS_POPUP | WS_VISIBLE, "Everything");
-        page.Button(IDOK, "ok", 270, 175, 60, 18, tab | BS_DEFPUSHBUTTON)
-            .Button(IDCANCEL, "cancel", 340, 175, 60, 18)
-            .Button(IDC_BACK, "back", 200, 175, 60, 18);
+        umbra::testing::DialogTemplate page(10, 10, 440, 200, WS_POPUP | WS_VISIBLE,
+                                            _T("Everything"));
+        page.Button(IDOK, _T("ok"), 270, 175, 60, 18, tab | BS_DEFPUSHBUTTON)
+            .Button(IDCANCEL, _T("cancel"), 340, 175, 60, 18)
+            .Button(IDC_BACK, _T("back"), 200, 175, 60, 18);
         const DWORD kinds[] = {BS_PUSHBUTTON,
                                BS_PUSHBUTTON | BS_FLAT,
                                BS_AUTOCHECKBOX | BS_NOTIFY,
@@ -239,16 +240,16 @@ public:
                                BS_DEFPUSHBUTTON | BS_FLAT};
         int number = 0;
         for (const DWORD kind : kinds) {
-            page.Button(firstButton + number, "A &button", 60 + number % 3 * 70,
+            page.Button(firstButton + number, _T("A &button"), 60 + number % 3 * 70,
                         10 + number / 3 * 24, 64, 20, tab | kind);
             ++number;
         }
         const DWORD aligns[] = {SS_LEFT, SS_CENTER, SS_RIGHT, SS_LEFT, SS_CENTER, SS_LEFT};
         for (number = 0; number < labelCount; ++number)
-            page.Label(firstLabel + number, "A label of several words", 60 + number % 3 * 100,
+            page.Label(firstLabel + number, _T("A label of several words"), 60 + number % 3 * 100,
                        90 + number / 3 * 26, 94, 22, label | aligns[number]);
         for (number = 0; number < linkCount; ++number)
-            page.Label(firstLink + number, " a link ", 60 + number * 100, 145, 94, 22, label);
+            page.Label(firstLink + number, _T(" a link "), 60 + number * 100, 145, 94, 22, label);
         return page;
     }
 
@@ -257,28 +258,28 @@ public:
         CBaseDialog::OnInitDialog();
         for (HastyButton& button : m_buttons)
             ApplyButtonShade(button);
-        m_buttons[0].SetPicture(m_strImageDir + "images\\Info.gif", CxShadeButton::alignLeft, 19,
-                                19, CLR_NONE);
-        m_buttons[1].SetPicture(m_strImageDir + "images\\Error.gif", CxShadeButton::alignTop, 19,
-                                19, RGB(0, 0, 0));
-        m_buttons[2].SetToolTipText("unchecked", "checked");
+        m_buttons[0].SetPicture(m_strImageDir + _T("images\\Info.gif"), CxShadeButton::alignLeft,
+                                19, 19, CLR_NONE);
+        m_buttons[1].SetPicture(m_strImageDir + _T("images\\Error.gif"), CxShadeButton::alignTop,
+                                19, 19, RGB(0, 0, 0));
+        m_buttons[2].SetToolTipText(_T("unchecked"), _T("checked"));
         m_buttons[7].SetIcons(::CopyIcon(::LoadIcon(nullptr, IDI_APPLICATION)),
                               CxShadeButton::alignRight, 32, 32);
-        m_buttons[8].SetToolTipText("a tool tip");
+        m_buttons[8].SetToolTipText(_T("a tool tip"));
         m_labels[1].SetEmbossed(TRUE);
         m_labels[2].SetLink(TRUE);
         m_labels[3].SetTransparentColor(RGB(0, 0, 0));
-        m_labels[3].LoadPicture(m_strImageDir + "images\\InfoIcon1.gif");
-        m_labels[3].SetLinkTarget("C:\\a target with blanks.txt");
+        m_labels[3].LoadPicture(m_strImageDir + _T("images\\InfoIcon1.gif"));
+        m_labels[3].SetLinkTarget(_T("C:\\a target with blanks.txt"));
         m_labels[3].SetLink(TRUE);
-        m_labels[4].LoadPicture(m_strImageDir + "images\\Ok.gif");
+        m_labels[4].LoadPicture(m_strImageDir + _T("images\\Ok.gif"));
         m_note.CopyWindowFont();
         m_links[0].ApplyLinkFont();
-        m_links[1].SetURL("");
+        m_links[1].SetURL(_T(""));
         m_links[2].SetTransparentColor(RGB(0, 0, 0));
-        m_links[2].SetBitmapFile(m_strImageDir + "images\\InfoIcon1.gif");
-        m_links[2].SetToolTipText("where it leads");
-        m_links[2].SetURL("http://example.invalid/");
+        m_links[2].SetBitmapFile(m_strImageDir + _T("images\\InfoIcon1.gif"));
+        m_links[2].SetToolTipText(_T("where it leads"));
+        m_links[2].SetURL(_T("http://example.invalid/"));
         ShowPicture(IDS_IMAGE_ERROR);
         return TRUE;
     }

@@ -84,8 +84,8 @@ void WarmUpSystem()
     }
     ::DeleteDC(memory);
     for (DWORD type = BS_PUSHBUTTON; type < BS_OWNERDRAW; ++type) { // Of its own looks.
-        const HWND button = ::CreateWindow("Button", "", WS_POPUP | WS_VISIBLE | type, 0, 0, 50, 50,
-                                           nullptr, nullptr, nullptr, nullptr);
+        const HWND button = ::CreateWindow(_T("Button"), _T(""), WS_POPUP | WS_VISIBLE | type, 0, 0,
+                                           50, 50, nullptr, nullptr, nullptr, nullptr);
         ::UpdateWindow(button);
         ::SendMessage(button, BM_SETSTATE, TRUE, 0);
         ::SetFocus(button);

@@ -160,7 +160,7 @@ void ShowDialog(const std::function<void(CDialogTS&)>& setUp)
     CDialogTS dialog(0U);
     setUp(dialog);
     dialog.CreateIndirect(
-        DialogTemplate(20, 20, 150, 100, WS_POPUP | WS_VISIBLE, "A caption").Get());
+        DialogTemplate(20, 20, 150, 100, WS_POPUP | WS_VISIBLE, _T("A caption")).Get());
     Stage::Paint(dialog.m_hWnd);
     dialog.DestroyWindow();
 }
@@ -182,18 +182,18 @@ TEST_CASE("what each operation of CStaticTS leaves for good")
                    }));
     CheckOperation("painting no text while m_bOwnFont is 0", nothing, OnLabel<Label>([](Label& l) {
                        l.m_bOwnFont = FALSE;
-                       l.SetWindowText("");
+                       l.SetWindowText(_T(""));
                        Stage::Paint(l.m_hWnd);
                    }));
     CheckOperation("LoadPicture, opaque", oneBitmapACall,
-                   OnLabel<Label>([](Label& l) { l.LoadPicture(ImageFile("Info.gif")); }));
+                   OnLabel<Label>([](Label& l) { l.LoadPicture(ImageFile(_T("Info.gif"))); }));
     CheckOperation("LoadPicture, keyed", oneBitmapACallAndTheMask, OnLabel<Label>([](Label& l) {
                        l.SetTransparentColor(RGB(0, 0, 0));
-                       l.LoadPicture(ImageFile("Info.gif"));
+                       l.LoadPicture(ImageFile(_T("Info.gif")));
                        Stage::Paint(l.m_hWnd);
                    }));
     CheckOperation("LoadPicture, no such file", nothing,
-                   OnLabel<Label>([](Label& l) { l.LoadPicture("no such.gif"); }));
+                   OnLabel<Label>([](Label& l) { l.LoadPicture(_T("no such.gif")); }));
     CheckOperation("colour requests", nothing, OnLabel<Label>([](Label& l) {
                        const HDC dc = ::GetDC(l.m_hWnd);
                        for (const COLORREF color : {RGB(1, 2, 3), RGB(4, 5, 6)}) {
@@ -206,7 +206,7 @@ TEST_CASE("what each operation of CStaticTS leaves for good")
                    }));
     CheckOperation("everything else", nothing, OnLabel<Label>([](Label& l) {
                        l.SetLabelTextColor(RGB(1, 2, 3));
-                       l.SetLinkTarget("target");
+                       l.SetLinkTarget(_T("target"));
                        l.SetEmbossed(TRUE);
                        l.SetTransparent(TRUE);
                        Stage::Paint(l.m_hWnd);
@@ -264,22 +264,22 @@ TEST_CASE("what each operation of CHyperLink leaves for good")
 {
     using Link = CHyperLink;
     CheckOperation("painting", nothing, OnLabel<Link>([](Link& l) { Stage::Paint(l.m_hWnd); }));
-    CheckOperation("SetURL", oneFontACall, OnLabel<Link>([](Link& l) { l.SetURL("target"); }));
+    CheckOperation("SetURL", oneFontACall, OnLabel<Link>([](Link& l) { l.SetURL(_T("target")); }));
     CheckOperation("ApplyLinkFont", oneFontACall, OnLabel<Link>([](Link& l) {
                        l.ApplyLinkFont();
                        Stage::Paint(l.m_hWnd);
                    }));
     CheckOperation("SetBitmapFile without a key colour", oneBitmapACall,
-                   OnLabel<Link>([](Link& l) { l.SetBitmapFile(ImageFile("Info.gif")); }));
+                   OnLabel<Link>([](Link& l) { l.SetBitmapFile(ImageFile(_T("Info.gif"))); }));
     CheckOperation("SetBitmapFile", oneBitmapACallAndTheMask, OnLabel<Link>([](Link& l) {
                        l.SetTransparentColor(RGB(0, 0, 0));
-                       l.SetBitmapFile(ImageFile("Info.gif"));
+                       l.SetBitmapFile(ImageFile(_T("Info.gif")));
                        Stage::Paint(l.m_hWnd);
                    }));
     CheckOperation("SetBitmapFile, no such file", nothing,
-                   OnLabel<Link>([](Link& l) { l.SetBitmapFile("no such.gif"); }));
+                   OnLabel<Link>([](Link& l) { l.SetBitmapFile(_T("no such.gif")); }));
     CheckOperation("SetToolTipText", nothing, OnLabel<Link>([](Link& l) {
-                       l.SetToolTipText("A tip");
+                       l.SetToolTipText(_T("A tip"));
                        l.RelayToolTipEvent(WM_MOUSEMOVE, 0, MAKELPARAM(5, 5));
                    }));
 }
@@ -293,11 +293,12 @@ TEST_CASE("what each operation of CxShadeButton leaves for good")
                    }));
     // The last picture goes with the button; those that it replaced stay.
     CheckOperation("SetPicture", {0, -1, 0, 1}, OnButton([](Button& b) {
-                       b.SetPicture(ImageFile("Info.gif"), Button::alignLeft, 19, 19, RGB(0, 0, 0));
+                       b.SetPicture(ImageFile(_T("Info.gif")), Button::alignLeft, 19, 19,
+                                    RGB(0, 0, 0));
                        Stage::Paint(b.m_hWnd);
                    }));
     CheckOperation("SetPicture, no such file", nothing, OnButton([](Button& b) {
-                       b.SetPicture("no such.gif", Button::alignLeft, 19, 19, RGB(0, 0, 0));
+                       b.SetPicture(_T("no such.gif"), Button::alignLeft, 19, 19, RGB(0, 0, 0));
                    }));
     CheckOperation("SetIcons", nothing, OnButton([](Button& b) {
                        b.SetIcons(MakeIcon(), Button::alignLeft, 32, 32, MakeIcon(), MakeIcon());
@@ -306,11 +307,13 @@ TEST_CASE("what each operation of CxShadeButton leaves for good")
     // A picture takes the place of the icons, and icons that of a picture: both end.
     CheckOperation("SetIcons, one icon, then SetPicture", nothing, OnButton([](Button& b) {
                        b.SetIcons(MakeIcon(), Button::alignLeft, 32, 32);
-                       b.SetPicture(ImageFile("Info.gif"), Button::alignLeft, 19, 19, RGB(0, 0, 0));
+                       b.SetPicture(ImageFile(_T("Info.gif")), Button::alignLeft, 19, 19,
+                                    RGB(0, 0, 0));
                    }));
     CheckOperation("SetIcons, three icons, then SetPicture", nothing, OnButton([](Button& b) {
                        b.SetIcons(MakeIcon(), Button::alignLeft, 32, 32, MakeIcon(), MakeIcon());
-                       b.SetPicture(ImageFile("Info.gif"), Button::alignLeft, 19, 19, RGB(0, 0, 0));
+                       b.SetPicture(ImageFile(_T("Info.gif")), Button::alignLeft, 19, 19,
+                                    RGB(0, 0, 0));
                    }));
     CheckOperation("everything else", nothing, OnButton([](Button& b) {
                        LOGFONT font = {};
@@ -320,7 +323,7 @@ TEST_CASE("what each operation of CxShadeButton leaves for good")
                        b.SetBorder(3);
                        b.SetFlat(TRUE);
                        b.Set3dBorder(FALSE);
-                       b.SetToolTipText("A tip", "Checked");
+                       b.SetToolTipText(_T("A tip"), "Checked");
                        b.SetCheck(BST_CHECKED);
                        Stage::Paint(b.m_hWnd);
                    }));
@@ -334,7 +337,7 @@ TEST_CASE("what the dialogs leave for good")
     CheckCycles(3, 1, nothing, [](int) {
         ShowDialog([](CDialogTS& dialog) {
             dialog.m_bShaped = TRUE;
-            dialog.m_bmpBack.Attach(LoadPictureBitmap(ImageFile("Info.gif")));
+            dialog.m_bmpBack.Attach(LoadPictureBitmap(ImageFile(_T("Info.gif"))));
             dialog.m_bmpMask.CreateBitmap(10, 10, 1, 1, nullptr);
         });
     });
@@ -343,7 +346,7 @@ TEST_CASE("what the dialogs leave for good")
         ShowDialog([](CDialogTS& dialog) {
             dialog.m_bHasBitmap = TRUE;
             dialog.m_bCaptionText = TRUE;
-            dialog.m_bmpBack.Attach(LoadPictureBitmap(ImageFile("Info.gif")));
+            dialog.m_bmpBack.Attach(LoadPictureBitmap(ImageFile(_T("Info.gif"))));
         });
     });
     CheckCycles(3, 1, nothing, [](int) { Page(false, false, true, true, true, true); });
@@ -363,8 +366,8 @@ TEST_CASE("what the dialogs leave for good")
 
 TEST_CASE("what the services leave for good")
 {
-    CheckCycles(50, 1, oneBitmapACall, [](int) { LoadPictureBitmap(ImageFile("Info.gif")); });
-    CheckCycles(50, 1, nothing, [](int) { LoadPictureBitmap("no such.gif"); });
+    CheckCycles(50, 1, oneBitmapACall, [](int) { LoadPictureBitmap(ImageFile(_T("Info.gif"))); });
+    CheckCycles(50, 1, nothing, [](int) { LoadPictureBitmap(_T("no such.gif")); });
     CheckCycles(50, 1, nothing, [](int) { LoadHandCursor(); });
     CheckCycles(50, 1, nothing, [](int) {
         int x, y, cx, cy;
@@ -388,7 +391,7 @@ TEST_CASE("thousands of notes are made, painted, hovered over, pressed and destr
 TEST_CASE("thousands of hyperlinks are made, painted, hovered over, pressed and destroyed")
 {
     const Cycle live = OnLabel<CHyperLink>([](CHyperLink& l) {
-        l.SetToolTipText("A tip");
+        l.SetToolTipText(_T("A tip"));
         Stage::HoverAndPress(l.m_hWnd);
     });
     CheckCycles(CountCycles(), 1, nothing, live);
@@ -397,7 +400,7 @@ TEST_CASE("thousands of hyperlinks are made, painted, hovered over, pressed and 
 TEST_CASE("thousands of buttons are made, painted, hovered over, pressed and destroyed")
 {
     const Cycle live = OnButton([](CxShadeButton& b) {
-        b.SetPicture(ImageFile("Info.gif"), CxShadeButton::alignLeft, 19, 19, RGB(0, 0, 0));
+        b.SetPicture(ImageFile(_T("Info.gif")), CxShadeButton::alignLeft, 19, 19, RGB(0, 0, 0));
         Stage::HoverAndPress(b.m_hWnd);
     });
     CheckCycles(CountCycles(), 1, nothing, live);

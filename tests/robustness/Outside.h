@@ -4,10 +4,13 @@
 
 #include "tests/robustness/Dice.h"
 
+#include "tests/LibraryFiles.h"
+#include "tests/StartStandIn.h"
+
 #include "testing/ImportHook.h"
 
+#include <algorithm>
 #include <functional>
-#include <string.h>
 #include <vector>
 
 /// Catches everything with which the toolkit opens a target. Nothing is ever started.
@@ -23,7 +26,7 @@ public:
 
     bool IsInstalled() const
     {
-        return m_shell.IsInstalled() && m_winExec.IsInstalled() && m_open.IsInstalled() &&
+        return m_shell.IsInstalled() && m_start.IsInstalled() && m_open.IsInstalled() &&
                m_query.IsInstalled() && m_close.IsInstalled();
     }
     int Opened() const { return Count(); }
@@ -47,19 +50,19 @@ private:
         return count;
     }
 
-    static HINSTANCE WINAPI Open(HWND, LPCSTR, LPCSTR, LPCSTR, LPCSTR, INT)
+    static HINSTANCE WINAPI Open(HWND, LPCTSTR, LPCTSTR, LPCTSTR, LPCTSTR, INT)
     {
         ++Count();
         if (WhileOpening())
             WhileOpening()();
         return reinterpret_cast<HINSTANCE>(static_cast<INT_PTR>(TheDice()->Below(66)));
     }
-    static UINT WINAPI Execute(LPCSTR, UINT)
+    static UINT Execute(LPCTSTR, UINT)
     {
         ++Count();
         return TheDice()->Below(66);
     }
-    static LSTATUS WINAPI OpenKey(HKEY, LPCSTR, DWORD, REGSAM, HKEY* key)
+    static LSTATUS WINAPI OpenKey(HKEY, LPCTSTR, DWORD, REGSAM, HKEY* key)
     {
         if (TheDice()->Percent(30))
             return ERROR_FILE_NOT_FOUND;
@@ -67,26 +70,29 @@ private:
         return ERROR_SUCCESS;
     }
     /// A value as long as it likes, and one without a terminator.
-    static LSTATUS WINAPI QueryValue(HKEY, LPCSTR, LPSTR value, LONG* size)
+    static LSTATUS WINAPI QueryValue(HKEY, LPCTSTR, LPTSTR value, LONG* size)
     {
-        std::string text = TheDice()->Percent(50) ? "run.exe \"%1\" -x" : TheDice()->Text();
-        if (text.size() > static_cast<size_t>(*size)) {
-            *size = static_cast<LONG>(text.size());
+        const umbra::testing::TString text =
+            TheDice()->Percent(50) ? _T("run.exe \"%1\" -x") : TheDice()->Text();
+        const size_t room = static_cast<size_t>(*size) / sizeof(TCHAR);
+        *size = static_cast<LONG>(text.size() * sizeof(TCHAR)); // Bytes, as the system counts.
+        if (text.size() > room)
             return ERROR_MORE_DATA;
-        }
-        memcpy(value, text.data(), text.size());
-        if (text.size() < static_cast<size_t>(*size))
-            value[text.size()] = '\0';
-        *size = static_cast<LONG>(text.size());
+        std::copy(text.begin(), text.end(), value);
+        if (text.size() < room)
+            value[text.size()] = _T('\0');
         return ERROR_SUCCESS;
     }
     static LSTATUS WINAPI CloseKey(HKEY) { return ERROR_SUCCESS; }
 
-    HMODULE m_umbra = umbra::testing::FindModule("umbra.dll");
-    umbra::testing::ImportHook m_shell{m_umbra, "shell32", "ShellExecuteA", Open};
-    umbra::testing::ImportHook m_winExec{m_umbra, "kernel32", "WinExec", Execute};
-    umbra::testing::ImportHook m_open{m_umbra, "advapi32", "RegOpenKeyExA", OpenKey};
-    umbra::testing::ImportHook m_query{m_umbra, "advapi32", "RegQueryValueA", QueryValue};
+    using Starts = StartStandIn<Execute>;
+
+    HMODULE m_umbra = umbra::testing::FindModule(UMBRA_DLL);
+    umbra::testing::ImportHook m_shell{m_umbra, "shell32", TEXT_FUNCTION("ShellExecute"), Open};
+    umbra::testing::ImportHook m_start{m_umbra, "kernel32", Starts::function, Starts::Start};
+    umbra::testing::ImportHook m_open{m_umbra, "advapi32", TEXT_FUNCTION("RegOpenKeyEx"), OpenKey};
+    umbra::testing::ImportHook m_query{m_umbra, "advapi32", TEXT_FUNCTION("RegQueryValue"),
+                                       QueryValue};
     umbra::testing::ImportHook m_close{m_umbra, "advapi32", "RegCloseKey", CloseKey};
 };
 
@@ -122,9 +128,9 @@ private:
             Made().push_back(object);
         return object;
     }
-    static HFONT WINAPI MakeFont(const LOGFONTA* description)
+    static HFONT WINAPI MakeFont(const LOGFONT* description)
     {
-        return static_cast<HFONT>(Note(::CreateFontIndirectA(description)));
+        return static_cast<HFONT>(Note(::CreateFontIndirect(description)));
     }
     static HANDLE WINAPI CopyPicture(HANDLE source, UINT type, int width, int height, UINT flags)
     {
@@ -139,9 +145,10 @@ private:
         return static_cast<HBITMAP>(Note(::CreateBitmap(width, height, planes, bits, pixels)));
     }
 
-    HMODULE m_umbra = umbra::testing::FindModule("umbra.dll");
-    umbra::testing::ImportHook m_font{m_umbra, "gdi32", "CreateFontIndirectA", MakeFont};
+    HMODULE m_umbra = umbra::testing::FindModule(UMBRA_DLL);
+    umbra::testing::ImportHook m_font{m_umbra, "gdi32", TEXT_FUNCTION("CreateFontIndirect"),
+                                      MakeFont};
     umbra::testing::ImportHook m_copy{m_umbra, "user32", "CopyImage", CopyPicture};
-    umbra::testing::ImportHook m_bitmap{umbra::testing::FindModule("umbra-mfc.dll"), "gdi32",
+    umbra::testing::ImportHook m_bitmap{umbra::testing::FindModule(UMBRA_MFC_DLL), "gdi32",
                                         "CreateBitmap", MakeBitmap};
 };

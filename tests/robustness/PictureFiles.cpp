@@ -9,9 +9,9 @@
 namespace {
 
 /// The bytes of one of the toolkit's images.
-std::string ReadImage(const char* name)
+std::string ReadImage(LPCTSTR name)
 {
-    std::ifstream file(ImagePath(name), std::ios::binary);
+    std::ifstream file(ImagePath(name).c_str(), std::ios::binary);
     std::ostringstream bytes;
     bytes << file.rdbuf();
     return bytes.str();
@@ -291,9 +291,9 @@ std::string Damage(std::string bytes, Dice& dice)
 std::vector<PictureFile> GoodPictures()
 {
     return {
-        {"Ok.gif", ReadImage("Ok.gif")},
-        {"Error.gif", ReadImage("Error.gif")},
-        {"InfoIcon1.gif", ReadImage("InfoIcon1.gif")},
+        {"Ok.gif", ReadImage(_T("Ok.gif"))},
+        {"Error.gif", ReadImage(_T("Error.gif"))},
+        {"InfoIcon1.gif", ReadImage(_T("InfoIcon1.gif"))},
         {"1-bit bmp", MakeBitmapFile(1, BI_RGB, std::string(8 * 4, '\x55'))},
         {"4-bit bmp", MakeBitmapFile(4, BI_RGB, std::string(8 * 4, '\x37'))},
         {"8-bit bmp", MakeBitmapFile(8, BI_RGB, std::string(8 * 8, '\x09'))},

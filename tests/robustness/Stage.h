@@ -7,7 +7,7 @@
 #include <afxwin.h>
 
 /// One of the toolkit's images.
-inline CString ImageFile(const char* name)
+inline CString ImageFile(LPCTSTR name)
 {
     return ImagePath(name).c_str();
 }
@@ -17,7 +17,7 @@ class Stage : public CWnd
 {
 public:
     Stage()
-        : m_window(::CreateWindowEx(WS_EX_TOPMOST | WS_EX_TOOLWINDOW, "#32770", "",
+        : m_window(::CreateWindowEx(WS_EX_TOPMOST | WS_EX_TOOLWINDOW, _T("#32770"), _T(""),
                                     WS_POPUP | WS_VISIBLE, 40, 40, 300, 200, nullptr, nullptr,
                                     nullptr, nullptr))
     {
@@ -25,7 +25,7 @@ public:
     }
     ~Stage() override { Close(); }
 
-    HWND Add(const char* className, const char* text, DWORD style, const CRect& place)
+    HWND Add(LPCTSTR className, LPCTSTR text, DWORD style, const CRect& place)
     {
         const HWND control = ::CreateWindow(
             className, text, WS_CHILD | WS_VISIBLE | style, place.left, place.top, place.Width(),
@@ -35,13 +35,13 @@ public:
                       reinterpret_cast<WPARAM>(::GetStockObject(DEFAULT_GUI_FONT)), FALSE);
         return control;
     }
-    HWND AddLabel(const char* text = "A text")
+    HWND AddLabel(LPCTSTR text = _T("A text"))
     {
-        return Add("Static", text, SS_NOTIFY, CRect(20, 20, 140, 60));
+        return Add(_T("Static"), text, SS_NOTIFY, CRect(20, 20, 140, 60));
     }
     HWND AddButton(DWORD style, int top = 20)
     {
-        return Add("Button", "&Go on", WS_TABSTOP | style, CRect(20, top, 140, top + 40));
+        return Add(_T("Button"), _T("&Go on"), WS_TABSTOP | style, CRect(20, top, 140, top + 40));
     }
 
     void Show() { Paint(m_window); }

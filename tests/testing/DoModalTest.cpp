@@ -22,13 +22,13 @@ constexpr std::chrono::milliseconds shortLimit{1500};
 class AskingPage : public CDialog
 {
 public:
-    explicit AskingPage(const char* title = "Asking")
+    explicit AskingPage(LPCTSTR title = _T("Asking"))
         : m_template(10, 10, 160, 80, DialogTemplate::popup, title)
     {
-        m_template.Edit(editId, "", 10, 10, 80, 14)
-            .Button(askId, "Ask", 10, 40, 40, 14)
-            .Button(IDOK, "OK", 60, 40, 40, 14)
-            .Button(IDCANCEL, "Cancel", 110, 40, 40, 14);
+        m_template.Edit(editId, _T(""), 10, 10, 80, 14)
+            .Button(askId, _T("Ask"), 10, 40, 40, 14)
+            .Button(IDOK, _T("OK"), 60, 40, 40, 14)
+            .Button(IDCANCEL, _T("Cancel"), 110, 40, 40, 14);
     }
 
     INT_PTR DoModal() override
@@ -59,7 +59,7 @@ protected:
     {
         if (LOWORD(parameter) != askId)
             return CDialog::OnCommand(parameter, source);
-        if (::MessageBoxA(m_hWnd, "Really?", "Closing", MB_YESNO) == IDYES)
+        if (::MessageBox(m_hWnd, _T("Really?"), _T("Closing"), MB_YESNO) == IDYES)
             EndDialog(pageResult);
         return TRUE;
     }
@@ -78,9 +78,9 @@ void PressOk(Page& page)
 }
 
 /// The first bytes of a file.
-std::string HeadOf(const std::string& path)
+std::string HeadOf(const TString& path)
 {
-    std::ifstream file(path, std::ios::binary);
+    std::ifstream file(path.c_str(), std::ios::binary);
     char head[8] = "";
     file.read(head, sizeof head);
     return std::string(head, static_cast<size_t>(file.gcount()));
@@ -95,12 +95,12 @@ TEST_CASE("a modal page is driven to its end, step by step, and its result comes
     const ModalOutcome outcome =
         DoModal(dialog, {[&](Page& page) {
                              order += "a";
-                             CHECK(page.Title() == "Asking");
-                             CHECK(page.Type(editId, "Ada"));
+                             CHECK(page.Title() == _T("Asking"));
+                             CHECK(page.Type(editId, _T("Ada")));
                          },
                          [&](Page& page) {
                              order += "b";
-                             CHECK(page.Text(editId) == "Ada");
+                             CHECK(page.Text(editId) == _T("Ada"));
                              CHECK(page.Show(editId).Contains(::GetSysColor(COLOR_WINDOWTEXT)));
                          },
                          [&](Page& page) {
@@ -109,7 +109,7 @@ TEST_CASE("a modal page is driven to its end, step by step, and its result comes
                              CHECK_FALSE(page.IsOpen());
                          }});
     CHECK(outcome.failure == "");
-    CHECK(outcome.pictureFile == "");
+    CHECK(outcome.pictureFile == _T(""));
     CHECK(outcome.result == IDOK);
     CHECK_FALSE(outcome.hasQuit);
     CHECK(order == "abc");
@@ -123,13 +123,13 @@ TEST_CASE("a message box that a step brings up is answered within it")
                                                       const MessageBoxAnswer no(IDNO);
                                                       CHECK(page.Click(askId));
                                                       CHECK(no.HasAnswered());
-                                                      CHECK(no.Text() == "Really?");
+                                                      CHECK(no.Text() == _T("Really?"));
                                                       CHECK(page.IsOpen());
                                                   },
                                                   [](Page& page) {
                                                       const MessageBoxAnswer yes(IDYES);
                                                       CHECK(page.Click(askId));
-                                                      CHECK(yes.Title() == "Closing");
+                                                      CHECK(yes.Title() == _T("Closing"));
                                                   }});
     CHECK(outcome.failure == "");
     CHECK(outcome.result == pageResult);
@@ -151,12 +151,12 @@ TEST_CASE("a key that brings up a message box has arrived, though the box has ta
 
 TEST_CASE("several pages come one after another, and each gets its own steps")
 {
-    std::string titles;
-    const auto take = [&](Page& page) { titles += page.Title() + " "; };
+    TString titles;
+    const auto take = [&](Page& page) { titles += page.Title() + _T(" "); };
     const ModalOutcome outcome = DriveDialogs(
         [] {
             INT_PTR sum = 0;
-            for (const char* title : {"First", "Second", "Third"})
+            for (const LPCTSTR title : {_T("First"), _T("Second"), _T("Third")})
                 sum = sum * 10 + AskingPage(title).DoModal();
             return sum;
         },
@@ -164,7 +164,7 @@ TEST_CASE("several pages come one after another, and each gets its own steps")
          {take, [](Page& page) { CHECK(page.Click(IDCANCEL)); }},
          {take, PressOk}});
     CHECK(outcome.failure == "");
-    CHECK(titles == "First Second Third ");
+    CHECK(titles == _T("First Second Third "));
     CHECK(outcome.result == IDOK * 100 + IDCANCEL * 10 + IDOK);
 }
 
@@ -189,7 +189,7 @@ TEST_CASE("a key that closes a page, one that it takes, and one that nobody take
 
 TEST_CASE("a page that never closes fails, with its windows and a picture, and the test goes on")
 {
-    AskingPage dialog("Stubborn");
+    AskingPage dialog(_T("Stubborn"));
     dialog.isStubborn = true;
     const ModalOutcome outcome = DoModal(dialog, {PressOk}, shortLimit);
     CHECK(outcome.result == IDABORT);
@@ -197,9 +197,9 @@ TEST_CASE("a page that never closes fails, with its windows and a picture, and t
     CHECK(outcome.failure.find("never closed") != std::string::npos);
     CHECK(outcome.failure.find("#32770 \"Stubborn\"") != std::string::npos);
     CHECK(outcome.failure.find("101 Button \"Ask\"") != std::string::npos);
-    REQUIRE(outcome.pictureFile != "");
+    REQUIRE(outcome.pictureFile != _T(""));
     CHECK(HeadOf(outcome.pictureFile) == "\x89PNG\r\n\x1a\n");
-    CHECK(::DeleteFileA(outcome.pictureFile.c_str()));
+    CHECK(::DeleteFile(outcome.pictureFile.c_str()));
 
     AskingPage next; // The loops are all right.
     CHECK(DoModal(next, {PressOk}).result == IDOK);
@@ -222,7 +222,7 @@ TEST_CASE("a message box that nobody answers fails as its page does, and both ar
     CHECK(outcome.failure.find("#32770 \"Closing\"") != std::string::npos);
     CHECK(outcome.failure.find("\"Really?\"") != std::string::npos);
     CHECK(FindDialogs().empty());
-    ::DeleteFileA(outcome.pictureFile.c_str());
+    ::DeleteFile(outcome.pictureFile.c_str());
 }
 
 TEST_CASE("a menu or a move that nobody ends keeps no page open")
@@ -234,7 +234,7 @@ TEST_CASE("a menu or a move that nobody ends keeps no page open")
         step = [](Page& page) {
             CMenu menu;
             menu.CreatePopupMenu();
-            menu.AppendMenu(MF_STRING, 1, "Item");
+            menu.AppendMenu(MF_STRING, 1, _T("Item"));
             menu.TrackPopupMenu(TPM_LEFTALIGN, 30, 30, CWnd::FromHandle(page.Handle()));
         };
     }
@@ -248,7 +248,7 @@ TEST_CASE("a menu or a move that nobody ends keeps no page open")
     const ModalOutcome outcome = DoModal(dialog, {step}, shortLimit);
     CHECK(outcome.result == IDABORT);
     CHECK(outcome.failure.find("Step 1 of 1 of dialog 1 never ended") != std::string::npos);
-    ::DeleteFileA(outcome.pictureFile.c_str());
+    ::DeleteFile(outcome.pictureFile.c_str());
 }
 
 TEST_CASE("a page that hides and goes on is ended, too")
@@ -258,16 +258,16 @@ TEST_CASE("a page that hides and goes on is ended, too")
     const ModalOutcome outcome = DoModal(dialog, {PressOk}, shortLimit);
     CHECK(outcome.result == IDABORT);
     CHECK(outcome.failure.find("never closed") != std::string::npos);
-    ::DeleteFileA(outcome.pictureFile.c_str());
+    ::DeleteFile(outcome.pictureFile.c_str());
 }
 
 TEST_CASE("a dialog outside the class library is ended like the others")
 {
     const ModalOutcome outcome = DriveDialogs(
-        [] { return ::MessageBoxA(nullptr, "Text", "Alone", MB_YESNO); }, {{}}, shortLimit);
+        [] { return ::MessageBox(nullptr, _T("Text"), _T("Alone"), MB_YESNO); }, {{}}, shortLimit);
     CHECK(outcome.result == IDABORT);
     CHECK(outcome.failure.find("#32770 \"Alone\"") != std::string::npos);
-    ::DeleteFileA(outcome.pictureFile.c_str());
+    ::DeleteFile(outcome.pictureFile.c_str());
 }
 
 TEST_CASE("steps that were still to come are told, and pages that never came")
@@ -328,5 +328,5 @@ TEST_CASE("dialogs that were open before stay open and get no step")
     CHECK(outcome.result == IDABORT);
     CHECK(met != before.Handle());
     CHECK(before.IsOpen());
-    ::DeleteFileA(outcome.pictureFile.c_str());
+    ::DeleteFile(outcome.pictureFile.c_str());
 }

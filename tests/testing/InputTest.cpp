@@ -18,9 +18,9 @@ constexpr int labelId = 102;
 DialogTemplate MakePage()
 {
     DialogTemplate page(20, 20, 200, 100);
-    page.Button(buttonId, "Press", 10, 10, 60, 20)
-        .Edit(editId, "", 10, 40, 100, 14)
-        .Label(labelId, "double", 10, 60, 60, 14, DialogTemplate::visibleChild | SS_NOTIFY);
+    page.Button(buttonId, _T("Press"), 10, 10, 60, 20)
+        .Edit(editId, _T(""), 10, 40, 100, 14)
+        .Label(labelId, _T("double"), 10, 60, 60, 14, DialogTemplate::visibleChild | SS_NOTIFY);
     return page;
 }
 
@@ -105,15 +105,15 @@ TEST_CASE_FIXTURE(InputFixture,
                   "typed text arrives in the focused edit, with its capitals and marks")
 {
     ::SetFocus(page.Control(editId));
-    CHECK(TypeText("Say: \"Hello, World\" 100%!"));
-    CHECK(page.Text(editId) == "Say: \"Hello, World\" 100%!");
+    CHECK(TypeText(_T("Say: \"Hello, World\" 100%!")));
+    CHECK(page.Text(editId) == _T("Say: \"Hello, World\" 100%!"));
 }
 
 TEST_CASE_FIXTURE(InputFixture, "typed text may hold characters that the keyboard lacks")
 {
     ::SetFocus(page.Control(editId));
-    CHECK(TypeText("na\xEFve"));
-    CHECK(page.Text(editId) == "na\xEFve");
+    CHECK(TypeText(_T("na\xEFve")));
+    CHECK(page.Text(editId) == _T("na\xEFve"));
 }
 
 TEST_CASE_FIXTURE(InputFixture, "keys reach the page: Tab moves the focus, with Shift back")
@@ -135,8 +135,8 @@ TEST_CASE_FIXTURE(InputFixture, "a key that closes the window of the focus is no
 
 TEST_CASE("input that no window of the thread gets is reported")
 {
-    HWND window =
-        ::CreateWindowA("Static", "", WS_POPUP, 0, 0, 50, 50, nullptr, nullptr, nullptr, nullptr);
+    HWND window = ::CreateWindow(_T("Static"), _T(""), WS_POPUP, 0, 0, 50, 50, nullptr, nullptr,
+                                 nullptr, nullptr);
     ::SetFocus(nullptr);
     PumpMessages();
     CHECK_FALSE(Click(window, {10, 10}));

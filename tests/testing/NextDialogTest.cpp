@@ -8,15 +8,15 @@ using namespace umbra::testing;
 
 TEST_CASE("a message box is answered by the real pointer")
 {
-    std::string text;
+    TString text;
     NextDialog answer([&](HWND box) {
         Page page(box);
         text = page.Title();
         CHECK(page.Click(IDNO));
     });
-    CHECK(::MessageBoxA(nullptr, "Go on?", "Question", MB_YESNO) == IDNO);
+    CHECK(::MessageBox(nullptr, _T("Go on?"), _T("Question"), MB_YESNO) == IDNO);
     CHECK(answer.HasRun());
-    CHECK(text == "Question");
+    CHECK(text == _T("Question"));
 }
 
 TEST_CASE("a message box is answered by the keyboard, and its keys do what they do in its own loop")
@@ -26,7 +26,7 @@ TEST_CASE("a message box is answered by the keyboard, and its keys do what they 
         CHECK(page.PressKey(VK_TAB) == keyTaken); // From Yes to No.
         CHECK(page.PressKey(VK_RETURN) == keyClosedWindow);
     });
-    CHECK(::MessageBoxA(nullptr, "Go on?", "Question", MB_YESNO) == IDNO);
+    CHECK(::MessageBox(nullptr, _T("Go on?"), _T("Question"), MB_YESNO) == IDNO);
 }
 
 TEST_CASE("dialogs that were open before are not taken for the next one")
@@ -39,7 +39,7 @@ TEST_CASE("dialogs that were open before are not taken for the next one")
         met = box;
         ::EndDialog(box, IDOK);
     });
-    ::MessageBoxA(nullptr, "Text", "Title", MB_OK);
+    ::MessageBox(nullptr, _T("Text"), _T("Title"), MB_OK);
     CHECK(answer.HasRun());
     CHECK(met != page.Handle());
 }
@@ -69,9 +69,9 @@ TEST_CASE("a dialog is taken once, by the one that has waited longest and awaits
     const NextDialog never(take("never"), [](HWND) { return false; });
     const NextDialog first(take("first "));
     const NextDialog second(take("second "));
-    ::MessageBoxA(nullptr, "Text", "One", MB_OK);
+    ::MessageBox(nullptr, _T("Text"), _T("One"), MB_OK);
     CHECK_FALSE(second.HasRun());
-    ::MessageBoxA(nullptr, "Text", "Two", MB_OK);
+    ::MessageBox(nullptr, _T("Text"), _T("Two"), MB_OK);
     CHECK(second.HasRun());
     CHECK(order == "first second ");
     CHECK_FALSE(never.HasRun());

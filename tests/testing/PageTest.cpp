@@ -15,22 +15,22 @@ constexpr int comboId = 103;
 /// A page with one control of each kind.
 DialogTemplate MakePage()
 {
-    DialogTemplate page(10, 10, 200, 120, DialogTemplate::popup, "A page");
-    page.Font(8, "Tahoma")
-        .Button(checkId, "Check", 10, 10, 60, 12, DialogTemplate::tabStop | BS_AUTOCHECKBOX)
-        .Edit(editId, "before", 10, 30, 80, 14)
+    DialogTemplate page(10, 10, 200, 120, DialogTemplate::popup, _T("A page"));
+    page.Font(8, _T("Tahoma"))
+        .Button(checkId, _T("Check"), 10, 10, 60, 12, DialogTemplate::tabStop | BS_AUTOCHECKBOX)
+        .Edit(editId, _T("before"), 10, 30, 80, 14)
         .ListBox(listId, 10, 50, 80, 40)
         .ComboBox(comboId, 100, 50, 80, 60)
-        .Add("msctls_progress32", 104, "", 10, 100, 80, 10)
-        .Label(-1, "Label", 100, 10, 50, 8);
+        .Add(_T("msctls_progress32"), 104, _T(""), 10, 100, 80, 10)
+        .Label(-1, _T("Label"), 100, 10, 50, 8);
     return page;
 }
 
 /// The name of a window's class.
-std::string ClassOf(HWND window)
+TString ClassOf(HWND window)
 {
-    char name[64] = "";
-    ::GetClassNameA(window, name, sizeof name);
+    TCHAR name[64] = _T("");
+    ::GetClassName(window, name, _countof(name));
     return name;
 }
 
@@ -41,12 +41,12 @@ TEST_CASE("a template has the controls, texts, places and font that it was given
     CDialog dialog;
     const Page page(dialog, MakePage());
     REQUIRE(page.IsOpen());
-    CHECK(page.Title() == "A page");
-    CHECK(page.Text(editId) == "before");
-    CHECK(ClassOf(page.Control(checkId)) == "Button");
-    CHECK(ClassOf(page.Control(listId)) == "ListBox");
-    CHECK(ClassOf(page.Control(comboId)) == "ComboBox");
-    CHECK(ClassOf(page.Control(104)) == "msctls_progress32");
+    CHECK(page.Title() == _T("A page"));
+    CHECK(page.Text(editId) == _T("before"));
+    CHECK(ClassOf(page.Control(checkId)) == _T("Button"));
+    CHECK(ClassOf(page.Control(listId)) == _T("ListBox"));
+    CHECK(ClassOf(page.Control(comboId)) == _T("ComboBox"));
+    CHECK(ClassOf(page.Control(104)) == _T("msctls_progress32"));
 
     RECT expected{10, 30, 90, 44};
     ::MapDialogRect(page.Handle(), &expected);
@@ -58,10 +58,10 @@ TEST_CASE("a template has the controls, texts, places and font that it was given
     CHECK(place.right == expected.right);
     CHECK(place.bottom == expected.bottom);
 
-    LOGFONTA font{};
+    LOGFONT font{};
     const auto handle = reinterpret_cast<HFONT>(::SendMessage(page.Handle(), WM_GETFONT, 0, 0));
-    REQUIRE(::GetObjectA(handle, sizeof font, &font) > 0);
-    CHECK(std::string(font.lfFaceName) == "Tahoma");
+    REQUIRE(::GetObject(handle, sizeof font, &font) > 0);
+    CHECK(TString(font.lfFaceName) == _T("Tahoma"));
 }
 
 TEST_CASE("a page is clicked and typed into as by a user")
@@ -71,8 +71,8 @@ TEST_CASE("a page is clicked and typed into as by a user")
     CHECK_FALSE(page.IsChecked(checkId));
     CHECK(page.Click(checkId));
     CHECK(page.IsChecked(checkId));
-    CHECK(page.Type(editId, "After"));
-    CHECK(page.Text(editId) == "After");
+    CHECK(page.Type(editId, _T("After")));
+    CHECK(page.Text(editId) == _T("After"));
 }
 
 TEST_CASE("a page shows its pixels, and those of a control")
@@ -118,7 +118,7 @@ TEST_CASE("a page that has ended its dialog is open no more, and its window goes
     HWND window = nullptr;
     {
         DialogTemplate source = MakePage();
-        source.Button(IDOK, "OK", 110, 90, 40, 14);
+        source.Button(IDOK, _T("OK"), 110, 90, 40, 14);
         Page page(dialog, source);
         window = page.Handle();
         CHECK(page.Click(IDOK));

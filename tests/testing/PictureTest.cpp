@@ -1,5 +1,10 @@
-#include "testing/Canvas.h"
 #include "testing/Picture.h"
+
+#include "tests/Folders.h"
+
+#include "testing/Canvas.h"
+
+#include "tests/Folders.h"
 
 #include <doctest/doctest.h>
 
@@ -102,21 +107,19 @@ TEST_CASE("an invalid bitmap gives an empty picture, which cannot be saved")
 {
     const Picture picture = Picture::OfBitmap(nullptr);
     CHECK(picture.IsEmpty());
-    CHECK_FALSE(picture.SavePng("empty.png"));
+    CHECK_FALSE(picture.SavePng(_T("empty.png")));
 }
 
 TEST_CASE("a saved picture is a PNG file of its size")
 {
-    char path[MAX_PATH] = "";
-    ::GetTempPathA(sizeof path, path);
-    ::lstrcatA(path, "umbra-picture-test.png");
-    REQUIRE(Picture(300, 7, red).SavePng(path));
+    const TString path = TemporaryPath(_T("umbra-picture-test.png"));
+    REQUIRE(Picture(300, 7, red).SavePng(path.c_str()));
     unsigned char head[24] = {};
-    FILE* file = std::fopen(path, "rb");
+    FILE* file = _tfopen(path.c_str(), _T("rb"));
     REQUIRE(file != nullptr);
     CHECK(std::fread(head, 1, sizeof head, file) == sizeof head);
     std::fclose(file);
-    ::DeleteFileA(path);
+    ::DeleteFile(path.c_str());
     CHECK(std::string(reinterpret_cast<char*>(head) + 1, 3) == "PNG");
     CHECK((head[18] << 8 | head[19]) == 300);
     CHECK((head[22] << 8 | head[23]) == 7);

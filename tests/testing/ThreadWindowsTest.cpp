@@ -12,11 +12,11 @@ namespace {
 class PlainWindow : public CDialog
 {
 public:
-    PlainWindow(const char* title, COLORREF color, RECT place)
+    PlainWindow(LPCTSTR title, COLORREF color, RECT place)
     {
         m_brush.CreateSolidBrush(color);
         DialogTemplate source(0, 0, 10, 10, WS_POPUP, title);
-        source.Label(7, "a label", 0, 0, 5, 5, WS_CHILD | WS_DISABLED);
+        source.Label(7, _T("a label"), 0, 0, 5, 5, WS_CHILD | WS_DISABLED);
         CreateIndirect(source.Get());
         MoveWindow(&place);
         ShowWindow(SW_SHOWNOACTIVATE);
@@ -44,7 +44,7 @@ constexpr COLORREF blue = RGB(0, 0, 255);
 
 TEST_CASE("the list has each window and each control, with what can be told of it")
 {
-    PlainWindow window("Listed", red, {20, 30, 120, 80});
+    PlainWindow window(_T("Listed"), red, {20, 30, 120, 80});
     const std::string list = ListWindows();
     CHECK(list.find("#32770 \"Listed\" at (20, 30), 100 x 50\n") != std::string::npos);
     CHECK(list.find("\n  7 Static \"a label\" at (20, 30), ") != std::string::npos);
@@ -56,8 +56,8 @@ TEST_CASE("the list has each window and each control, with what can be told of i
 
 TEST_CASE("the picture has all windows at their places, and the one in front covers the others")
 {
-    const PlainWindow behind("Behind", red, {20, 30, 60, 70});
-    const PlainWindow front("Front", blue, {40, 50, 100, 90});
+    const PlainWindow behind(_T("Behind"), red, {20, 30, 60, 70});
+    const PlainWindow front(_T("Front"), blue, {40, 50, 100, 90});
     const Picture picture = ShowWindows();
     CHECK(picture.Width() == 80);
     CHECK(picture.Height() == 60);
