@@ -1,5 +1,5 @@
 # shellcheck shell=bash disable=SC2034
-# Sourced by tests of a build, which is for one of two architectures.
+# Sourced by tests of a build, which is for one of two architectures and of one of two flavours.
 
 # Sets what differs between them: $tools, how the names of its compiler's programs begin; $toolchain,
 # the name of its toolchain file; and $bin, $lib and $package, where an installation has its libraries
@@ -17,5 +17,16 @@ read_architecture() {
         bin=bin
         lib=lib
         package=lib/cmake/umbra
+    fi
+}
+
+# Sets what differs between the flavours: $letter, how the names of the libraries end, and $suffix, how
+# those of the targets and of pkg-config's packages end.
+read_flavour() {
+    letter=
+    suffix=
+    if grep -qx 'UMBRA_UNICODE:BOOL=ON' "$1/CMakeCache.txt"; then
+        letter=u
+        suffix=-unicode
     fi
 }

@@ -6,9 +6,9 @@ class CLibraryApp : public CWinApp
     BOOL InitInstance() override
     {
         CString text;
-        text.Format("%d", 5);
+        text.Format(_T("%d"), 5);
         CWnd window;
-        if (text == "5" &&
+        if (text == _T("5") &&
             window.CreateEx(0, AfxRegisterWndClass(0), text, WS_POPUP, 0, 0, 9, 9, NULL, NULL))
             m_nResult = 0;
         return FALSE;

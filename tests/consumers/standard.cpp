@@ -71,7 +71,7 @@ bool FilesWork()
     std::getline(file, line);
     file.close();
     CFileStatus status;
-    const bool same = CFile::GetStatus(path.string().c_str(), status) != FALSE &&
+    const bool same = CFile::GetStatus(CString(path.c_str()), status) != FALSE &&
                       status.m_size == std::filesystem::file_size(path);
     std::filesystem::remove(path);
     return line == "line" && same && !std::filesystem::exists(path);
@@ -85,9 +85,9 @@ bool ThreadsWork()
     for (int number = 1; number <= 4; ++number) {
         threads.emplace_back([number, &mutex, &sum] {
             CString text;
-            text.Format("%d", number);
+            text.Format(_T("%d"), number);
             const std::lock_guard<std::mutex> lock(mutex);
-            sum += std::stoi(std::string(text));
+            sum += _ttoi(text);
         });
     }
     for (std::thread& thread : threads)
@@ -99,7 +99,7 @@ bool ThreadsWork()
 bool ExceptionsCrossHandlers()
 {
     CThrower window;
-    if (!window.CreateEx(0, AfxRegisterWndClass(0), "", WS_POPUP, 0, 0, 9, 9, NULL, NULL))
+    if (!window.CreateEx(0, AfxRegisterWndClass(0), _T(""), WS_POPUP, 0, 0, 9, 9, NULL, NULL))
         return false;
     bool own = false, library = false;
     try {
@@ -124,7 +124,7 @@ bool ExceptionsCrossHandlers()
 bool LibraryExceptionsAreCaught()
 {
     try {
-        CFile file("no such folder\\no such file", CFile::modeRead);
+        CFile file(_T("no such folder\\no such file"), CFile::modeRead);
     } catch (CException* error) {
         const bool isOfFile = error->IsKindOf(RUNTIME_CLASS(CFileException)) != FALSE;
         error->Delete();
@@ -138,8 +138,8 @@ bool ToolkitWorks()
     g_crShade = RGB(180, 200, 230);
     const auto label = std::make_unique<CStaticTS>();
     CWnd parent;
-    return parent.CreateEx(0, AfxRegisterWndClass(0), "", WS_POPUP, 0, 0, 90, 90, NULL, NULL) &&
-           label->Create("Text", WS_CHILD | WS_VISIBLE, CRect(0, 0, 50, 20), &parent) &&
+    return parent.CreateEx(0, AfxRegisterWndClass(0), _T(""), WS_POPUP, 0, 0, 90, 90, NULL, NULL) &&
+           label->Create(_T("Text"), WS_CHILD | WS_VISIBLE, CRect(0, 0, 50, 20), &parent) &&
            label->IsKindOf(RUNTIME_CLASS(CStatic));
 }
 

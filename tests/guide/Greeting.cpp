@@ -21,9 +21,9 @@ public:
     GreetingCheck& operator=(const GreetingCheck&) = delete;
     ~GreetingCheck()
     {
-        if (m_greeting.Text() == "Hello, Ada" && m_greeting.HasAnswered())
+        if (m_greeting.Text() == _T("Hello, Ada") && m_greeting.HasAnswered())
             return;
-        printf("the greeting says \"%s\"\n", m_greeting.Text().c_str());
+        printf("the greeting says \"%s\"\n", Printable(m_greeting.Text()).c_str());
         fflush(stdout);
         ::ExitProcess(1);
     }
@@ -31,7 +31,7 @@ public:
 private:
     NextDialog m_page{[](HWND window) {
         Page page(window);
-        page.Type(IDC_NAME, "Ada");
+        page.Type(IDC_NAME, _T("Ada"));
         page.Click(IDOK);
     }};
     MessageBoxAnswer m_greeting{IDOK};

@@ -40,10 +40,10 @@ void RunFolderPage()
     const INT_PTR result =
         Drive("CFolderPage", dialog,
               {
-                  [](Page& page) { CHECK(page.Type(IDC_FOLDER, "C:\\data")); },
+                  [](Page& page) { CHECK(page.Type(IDC_FOLDER, _T("C:\\data"))); },
                   [](Page& page) {
                       CHECK(page.Show().Contains(RGB(190, 203, 222))); // Its own OnPaint.
-                      CHECK(page.Text(IDOK) == "Proceed");
+                      CHECK(page.Text(IDOK) == _T("Proceed"));
                   },
                   [](Page& page) { CHECK(page.Click(IDC_BACK)); },
               });
@@ -53,7 +53,7 @@ void RunFolderPage()
 void RunPanelDialog()
 {
     CPanelDialog dialog;
-    HBITMAP panel = LoadPictureBitmap(g_strImageDir + "\\images\\panel.bmp");
+    HBITMAP panel = LoadPictureBitmap(g_strImageDir + _T("\\images\\panel.bmp"));
     const COLORREF expected = Picture::OfBitmap(panel).At(30, 60);
     ::DeleteObject(panel);
     for (int i = 0; i < 2; ++i) { // It may be opened again.
@@ -136,8 +136,8 @@ void RunAboutPage()
           {
               [&](Page& page) {
                   const Picture before = page.Show(IDC_VERSION);
-                  dialog.ShowVersion("2.0");
-                  CHECK(page.Text(IDC_VERSION) == "2.0");
+                  dialog.ShowVersion(_T("2.0"));
+                  CHECK(page.Text(IDC_VERSION) == _T("2.0"));
                   CHECK(page.Show(IDC_VERSION) != before);
                   CHECK(page.Show(IDC_PRODUCT_NAME).Contains(RGB(28, 38, 59)));
               },
@@ -158,16 +158,16 @@ void RunHintPage()
 void RunWelcomePage()
 {
     CWelcomePage dialog(NULL);
-    const INT_PTR result = Drive("CWelcomePage", dialog,
-                                 {
-                                     [](Page& page) {
-                                         CHECK(page.Show(IDC_MORE).Contains(RGB(0, 0, 255)));
-                                         CHECK(page.Text(IDC_MORE) ==
-                                               "Read more"); // The control that the guide shows.
-                                         CHECK(page.Hover(IDC_MORE));
-                                     },
-                                     [](Page& page) { CHECK(page.Click(IDOK)); },
-                                 });
+    const INT_PTR result = Drive(
+        "CWelcomePage", dialog,
+        {
+            [](Page& page) {
+                CHECK(page.Show(IDC_MORE).Contains(RGB(0, 0, 255)));
+                CHECK(page.Text(IDC_MORE) == _T("Read more")); // The control that the guide shows.
+                CHECK(page.Hover(IDC_MORE));
+            },
+            [](Page& page) { CHECK(page.Click(IDOK)); },
+        });
     CHECK(result == IDOK);
 }
 
@@ -187,8 +187,8 @@ void Convert(const CString& file)
 void RunConvertAll()
 {
     CStringArray files;
-    files.Add("one.txt");
-    files.Add("two.txt");
+    files.Add(_T("one.txt"));
+    files.Add(_T("two.txt"));
     CHECK(ConvertAll(files, Convert));
     CHECK(converted == 2);
     CHECK(g_pModelessDlg == NULL);
@@ -198,8 +198,8 @@ void RunShowText()
 {
     CAboutPage dialog(NULL);
     Page page(dialog, IDD_ABOUT);
-    ShowText(*dialog.GetDlgItem(IDC_PRODUCT_NAME), "Another name");
-    CHECK(page.Text(IDC_PRODUCT_NAME) == "Another name");
+    ShowText(*dialog.GetDlgItem(IDC_PRODUCT_NAME), _T("Another name"));
+    CHECK(page.Text(IDC_PRODUCT_NAME) == _T("Another name"));
 }
 
 void RunWorkWindow()
@@ -216,9 +216,9 @@ void RunDrawPictureFile()
 {
     Canvas canvas(40, 40, RGB(255, 255, 255));
     CDC* dc = CDC::FromHandle(canvas.Dc());
-    CHECK_FALSE(DrawPictureFile(*dc, g_strImageDir + "\\images\\none.gif", CPoint(5, 5)));
+    CHECK_FALSE(DrawPictureFile(*dc, g_strImageDir + _T("\\images\\none.gif"), CPoint(5, 5)));
     CHECK(canvas.ToPicture() == Picture(40, 40, RGB(255, 255, 255)));
-    CHECK(DrawPictureFile(*dc, g_strImageDir + "\\images\\badge.gif", CPoint(5, 5)));
+    CHECK(DrawPictureFile(*dc, g_strImageDir + _T("\\images\\badge.gif"), CPoint(5, 5)));
     CHECK(canvas.ToPicture() != Picture(40, 40, RGB(255, 255, 255)));
 }
 
@@ -236,10 +236,10 @@ int main()
     umbra::testing::LimitRunTime(longestRun);
     if (!AfxWinInit(::GetModuleHandle(NULL), NULL, ::GetCommandLine(), SW_SHOWNORMAL))
         return 2;
-    char program[MAX_PATH];
+    TCHAR program[MAX_PATH];
     ::GetModuleFileName(NULL, program, MAX_PATH);
     CString folder(program);
-    g_strImageDir = folder.Left(folder.ReverseFind('\\'));
+    g_strImageDir = folder.Left(folder.ReverseFind(_T('\\')));
     g_crShade = RGB(180, 200, 230);
 
     RunFolderPage();

@@ -35,7 +35,7 @@ protected:
 
     void OnCancel() override
     {
-        if (MessageBox("Give up?", "My page", MB_YESNO) == IDYES)
+        if (MessageBox(_T("Give up?"), _T("My page"), MB_YESNO) == IDYES)
             CBaseDialog::OnCancel();
     }
 };
