@@ -57,6 +57,15 @@ using EnableIfVariant = std::enable_if_t<std::is_same_v<T, VARIANT>, int>;
 template <class T>
 using EnableIfNarrow = std::enable_if_t<std::is_same_v<T, char>, int>;
 
+/// Objects, such as CW2A, that convert to text of the kind that a string of Char converts, and not
+/// to its own. The strings themselves have members of their own.
+template <class T, class Char>
+using EnableIfHoldsForeign = std::enable_if_t<
+    std::is_class_v<T> && !std::is_base_of_v<CStringA, T> && !std::is_base_of_v<CStringW, T> &&
+        std::is_convertible_v<const T&, const typename ChTraitsCRT<Char>::YCHAR*> &&
+        !std::is_convertible_v<const T&, const Char*>,
+    int>;
+
 /// What stands for an argument in a "..." of the library: its characters for strings and for
 /// objects that convert to them, those of the kind Char sooner than others, else the argument
 /// itself.
@@ -102,6 +111,10 @@ public:
     {
         Assign(pszSrc);
     }
+    template <class Holder, afxint::EnableIfHoldsForeign<Holder, XCHAR> = 0>
+    explicit CStringT(const Holder& source) : CStringT(static_cast<PCYSTR>(source))
+    {
+    }
     template <class Char, afxint::EnableIfCharacter<Char> = 0>
     explicit CStringT(Char ch, int nLength = 1) : CStringT()
     {
@@ -126,6 +139,11 @@ public:
     {
         return Assign(pszSrc);
     }
+    template <class Holder, afxint::EnableIfHoldsForeign<Holder, XCHAR> = 0>
+    CStringT& operator=(const Holder& source)
+    {
+        return *this = static_cast<PCYSTR>(source);
+    }
     template <class Char, afxint::EnableIfCharacter<Char> = 0>
     CStringT& operator=(Char ch)
     {
@@ -148,6 +166,11 @@ public:
     CStringT& operator+=(const Char* pszSrc)
     {
         return *this += CStringT(pszSrc);
+    }
+    template <class Holder, afxint::EnableIfHoldsForeign<Holder, XCHAR> = 0>
+    CStringT& operator+=(const Holder& source)
+    {
+        return *this += static_cast<PCYSTR>(source);
     }
     template <class Char, afxint::EnableIfCharacterOrByte<Char> = 0>
     CStringT& operator+=(Char ch)

@@ -77,6 +77,35 @@ TEST_CASE("the code page of a conversion may be given")
     CHECK(std::wstring(CA2W("\x83\x41", 932)) == L"\x30A2");
 }
 
+TEST_CASE("a string takes what a conversion holds, of its own kind and of the other")
+{
+    CHECK(CString{CW2A(L"wide")} == _T("wide"));
+    CHECK(CString{CA2W("narrow")} == _T("narrow"));
+    CHECK(CStringA{CA2W("narrow")} == "narrow");
+    CHECK(CStringW{CW2A(L"wide")} == L"wide");
+    CString text;
+    text = CW2A(L"wide");
+    text += CA2W("narrow");
+    CHECK(text == _T("widenarrow"));
+    text = CA2W("narrow");
+    text += CW2A(L"wide");
+    CHECK(text == _T("narrowwide"));
+}
+
+TEST_CASE("strings that a program derives keep their whole text when the other kind takes them")
+{
+    struct NarrowText : CStringA
+    {
+        NarrowText() : CStringA("two\0halves", 10) {}
+    };
+    struct WideText : CStringW
+    {
+        WideText() : CStringW(L"two\0halves", 10) {}
+    };
+    CHECK(CStringW{NarrowText()}.GetLength() == 10);
+    CHECK(CStringA{WideText()}.GetLength() == 10);
+}
+
 TEST_CASE("copies are the program's to change, constant results are the text itself")
 {
     const char text[] = "text";
