@@ -9,6 +9,9 @@
 #include <classes/CException.h>
 #include <atltime.h>
 #include <classes/CFile.h>
+#include <classes/CStdioFile.h>
+#include <classes/CMemFile.h>
 #include <classes/CFileFind.h>
+#include <classes/CDumpContext.h>
 #include <classes/Trace.h>
 #include <classes/Collections.h>

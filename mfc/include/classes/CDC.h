@@ -26,6 +26,8 @@ class AFX_EXPORTED CDC : public CObject
 public:
     CDC();
     virtual ~CDC();
+    void AssertValid() const override;
+    void Dump(CDumpContext& dc) const override;
 
     HDC m_hDC;       ///< Where output goes; NULL while nothing is held.
     HDC m_hAttribDC; ///< Where questions go.

@@ -55,6 +55,7 @@ public:
         temporary = 0x80
     };
     enum SeekPosition { begin = 0x0, current = 0x1, end = 0x2 };
+    enum BufferCommand { bufferRead, bufferWrite, bufferCommit, bufferCheck };
     static const HANDLE hFileNull;
 
     CFile();
@@ -62,6 +63,7 @@ public:
     CFile(HANDLE hFile);
     CFile(LPCTSTR lpszFileName, UINT nOpenFlags);
     ~CFile() override;
+    void Dump(CDumpContext& dc) const override;
 
     operator HANDLE() const;
 

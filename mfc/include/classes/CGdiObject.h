@@ -15,6 +15,8 @@ class AFX_EXPORTED CGdiObject : public CObject
 public:
     CGdiObject();
     virtual ~CGdiObject();
+    void AssertValid() const override;
+    void Dump(CDumpContext& dc) const override;
 
     HGDIOBJ m_hObject; ///< NULL while nothing is held.
 

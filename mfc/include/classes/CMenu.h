@@ -16,6 +16,8 @@ class AFX_EXPORTED CMenu : public CObject
 public:
     CMenu();
     virtual ~CMenu();
+    void AssertValid() const override;
+    void Dump(CDumpContext& dc) const override;
 
     HMENU m_hMenu; ///< NULL while nothing is held.
 

@@ -17,10 +17,14 @@ public:
     virtual CRuntimeClass* GetRuntimeClass() const;
     /// TRUE if the object is of that class or of one derived from it.
     BOOL IsKindOf(const CRuntimeClass* pClass) const;
+    /// TRUE for a class with DECLARE_SERIAL.
     BOOL IsSerializable() const;
+    /// Stores the object in the archive, or loads it from there. There is nothing in the base.
     virtual void Serialize(CArchive& ar);
 
+    /// Asserts, in a debug build, what holds for every object of the class; ASSERT_VALID calls it.
     virtual void AssertValid() const;
+    /// Writes the object out for a person: its class and its address, unless a class says more.
     virtual void Dump(CDumpContext& dc) const;
 
     void* operator new(size_t nSize);
@@ -53,3 +57,11 @@ protected:
 AFX_EXPORTED CObject* AFXAPI AfxDynamicDownCast(const CRuntimeClass* pClass,
                                                 const CObject* pObject);
 AFX_EXPORTED CObject* AFXAPI AfxStaticDownCast(const CRuntimeClass* pClass, const CObject* pObject);
+
+namespace afxint {
+
+/// What ASSERT_VALID does: a pointer that is none counts as a failed assertion, else the object
+/// looks at itself.
+AFX_EXPORTED void AFXAPI AssertValidObject(const CObject* object, LPCSTR file, int line);
+
+} // namespace afxint

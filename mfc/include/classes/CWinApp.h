@@ -32,6 +32,7 @@ public:
     /// The name defaults to string AFX_IDS_APP_TITLE, else to the name of the program file.
     explicit CWinApp(LPCTSTR lpszAppName = NULL);
     ~CWinApp() override;
+    void Dump(CDumpContext& dc) const override;
 
     HINSTANCE m_hInstance;
     LPTSTR m_lpCmdLine; ///< Without the program's name.

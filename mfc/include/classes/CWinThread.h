@@ -17,6 +17,7 @@ class AFX_EXPORTED CWinThread : public CCmdTarget
 public:
     CWinThread();
     ~CWinThread() override;
+    void Dump(CDumpContext& dc) const override;
 
     /// Starts the thread and waits until it can be sent messages; FALSE when it does not start.
     BOOL CreateThread(DWORD dwCreateFlags = 0, UINT nStackSize = 0,

@@ -44,6 +44,8 @@ public:
     CWnd();
     /// Destroys the system window if there still is one.
     ~CWnd() override;
+    void AssertValid() const override;
+    void Dump(CDumpContext& dc) const override;
 
     HWND m_hWnd; ///< NULL without a window.
 

@@ -2,6 +2,7 @@
 #include <classes/CWinApp.h>
 
 #include <classes/Application.h>
+#include <classes/CDumpContext.h>
 #include <classes/CWaitCursor.h>
 #include <classes/CWnd.h>
 
@@ -65,6 +66,12 @@ CWinApp::~CWinApp()
     for (LPCTSTR* text : {&m_pszAppName, &m_pszRegistryKey, &m_pszExeName, &m_pszHelpFilePath,
                           &m_pszProfileName, &m_pszAppID})
         Assign(*text, NULL);
+}
+
+void CWinApp::Dump(CDumpContext& dc) const
+{
+    CWinThread::Dump(dc);
+    dc << "named " << m_pszAppName << ", with command line " << m_lpCmdLine << "\n";
 }
 
 HCURSOR CWinApp::LoadCursor(LPCTSTR lpszResourceName) const

@@ -1,5 +1,7 @@
 #include <classes/CFile.h>
 
+#include <classes/CDumpContext.h>
+
 #include "files/FilePaths.h"
 
 #include <utility>
@@ -117,6 +119,13 @@ CFile::~CFile()
 {
     if (closesOnDelete_)
         Abort();
+}
+
+void CFile::Dump(CDumpContext& dc) const
+{
+    CObject::Dump(dc);
+    dc << "with handle " << static_cast<const void*>(m_hFile) << " and name \"" << fileName_
+       << "\"\n";
 }
 
 CFile::operator HANDLE() const

@@ -31,6 +31,18 @@ CDC::~CDC()
     DeleteDC();
 }
 
+void CDC::AssertValid() const
+{
+    CObject::AssertValid();
+    ASSERT(m_hDC == NULL || ::GetObjectType(m_hDC) != 0);
+}
+
+void CDC::Dump(CDumpContext& dc) const
+{
+    CObject::Dump(dc);
+    dc << "with contexts " << m_hDC << " and " << m_hAttribDC << "\n";
+}
+
 CDC::operator HDC() const
 {
     return GetSafeHdc();

@@ -53,6 +53,18 @@ CGdiObject::~CGdiObject()
     DeleteObject();
 }
 
+void CGdiObject::AssertValid() const
+{
+    CObject::AssertValid();
+    ASSERT(m_hObject == NULL || ::GetObjectType(m_hObject) != 0);
+}
+
+void CGdiObject::Dump(CDumpContext& dc) const
+{
+    CObject::Dump(dc);
+    dc << "with handle " << static_cast<const void*>(m_hObject) << "\n";
+}
+
 CGdiObject::operator HGDIOBJ() const
 {
     return GetSafeHandle();

@@ -1,5 +1,7 @@
 #include <classes/CObject.h>
 
+#include <classes/Application.h>
+#include <classes/CDumpContext.h>
 #include <classes/CException.h>
 
 #include <new>
@@ -30,8 +32,10 @@ void CObject::AssertValid() const
 {
 }
 
-void CObject::Dump(CDumpContext&) const
+void CObject::Dump(CDumpContext& dc) const
 {
+    dc << "a " << GetRuntimeClass()->m_lpszClassName << " at " << static_cast<const void*>(this)
+       << "\n";
 }
 
 void* CObject::operator new(size_t nSize)
@@ -78,4 +82,16 @@ CObject* AFXAPI AfxStaticDownCast([[maybe_unused]] const CRuntimeClass* pClass,
 {
     ASSERT(pObject == NULL || pObject->IsKindOf(pClass));
     return const_cast<CObject*>(pObject);
+}
+
+void AFXAPI afxint::AssertValidObject(const CObject* object, LPCSTR file, int line)
+{
+    // An object begins with the address of its virtual functions.
+    const bool isObject =
+        AfxIsValidAddress(object, sizeof(CObject), FALSE) &&
+        AfxIsValidAddress(*reinterpret_cast<void* const*>(object), sizeof(void*), FALSE);
+    if (isObject)
+        object->AssertValid();
+    else if (AfxAssertFailedLine(file, line))
+        AfxDebugBreak();
 }

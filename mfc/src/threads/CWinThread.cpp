@@ -1,6 +1,7 @@
 #include <classes/CWinThread.h>
 
 #include <classes/Application.h>
+#include <classes/CDumpContext.h>
 #include <classes/CWnd.h>
 
 #include <afxres.h>
@@ -113,6 +114,12 @@ CWinThread::~CWinThread()
         state.thread = NULL;
     if (m_hThread != NULL)
         CloseHandle(m_hThread);
+}
+
+void CWinThread::Dump(CDumpContext& dc) const
+{
+    CCmdTarget::Dump(dc);
+    dc << "with thread " << m_nThreadID << "\n";
 }
 
 BOOL CWinThread::CreateThread(DWORD dwCreateFlags, UINT nStackSize,

@@ -38,6 +38,18 @@ CMenu::~CMenu()
     DestroyMenu();
 }
 
+void CMenu::AssertValid() const
+{
+    CObject::AssertValid();
+    ASSERT(m_hMenu == NULL || ::IsMenu(m_hMenu));
+}
+
+void CMenu::Dump(CDumpContext& dc) const
+{
+    CObject::Dump(dc);
+    dc << "with menu " << m_hMenu << "\n";
+}
+
 CMenu::operator HMENU() const
 {
     return GetSafeHmenu();

@@ -2,6 +2,8 @@
 #include <classes/CWnd.h>
 
 #include <classes/Application.h>
+#include <classes/CDumpContext.h>
+#include <classes/CRect.h>
 
 #include "threads/ThreadState.h"
 #include "windows/CommonControls.h"
@@ -44,6 +46,26 @@ CWnd::~CWnd()
         return;
     TRACE(_T("A CWnd object goes before its window 0x%p.\n"), static_cast<void*>(m_hWnd));
     CWnd::DestroyWindow();
+}
+
+void CWnd::AssertValid() const
+{
+    CCmdTarget::AssertValid();
+    ASSERT(m_hWnd == NULL || ::IsWindow(m_hWnd));
+}
+
+void CWnd::Dump(CDumpContext& dc) const
+{
+    CCmdTarget::Dump(dc);
+    dc << "with window " << m_hWnd;
+    if (::IsWindow(m_hWnd)) {
+        CString caption;
+        GetWindowText(caption);
+        CRect place;
+        GetWindowRect(place);
+        dc << " \"" << caption << "\" at " << place;
+    }
+    dc << "\n";
 }
 
 CWnd::operator HWND() const

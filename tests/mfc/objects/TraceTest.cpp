@@ -3,31 +3,17 @@
 
 #include <doctest/doctest.h>
 
+#include "tests/mfc/objects/DebuggerText.h"
+
 #include <string>
 
 namespace {
 
-/// What a TRACE call hands to the debugger. The system raises this exception for each line.
-std::string lastLine;
-
-LONG CALLBACK CatchLine(EXCEPTION_POINTERS* exception)
-{
-    constexpr DWORD debugText = 0x40010006; // DBG_PRINTEXCEPTION_C: length and address follow.
-    const EXCEPTION_RECORD& record = *exception->ExceptionRecord;
-    if (record.ExceptionCode != debugText || record.NumberParameters < 2)
-        return EXCEPTION_CONTINUE_SEARCH;
-    lastLine = reinterpret_cast<const char*>(record.ExceptionInformation[1]);
-    return EXCEPTION_CONTINUE_EXECUTION;
-}
-
+/// What a TRACE call hands to the debugger.
 template <class... Arguments>
 std::string TextOf(const Arguments&... arguments)
 {
-    void* handler = ::AddVectoredExceptionHandler(1, &CatchLine);
-    lastLine.clear();
-    afxint::Trace(arguments...);
-    ::RemoveVectoredExceptionHandler(handler);
-    return lastLine;
+    return SentToDebugger([&] { afxint::Trace(arguments...); });
 }
 
 } // namespace
