@@ -12,6 +12,7 @@
 #include <classes/CStdioFile.h>
 #include <classes/CMemFile.h>
 #include <classes/CFileFind.h>
+#include <classes/CArchive.h>
 #include <classes/CDumpContext.h>
 #include <classes/Trace.h>
 #include <classes/Collections.h>

@@ -185,6 +185,17 @@
 #define AFX_IDP_FILE_DISKFULL 0xF12D
 #define AFX_IDP_FILE_EOF 0xF12E
 
+// Causes of CArchiveException, in their order.
+#define AFX_IDP_ARCH_NONE 0xF140
+#define AFX_IDP_ARCH_GENERIC 0xF141
+#define AFX_IDP_ARCH_READONLY 0xF142
+#define AFX_IDP_ARCH_ENDOFFILE 0xF143
+#define AFX_IDP_ARCH_WRITEONLY 0xF144
+#define AFX_IDP_ARCH_BADINDEX 0xF145
+#define AFX_IDP_ARCH_BADCLASS 0xF146
+#define AFX_IDP_ARCH_BADSCHEMA 0xF147
+#define AFX_IDP_ARCH_BUFFERFULL 0xF148
+
 // Where help contexts start: commands, resources, prompts, windows, controls.
 #define HID_BASE_COMMAND 0x00010000UL
 #define HID_BASE_RESOURCE 0x00020000UL

@@ -5,6 +5,7 @@
 
 #include <classes/CException.h>
 #include <classes/CObject.h>
+#include <classes/ElementHelpers.h>
 #include <classes/Platform.h>
 
 #include <cstdint>
@@ -60,6 +61,8 @@ public:
     void InsertAt(INT_PTR nIndex, ARG_TYPE newElement, INT_PTR nCount = 1);
     void InsertAt(INT_PTR nStartIndex, ArrayBase* pNewArray);
     void RemoveAt(INT_PTR nIndex, INT_PTR nCount = 1);
+
+    void AssertValid() const override { ASSERT((data_ == NULL) == (capacity_ == 0)); }
 
 private:
     INT_PTR Checked(INT_PTR index) const
@@ -343,4 +346,18 @@ void ArrayBase<TYPE, ARG_TYPE>::Relocate(TYPE* to, TYPE* from, INT_PTR count)
 template <class TYPE, class ARG_TYPE = const TYPE&>
 class CArray : public afxint::ArrayBase<TYPE, ARG_TYPE>
 {
+public:
+    /// With SerializeElements. Loading replaces what the array has.
+    void Serialize(CArchive& ar) override
+    {
+        afxint::SerializeArray(ar, *this, [&ar](TYPE* elements, INT_PTR count) {
+            SerializeElements<TYPE>(ar, elements, count);
+        });
+    }
+    void Dump(CDumpContext& dc) const override
+    {
+        afxint::DumpHead(dc, *this);
+        if (dc.GetDepth() > 0)
+            DumpElements<TYPE>(dc, this->GetData(), this->GetSize());
+    }
 };

@@ -6,6 +6,7 @@
 
 #include <classes/CException.h>
 #include <classes/CObject.h>
+#include <classes/ElementHelpers.h>
 #include <classes/Platform.h>
 
 #include <utility>
@@ -64,6 +65,8 @@ public:
     /// The first equal element after startAfter, or of the whole list; NULL when there is none.
     POSITION Find(ARG_TYPE searchValue, POSITION startAfter = NULL) const;
     POSITION FindIndex(INT_PTR nIndex) const;
+
+    void AssertValid() const override { ASSERT((head_ == NULL) == (count_ == 0)); }
 
 private:
     struct Node
@@ -193,4 +196,33 @@ class CList : public afxint::ListBase<TYPE, ARG_TYPE>
 {
 public:
     explicit CList(INT_PTR nBlockSize = 10) : afxint::ListBase<TYPE, ARG_TYPE>(nBlockSize) {}
+
+    /// With SerializeElements, called for each element. Loading adds to what the list has.
+    void Serialize(CArchive& ar) override;
+    void Dump(CDumpContext& dc) const override
+    {
+        afxint::DumpHead(dc, *this);
+        if (dc.GetDepth() <= 0)
+            return;
+        for (POSITION at = this->GetHeadPosition(); at != NULL;)
+            DumpElements<TYPE>(dc, &this->GetNext(at), 1);
+    }
 };
+
+template <class TYPE, class ARG_TYPE>
+void CList<TYPE, ARG_TYPE>::Serialize(CArchive& ar)
+{
+    if (ar.IsStoring()) {
+        afxint::WriteCount(ar, this->GetCount());
+        for (POSITION at = this->GetHeadPosition(); at != NULL;)
+            SerializeElements<TYPE>(ar, &this->GetNext(at), 1);
+    } else if constexpr (std::is_default_constructible_v<TYPE>) {
+        for (INT_PTR left = afxint::ReadCount(ar); left > 0; --left) {
+            TYPE element[1] = {};
+            SerializeElements<TYPE>(ar, element, 1);
+            this->AddTail(element[0]);
+        }
+    } else {
+        AfxThrowNotSupportedException();
+    }
+}

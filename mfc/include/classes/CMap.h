@@ -69,6 +69,8 @@ public:
     /// Only for an empty map. The table grows by itself later.
     void InitHashTable(UINT hashSize, BOOL bAllocNow = TRUE);
 
+    void AssertValid() const override { ASSERT((oldest_ == NULL) == (count_ == 0)); }
+
 protected:
     using BaseKey = KEY;
     using BaseArgKey = ARG_KEY;
@@ -237,4 +239,43 @@ public:
     using Base::PGetFirstAssoc;
     using Base::PGetNextAssoc;
     using Base::PLookup;
+
+    /// With SerializeElements, called for each key and each value. Loading adds to what the map
+    /// has.
+    void Serialize(CArchive& ar) override;
+    void Dump(CDumpContext& dc) const override;
 };
+
+template <class KEY, class ARG_KEY, class VALUE, class ARG_VALUE>
+void CMap<KEY, ARG_KEY, VALUE, ARG_VALUE>::Serialize(CArchive& ar)
+{
+    if (ar.IsStoring()) {
+        afxint::WriteCount(ar, this->GetCount());
+        for (CPair* pair = PGetFirstAssoc(); pair != NULL; pair = PGetNextAssoc(pair)) {
+            SerializeElements<KEY>(ar, const_cast<KEY*>(&pair->key), 1); // It is only read.
+            SerializeElements<VALUE>(ar, &pair->value, 1);
+        }
+    } else if constexpr (std::is_default_constructible_v<KEY>) {
+        for (INT_PTR left = afxint::ReadCount(ar); left > 0; --left) {
+            KEY key[1] = {};
+            VALUE value[1] = {};
+            SerializeElements<KEY>(ar, key, 1);
+            SerializeElements<VALUE>(ar, value, 1);
+            this->SetAt(key[0], value[0]);
+        }
+    } else {
+        AfxThrowNotSupportedException();
+    }
+}
+
+template <class KEY, class ARG_KEY, class VALUE, class ARG_VALUE>
+void CMap<KEY, ARG_KEY, VALUE, ARG_VALUE>::Dump(CDumpContext& dc) const
+{
+    afxint::DumpHead(dc, *this);
+    if (dc.GetDepth() <= 0)
+        return;
+    for (const CPair* pair = PGetFirstAssoc(); pair != NULL; pair = PGetNextAssoc(pair)) {
+        DumpElements<KEY>(dc, &pair->key, 1);
+        DumpElements<VALUE>(dc, &pair->value, 1);
+    }
+}

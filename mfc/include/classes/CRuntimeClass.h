@@ -3,6 +3,7 @@
 
 #include <classes/Platform.h>
 
+class CArchive;
 class CObject;
 
 /// The name, size and base of a class, and the means to make an object of it. One static object
@@ -55,8 +56,9 @@ public:                                                                         
     DECLARE_DYNAMIC(class_name)                                                                    \
     static CObject* CreateObject();
 
-// Archives are not part of the subset: such a class stores itself through Serialize of its own.
-#define DECLARE_SERIAL(class_name) DECLARE_DYNCREATE(class_name)
+#define DECLARE_SERIAL(class_name)                                                                 \
+    DECLARE_DYNCREATE(class_name)                                                                  \
+    friend AFX_EXPORTED CArchive& AFXAPI operator>>(CArchive& ar, class_name*& pOb);
 
 // The base class is asked for through a function because its address may lie in another module.
 #define AFXINT_IMPLEMENT_CLASS(class_name, base_class_name, schema, create)                        \
@@ -79,9 +81,18 @@ public:                                                                         
     }                                                                                              \
     AFXINT_IMPLEMENT_CLASS(class_name, base_class_name, 0xFFFF, &class_name::CreateObject)
 
+/// Added to the schema number of IMPLEMENT_SERIAL: objects of other numbers load, too, and ask for
+/// theirs with CArchive::GetObjectSchema.
+#define VERSIONABLE_SCHEMA (0x80000000)
+
 #define IMPLEMENT_SERIAL(class_name, base_class_name, wSchema)                                     \
     CObject* class_name::CreateObject()                                                            \
     {                                                                                              \
         return new class_name;                                                                     \
     }                                                                                              \
-    AFXINT_IMPLEMENT_CLASS(class_name, base_class_name, wSchema, &class_name::CreateObject)
+    AFXINT_IMPLEMENT_CLASS(class_name, base_class_name, wSchema, &class_name::CreateObject)        \
+    CArchive& AFXAPI operator>>(CArchive& ar, class_name*& pOb)                                    \
+    {                                                                                              \
+        pOb = static_cast<class_name*>(ar.ReadObject(RUNTIME_CLASS(class_name)));                  \
+        return ar;                                                                                 \
+    }

@@ -9,6 +9,8 @@
 
 #include <time.h>
 
+class CArchive;
+
 class AFX_EXPORTED CTime
 {
 public:
@@ -40,6 +42,8 @@ public:
     struct tm* GetLocalTm(struct tm* ptm) const;
     bool GetAsSystemTime(SYSTEMTIME& st) const;
     __time64_t GetTime() const;
+    /// Stores or loads the time, as the operators do.
+    CArchive& Serialize64(CArchive& ar);
 
     int GetYear() const;
     int GetMonth() const;

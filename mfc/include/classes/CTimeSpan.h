@@ -6,6 +6,8 @@
 
 #include <time.h>
 
+class CArchive;
+
 class AFX_EXPORTED CTimeSpan
 {
 public:
@@ -22,6 +24,8 @@ public:
     LONGLONG GetTotalSeconds() const;
     LONG GetSeconds() const;
     __time64_t GetTimeSpan() const;
+    /// Stores or loads the span, as the operators do.
+    CArchive& Serialize64(CArchive& ar);
 
     CTimeSpan operator+(CTimeSpan span) const;
     CTimeSpan operator-(CTimeSpan span) const;

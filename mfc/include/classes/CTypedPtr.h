@@ -3,6 +3,18 @@
 
 #include <classes/Collections.h>
 
+namespace afxint {
+
+/// Whether pointers of the type load by an operator of their own, as with DECLARE_SERIAL: it takes
+/// no objects of other classes.
+template <class POINTER, class = void>
+constexpr bool loadsItself = false;
+template <class POINTER>
+constexpr bool loadsItself<
+    POINTER, std::void_t<decltype(std::declval<CArchive&>() >> std::declval<POINTER&>())>> = true;
+
+} // namespace afxint
+
 /// BASE_CLASS is CObArray or CPtrArray, TYPE the pointer type.
 template <class BASE_CLASS, class TYPE>
 class CTypedPtrArray : public BASE_CLASS
@@ -28,6 +40,17 @@ public:
     }
     TYPE operator[](INT_PTR nIndex) const { return GetAt(nIndex); }
     TYPE& operator[](INT_PTR nIndex) { return ElementAt(nIndex); }
+
+    void Serialize(CArchive& ar) override
+    {
+        if constexpr (std::is_base_of_v<CObArray, BASE_CLASS> && afxint::loadsItself<TYPE>) {
+            afxint::SerializeArray(ar, *this, [&ar](CObject** elements, INT_PTR count) {
+                afxint::SerializeByOperators(ar, reinterpret_cast<TYPE*>(elements), count);
+            });
+        } else {
+            BASE_CLASS::Serialize(ar);
+        }
+    }
 };
 
 /// BASE_CLASS is CObList or CPtrList, TYPE the pointer type.
@@ -66,6 +89,21 @@ public:
     TYPE& GetAt(POSITION position) { return reinterpret_cast<TYPE&>(BASE_CLASS::GetAt(position)); }
     TYPE GetAt(POSITION position) const { return static_cast<TYPE>(BASE_CLASS::GetAt(position)); }
     void SetAt(POSITION pos, TYPE newElement) { BASE_CLASS::SetAt(pos, newElement); }
+
+    void Serialize(CArchive& ar) override
+    {
+        if constexpr (std::is_base_of_v<CObList, BASE_CLASS> && afxint::loadsItself<TYPE>) {
+            if (ar.IsLoading()) {
+                for (INT_PTR left = afxint::ReadCount(ar); left > 0; --left) {
+                    TYPE element = NULL;
+                    ar >> element;
+                    AddTail(element);
+                }
+                return;
+            }
+        }
+        BASE_CLASS::Serialize(ar);
+    }
 };
 
 /// BASE_CLASS is one of the maps of fixed types; KEY and VALUE convert to and from its own.

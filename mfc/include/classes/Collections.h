@@ -1,4 +1,8 @@
 // Arrays, lists and maps of fixed element types. Pointers in them are never deleted by them.
+//
+// Those of values and of objects go to archives and come from there. Loading replaces what an array
+// has, and adds to what a list or a map has. When it fails, what was there stays; objects that were
+// loaded by then stand behind it.
 #pragma once
 
 #include <classes/CArray.h>
@@ -34,45 +38,74 @@ public:
 
 class AFX_EXPORTED CObArray : public afxint::ArrayBase<CObject*, CObject*>
 {
-    DECLARE_DYNCREATE(CObArray)
+    DECLARE_SERIAL(CObArray)
+
+public:
+    void Serialize(CArchive& ar) override;
+    void Dump(CDumpContext& dc) const override;
 };
 
 class AFX_EXPORTED CPtrArray : public afxint::ArrayBase<void*, void*>
 {
     DECLARE_DYNCREATE(CPtrArray)
+
+public:
+    void Dump(CDumpContext& dc) const override;
 };
 
 class AFX_EXPORTED CStringArray : public afxint::ArrayBase<CString, LPCTSTR>
 {
-    DECLARE_DYNCREATE(CStringArray)
+    DECLARE_SERIAL(CStringArray)
+
+public:
+    void Serialize(CArchive& ar) override;
+    void Dump(CDumpContext& dc) const override;
 };
 
 class AFX_EXPORTED CByteArray : public afxint::ArrayBase<BYTE, BYTE>
 {
-    DECLARE_DYNCREATE(CByteArray)
+    DECLARE_SERIAL(CByteArray)
+
+public:
+    void Serialize(CArchive& ar) override;
+    void Dump(CDumpContext& dc) const override;
 };
 
 class AFX_EXPORTED CWordArray : public afxint::ArrayBase<WORD, WORD>
 {
-    DECLARE_DYNCREATE(CWordArray)
+    DECLARE_SERIAL(CWordArray)
+
+public:
+    void Serialize(CArchive& ar) override;
+    void Dump(CDumpContext& dc) const override;
 };
 
 class AFX_EXPORTED CDWordArray : public afxint::ArrayBase<DWORD, DWORD>
 {
-    DECLARE_DYNCREATE(CDWordArray)
+    DECLARE_SERIAL(CDWordArray)
+
+public:
+    void Serialize(CArchive& ar) override;
+    void Dump(CDumpContext& dc) const override;
 };
 
 class AFX_EXPORTED CUIntArray : public afxint::ArrayBase<UINT, UINT>
 {
     DECLARE_DYNCREATE(CUIntArray)
+
+public:
+    void Dump(CDumpContext& dc) const override;
 };
 
 class AFX_EXPORTED CObList : public afxint::ListBase<CObject*, CObject*>
 {
-    DECLARE_DYNCREATE(CObList)
+    DECLARE_SERIAL(CObList)
 
 public:
     explicit CObList(INT_PTR nBlockSize = 10) : ListBase(nBlockSize) {}
+
+    void Serialize(CArchive& ar) override;
+    void Dump(CDumpContext& dc) const override;
 };
 
 class AFX_EXPORTED CPtrList : public afxint::ListBase<void*, void*>
@@ -81,19 +114,24 @@ class AFX_EXPORTED CPtrList : public afxint::ListBase<void*, void*>
 
 public:
     explicit CPtrList(INT_PTR nBlockSize = 10) : ListBase(nBlockSize) {}
+
+    void Dump(CDumpContext& dc) const override;
 };
 
 class AFX_EXPORTED CStringList : public afxint::ListBase<CString, LPCTSTR>
 {
-    DECLARE_DYNCREATE(CStringList)
+    DECLARE_SERIAL(CStringList)
 
 public:
     explicit CStringList(INT_PTR nBlockSize = 10) : ListBase(nBlockSize) {}
+
+    void Serialize(CArchive& ar) override;
+    void Dump(CDumpContext& dc) const override;
 };
 
 class AFX_EXPORTED CMapStringToString : public afxint::FixedMap<CString, LPCTSTR, CString, LPCTSTR>
 {
-    DECLARE_DYNCREATE(CMapStringToString)
+    DECLARE_SERIAL(CMapStringToString)
 
 public:
     explicit CMapStringToString(INT_PTR nBlockSize = 10) : FixedMap(nBlockSize) {}
@@ -101,6 +139,9 @@ public:
     using MapBase::PGetFirstAssoc;
     using MapBase::PGetNextAssoc;
     using MapBase::PLookup;
+
+    void Serialize(CArchive& ar) override;
+    void Dump(CDumpContext& dc) const override;
 };
 
 class AFX_EXPORTED CMapStringToPtr : public afxint::FixedMap<CString, LPCTSTR, void*, void*>
@@ -109,14 +150,19 @@ class AFX_EXPORTED CMapStringToPtr : public afxint::FixedMap<CString, LPCTSTR, v
 
 public:
     explicit CMapStringToPtr(INT_PTR nBlockSize = 10) : FixedMap(nBlockSize) {}
+
+    void Dump(CDumpContext& dc) const override;
 };
 
 class AFX_EXPORTED CMapStringToOb : public afxint::FixedMap<CString, LPCTSTR, CObject*, CObject*>
 {
-    DECLARE_DYNCREATE(CMapStringToOb)
+    DECLARE_SERIAL(CMapStringToOb)
 
 public:
     explicit CMapStringToOb(INT_PTR nBlockSize = 10) : FixedMap(nBlockSize) {}
+
+    void Serialize(CArchive& ar) override;
+    void Dump(CDumpContext& dc) const override;
 };
 
 class AFX_EXPORTED CMapPtrToPtr : public afxint::FixedMap<void*, void*, void*, void*>
@@ -125,6 +171,8 @@ class AFX_EXPORTED CMapPtrToPtr : public afxint::FixedMap<void*, void*, void*, v
 
 public:
     explicit CMapPtrToPtr(INT_PTR nBlockSize = 10) : FixedMap(nBlockSize) {}
+
+    void Dump(CDumpContext& dc) const override;
 };
 
 class AFX_EXPORTED CMapPtrToWord : public afxint::FixedMap<void*, void*, WORD, WORD>
@@ -133,6 +181,8 @@ class AFX_EXPORTED CMapPtrToWord : public afxint::FixedMap<void*, void*, WORD, W
 
 public:
     explicit CMapPtrToWord(INT_PTR nBlockSize = 10) : FixedMap(nBlockSize) {}
+
+    void Dump(CDumpContext& dc) const override;
 };
 
 class AFX_EXPORTED CMapWordToPtr : public afxint::FixedMap<WORD, WORD, void*, void*>
@@ -141,12 +191,17 @@ class AFX_EXPORTED CMapWordToPtr : public afxint::FixedMap<WORD, WORD, void*, vo
 
 public:
     explicit CMapWordToPtr(INT_PTR nBlockSize = 10) : FixedMap(nBlockSize) {}
+
+    void Dump(CDumpContext& dc) const override;
 };
 
 class AFX_EXPORTED CMapWordToOb : public afxint::FixedMap<WORD, WORD, CObject*, CObject*>
 {
-    DECLARE_DYNCREATE(CMapWordToOb)
+    DECLARE_SERIAL(CMapWordToOb)
 
 public:
     explicit CMapWordToOb(INT_PTR nBlockSize = 10) : FixedMap(nBlockSize) {}
+
+    void Serialize(CArchive& ar) override;
+    void Dump(CDumpContext& dc) const override;
 };

@@ -1,3 +1,4 @@
+#include <classes/CArchive.h>
 #include <classes/CException.h>
 #include <classes/CTime.h>
 
@@ -264,4 +265,9 @@ CString CTime::Format(UINT nFormatID) const
 CString CTime::FormatGmt(UINT nFormatID) const
 {
     return FormatGmt(afxint::LoadFormat(nFormatID));
+}
+
+CArchive& CTime::Serialize64(CArchive& ar)
+{
+    return ar.IsStoring() ? ar << static_cast<LONGLONG>(time_) : ar >> time_;
 }

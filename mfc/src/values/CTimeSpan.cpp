@@ -1,3 +1,4 @@
+#include <classes/CArchive.h>
 #include <classes/CException.h>
 #include <classes/CTimeSpan.h>
 
@@ -152,4 +153,9 @@ CString CTimeSpan::Format(LPCTSTR pFormat) const
 CString CTimeSpan::Format(UINT nID) const
 {
     return Format(afxint::LoadFormat(nID));
+}
+
+CArchive& CTimeSpan::Serialize64(CArchive& ar)
+{
+    return ar.IsStoring() ? ar << static_cast<LONGLONG>(span_) : ar >> span_;
 }

@@ -8,6 +8,24 @@ class CExtensionObject : public CCmdTarget
 };
 IMPLEMENT_DYNCREATE(CExtensionObject, CCmdTarget)
 
+class CExtensionItem : public CObject
+{
+    DECLARE_SERIAL(CExtensionItem)
+
+public:
+    CString m_strName = _T("item");
+
+    virtual void Serialize(CArchive& ar)
+    {
+        CObject::Serialize(ar);
+        if (ar.IsStoring())
+            ar << m_strName;
+        else
+            ar >> m_strName;
+    }
+};
+IMPLEMENT_SERIAL(CExtensionItem, CObject, 1)
+
 static AFX_EXTENSION_MODULE extensionDLL = {FALSE, NULL};
 
 extern "C" int APIENTRY DllMain(HINSTANCE hInstance, DWORD dwReason, LPVOID)
