@@ -5,111 +5,18 @@
 #include <doctest/doctest.h>
 
 #include "tests/mfc/MessageBoxText.h"
+#include "tests/mfc/application/Program.h"
 #include "tests/mfc/programs/Frame/FrameResource.h"
 #include "tests/mfc/programs/Wizard/resource.h"
 
-#include <functional>
 #include <string>
 
 namespace {
 
 constexpr char settingsKey[] = "Software\\Umbra Wizard Test";
 
-constexpr DWORD longestWait = 40000; // For what must happen, on however busy a machine.
-
-bool WaitFor(const std::function<bool()>& predicate)
-{
-    const DWORD start = ::GetTickCount();
-    for (; ::GetTickCount() - start < longestWait; ::Sleep(10)) {
-        if (predicate())
-            return true;
-    }
-    return false;
-}
-
 constexpr char frameTitle[] = "Frame program: first second";
-constexpr char dialogClass[] = "#32770";
 constexpr char menuClass[] = "#32768";
-
-/// A program that stands beside this one. It is over at the end of the object.
-class Program
-{
-public:
-    /// Starts it with the command line given and waits for its window.
-    Program(const char* command, const char* title, const char* className = dialogClass)
-    {
-        char path[MAX_PATH];
-        ::GetModuleFileNameA(nullptr, path, MAX_PATH);
-        ::PathRemoveFileSpecA(path);
-        std::string line = '"' + std::string(path) + "\\" + command;
-        STARTUPINFOA startup{};
-        startup.cb = sizeof(startup);
-        REQUIRE(::CreateProcessA(nullptr, line.data(), nullptr, nullptr, FALSE, 0, nullptr, nullptr,
-                                 &startup, &process_));
-        window = Find(title, className);
-        REQUIRE(window != nullptr);
-    }
-    ~Program()
-    {
-        if (::WaitForSingleObject(process_.hProcess, 0) == WAIT_TIMEOUT)
-            ::TerminateProcess(process_.hProcess, 99);
-        ::CloseHandle(process_.hProcess);
-        ::CloseHandle(process_.hThread);
-    }
-    Program(const Program&) = delete;
-    Program& operator=(const Program&) = delete;
-
-    /// Waits for a visible window of the program, a dialog unless another class is given.
-    HWND Find(const char* title, const char* className = dialogClass)
-    {
-        HWND found = nullptr;
-        WaitFor([&] {
-            HWND at = nullptr;
-            while ((at = ::FindWindowExA(nullptr, at, className, title)) != nullptr) {
-                DWORD process = 0;
-                ::GetWindowThreadProcessId(at, &process);
-                if (process == process_.dwProcessId && at != window && ::IsWindowVisible(at)) {
-                    found = at;
-                    return true;
-                }
-            }
-            return false;
-        });
-        return found;
-    }
-    DWORD ExitCode()
-    {
-        DWORD code = STILL_ACTIVE;
-        if (::WaitForSingleObject(process_.hProcess, longestWait) == WAIT_OBJECT_0)
-            ::GetExitCodeProcess(process_.hProcess, &code);
-        return code;
-    }
-
-    void SetText(int id, const char* text)
-    {
-        ::SendDlgItemMessageA(window, id, WM_SETTEXT, 0, reinterpret_cast<LPARAM>(text));
-    }
-    std::string Text(int id)
-    {
-        char text[200] = "";
-        ::SendDlgItemMessageA(window, id, WM_GETTEXT, sizeof(text), reinterpret_cast<LPARAM>(text));
-        return text;
-    }
-    std::string Title() const
-    {
-        char text[200] = "";
-        ::SendMessageA(window, WM_GETTEXT, sizeof(text), reinterpret_cast<LPARAM>(text));
-        return text;
-    }
-    LRESULT Click(int id) { return ::SendDlgItemMessageA(window, id, BM_CLICK, 0, 0); }
-    /// For buttons that lead to a box, which keeps their click waiting.
-    void PostClick(int id) { ::PostMessageA(::GetDlgItem(window, id), BM_CLICK, 0, 0); }
-
-    HWND window = nullptr;
-
-private:
-    PROCESS_INFORMATION process_{};
-};
 
 /// The wizard's program.
 class Wizard : public Program
