@@ -26,7 +26,8 @@ FARPROC Find(const ImgDelayDescr& library, ptrdiff_t index)
                                 : At<const IMAGE_IMPORT_BY_NAME>(static_cast<RVA>(name))->Name);
 }
 
-/// Answers for a function that could not be found. All that are imported late tell a failure by 0.
+/// Answers for a function that could not be found. Nearly all that are imported late tell a failure
+/// by 0; what starts the sockets is asked for their version, too.
 INT_PTR WINAPI Unavailable()
 {
     ::SetLastError(ERROR_PROC_NOT_FOUND);

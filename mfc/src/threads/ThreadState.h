@@ -4,6 +4,8 @@
 #include "objects/HandleMap.h"
 #include "windows/ToolTips.h"
 
+#include <memory>
+
 class CCommonDialog;
 class CDC;
 class CGdiObject;
@@ -14,6 +16,7 @@ class CWnd;
 
 namespace afxint {
 
+class SocketWindow;
 class WindowCreation;
 
 // Wrap and Unwrap of each kind stand in the source of the class.
@@ -67,6 +70,8 @@ struct ThreadState
     ToolTip toolTip;
     HMENU openedMenu = NULL;          ///< The menu whose items may be measured next.
     CWnd* inheritedMainWindow = NULL; ///< The worker thread's own object for its creator's one.
+
+    std::shared_ptr<SocketWindow> sockets; ///< Made with the thread's first socket.
 
     HandleMap<WindowTraits> windows;
     HandleMap<GdiObjectTraits> gdiObjects;
