@@ -1,0 +1,4 @@
+// Pictures.
+#pragma once
+#include <afxwin.h>
+#include <classes/CImage.h>
