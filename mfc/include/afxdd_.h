@@ -6,6 +6,7 @@
 #include <classes/CDataExchange.h>
 #include <classes/CString.h>
 
+class CTime;
 class CWnd;
 
 /// Attaches the object to its control, the first time it is called.
@@ -34,6 +35,11 @@ AFX_EXPORTED void AFXAPI DDX_CBStringExact(CDataExchange* pDX, int nIDC, CString
 AFX_EXPORTED void AFXAPI DDX_Scroll(CDataExchange* pDX, int nIDC, int& value);
 AFX_EXPORTED void AFXAPI DDX_Slider(CDataExchange* pDX, int nIDC, int& value);
 AFX_EXPORTED void AFXAPI DDX_IPAddress(CDataExchange* pDX, int nIDC, DWORD& value);
+/// Leaves the value alone while the control has no date, or one that CTime cannot hold.
+AFX_EXPORTED void AFXAPI DDX_DateTimeCtrl(CDataExchange* pDX, int nIDC, CTime& value);
+/// The date as the control shows it. One that the system does not understand is no date.
+AFX_EXPORTED void AFXAPI DDX_DateTimeCtrl(CDataExchange* pDX, int nIDC, CString& value);
+AFX_EXPORTED void AFXAPI DDX_MonthCalCtrl(CDataExchange* pDX, int nIDC, CTime& value);
 
 AFX_EXPORTED void AFXAPI DDV_MinMaxByte(CDataExchange* pDX, BYTE value, BYTE minVal, BYTE maxVal);
 AFX_EXPORTED void AFXAPI DDV_MinMaxShort(CDataExchange* pDX, short value, short minVal,
@@ -55,5 +61,10 @@ AFX_EXPORTED void AFXAPI DDV_MinMaxDouble(CDataExchange* pDX, const double& valu
                                           double maxVal);
 AFX_EXPORTED void AFXAPI DDV_MinMaxSlider(CDataExchange* pDX, DWORD value, DWORD minVal,
                                           DWORD maxVal);
+/// Gives the control its range when loading. A limit of NULL is none.
+AFX_EXPORTED void AFXAPI DDV_MinMaxDateTime(CDataExchange* pDX, CTime& refValue,
+                                            const CTime* pMinRange, const CTime* pMaxRange);
+AFX_EXPORTED void AFXAPI DDV_MinMaxMonth(CDataExchange* pDX, CTime& refValue,
+                                         const CTime* pMinRange, const CTime* pMaxRange);
 /// Limits what can be typed, and checks the length.
 AFX_EXPORTED void AFXAPI DDV_MaxChars(CDataExchange* pDX, const CString& value, int nChars);

@@ -1,3 +1,5 @@
-// Date and time pickers are not part of the subset; programs include this header all the same.
+// Date and time pickers and calendars.
 #pragma once
-#include <afxcmn.h>
+#include <afxwin.h>
+#include <classes/CMonthCalCtrl.h>
+#include <classes/CDateTimeCtrl.h>

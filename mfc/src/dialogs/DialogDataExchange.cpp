@@ -4,6 +4,8 @@
 #include <classes/Application.h>
 #include <classes/CWnd.h>
 
+#include "dialogs/DialogExchange.h"
+
 #include <errno.h>
 #include <float.h>
 
@@ -11,16 +13,6 @@
 #include <optional>
 
 namespace afxint {
-
-/// The checks belong to the control that was prepared last.
-struct ExchangeAccess
-{
-    static HWND LastControl(const CDataExchange& exchange) { return exchange.lastControl_; }
-};
-
-} // namespace afxint
-
-namespace {
 
 CString ReadText(HWND control)
 {
@@ -31,24 +23,31 @@ CString ReadText(HWND control)
     return text;
 }
 
-/// Sets the text only when it changes, which spares the control its flicker and notifications.
-void WriteText(HWND control, LPCTSTR text)
-{
-    if (ReadText(control) != text)
-        ::SetWindowText(control, text);
-}
-
-[[noreturn]] void Refuse(CDataExchange* exchange, LPCTSTR message, UINT id)
+void Refuse(CDataExchange* exchange, LPCTSTR message, UINT id)
 {
     AfxMessageBox(message, MB_ICONEXCLAMATION, id);
     exchange->Fail();
 }
 
-[[noreturn]] void Refuse(CDataExchange* exchange, UINT id)
+void Refuse(CDataExchange* exchange, UINT id)
 {
     CString message;
     message.LoadString(id);
     Refuse(exchange, message, id);
+}
+
+} // namespace afxint
+
+using afxint::ReadText;
+using afxint::Refuse;
+
+namespace {
+
+/// Sets the text only when it changes, which spares the control its flicker and notifications.
+void WriteText(HWND control, LPCTSTR text)
+{
+    if (ReadText(control) != text)
+        ::SetWindowText(control, text);
 }
 
 bool OnlyBlanksFollow(LPCTSTR text)

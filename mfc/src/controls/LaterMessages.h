@@ -1,0 +1,56 @@
+// Messages that the Windows headers leave out for the oldest system that is meant. A control that
+// does not know one answers 0.
+#pragma once
+
+#include <classes/Platform.h>
+
+#ifndef DTM_SETMCSTYLE
+#define DTM_SETMCSTYLE (DTM_FIRST + 11)
+#define DTM_GETMCSTYLE (DTM_FIRST + 12)
+#define DTM_CLOSEMONTHCAL (DTM_FIRST + 13)
+#define DTM_GETDATETIMEPICKERINFO (DTM_FIRST + 14)
+#define DTM_GETIDEALSIZE (DTM_FIRST + 15)
+#endif
+
+#ifndef MCM_GETCURRENTVIEW
+#define MCMV_MONTH 0
+#define MCMV_YEAR 1
+#define MCMV_DECADE 2
+#define MCMV_CENTURY 3
+#define MCM_GETCURRENTVIEW (MCM_FIRST + 22)
+#define MCM_GETCALENDARCOUNT (MCM_FIRST + 23)
+#define MCM_GETCALENDARGRIDINFO (MCM_FIRST + 24)
+#define MCM_GETCALID (MCM_FIRST + 27)
+#define MCM_SETCALID (MCM_FIRST + 28)
+#define MCM_SIZERECTTOMIN (MCM_FIRST + 29)
+#define MCM_SETCALENDARBORDER (MCM_FIRST + 30)
+#define MCM_GETCALENDARBORDER (MCM_FIRST + 31)
+#define MCM_SETCURRENTVIEW (MCM_FIRST + 32)
+#endif
+
+#ifndef BCM_SETDROPDOWNSTATE
+#define BCM_SETDROPDOWNSTATE (BCM_FIRST + 6)
+#define BCM_SETSPLITINFO (BCM_FIRST + 7)
+#define BCM_GETSPLITINFO (BCM_FIRST + 8)
+#define BCM_SETNOTE (BCM_FIRST + 9)
+#define BCM_GETNOTE (BCM_FIRST + 10)
+#define BCM_GETNOTELENGTH (BCM_FIRST + 11)
+#define BCM_SETSHIELD (BCM_FIRST + 12)
+#define BCN_DROPDOWN (BCN_FIRST + 2)
+#define BS_SPLITBUTTON 0x0000000CL
+#define BS_DEFSPLITBUTTON 0x0000000DL
+#define BCSIF_GLYPH 0x0001
+#define BCSIF_IMAGE 0x0002
+#define BCSIF_STYLE 0x0004
+#define BCSIF_SIZE 0x0008
+#endif
+
+#ifndef EM_SETHILITE
+#define EM_SETHILITE (ECM_FIRST + 5)
+#define EM_GETHILITE (ECM_FIRST + 6)
+#endif
+
+#ifndef CB_SETCUEBANNER
+#define CB_SETCUEBANNER (CBM_FIRST + 3)
+#define CB_GETCUEBANNER (CBM_FIRST + 4)
+#endif
