@@ -24,9 +24,18 @@ public:
                            DWORD dwSize = sizeof(PROPSHEETPAGE));
     explicit CPropertyPage(LPCTSTR lpszTemplateName, UINT nIDCaption = 0,
                            DWORD dwSize = sizeof(PROPSHEETPAGE));
+    /// With the title and the subtitle of a wizard's inner page.
+    CPropertyPage(UINT nIDTemplate, UINT nIDCaption, UINT nIDHeaderTitle,
+                  UINT nIDHeaderSubTitle = 0, DWORD dwSize = sizeof(PROPSHEETPAGE));
+    CPropertyPage(LPCTSTR lpszTemplateName, UINT nIDCaption, UINT nIDHeaderTitle,
+                  UINT nIDHeaderSubTitle = 0, DWORD dwSize = sizeof(PROPSHEETPAGE));
     ~CPropertyPage() override;
     void Construct(UINT nIDTemplate, UINT nIDCaption = 0);
     void Construct(LPCTSTR lpszTemplateName, UINT nIDCaption = 0);
+    void Construct(UINT nIDTemplate, UINT nIDCaption, UINT nIDHeaderTitle,
+                   UINT nIDHeaderSubTitle = 0);
+    void Construct(LPCTSTR lpszTemplateName, UINT nIDCaption, UINT nIDHeaderTitle,
+                   UINT nIDHeaderSubTitle = 0);
 
     PROPSHEETPAGE m_psp;
     const PROPSHEETPAGE& GetPSP() const;
@@ -62,11 +71,14 @@ private:
     friend class CPropertySheet;
     friend struct afxint::PropertyPageHook;
 
-    void Construct(LPCTSTR templateName, UINT captionId, DWORD size);
+    void Initialize(LPCTSTR templateName, UINT captionId, DWORD size);
+    void SetHeader(UINT titleId, UINT subTitleId);
     HPROPSHEETPAGE MakeSystemPage();
     bool AnswerSheet(UINT code, LRESULT& answer);
 
     CString caption_;
+    CString headerTitle_;
+    CString headerSubTitle_;
     bool firstActivation_ = true; ///< The controls are filled by OnInitDialog then.
     std::unique_ptr<afxint::WindowCreation> creation_; ///< From the sheet's call to the window.
 };

@@ -27,8 +27,18 @@ public:
     CPropertySheet();
     explicit CPropertySheet(UINT nIDCaption, CWnd* pParentWnd = NULL, UINT iSelectPage = 0);
     explicit CPropertySheet(LPCTSTR pszCaption, CWnd* pParentWnd = NULL, UINT iSelectPage = 0);
+    /// For a wizard with pictures: the watermark of its outer pages, the header of its inner ones.
+    /// They stay the caller's.
+    CPropertySheet(UINT nIDCaption, CWnd* pParentWnd, UINT iSelectPage, HBITMAP hbmWatermark,
+                   HPALETTE hpalWatermark = NULL, HBITMAP hbmHeader = NULL);
+    CPropertySheet(LPCTSTR pszCaption, CWnd* pParentWnd, UINT iSelectPage, HBITMAP hbmWatermark,
+                   HPALETTE hpalWatermark = NULL, HBITMAP hbmHeader = NULL);
     void Construct(UINT nIDCaption, CWnd* pParentWnd = NULL, UINT iSelectPage = 0);
     void Construct(LPCTSTR pszCaption, CWnd* pParentWnd = NULL, UINT iSelectPage = 0);
+    void Construct(UINT nIDCaption, CWnd* pParentWnd, UINT iSelectPage, HBITMAP hbmWatermark,
+                   HPALETTE hpalWatermark = NULL, HBITMAP hbmHeader = NULL);
+    void Construct(LPCTSTR pszCaption, CWnd* pParentWnd, UINT iSelectPage, HBITMAP hbmWatermark,
+                   HPALETTE hpalWatermark = NULL, HBITMAP hbmHeader = NULL);
 
     PROPSHEETHEADER m_psh;
 

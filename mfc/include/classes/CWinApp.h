@@ -9,6 +9,9 @@ enum AFX_HELP_TYPE { afxWinHelp = 0, afxHTMLHelp = 1 };
 
 #define _AFX_MRU_COUNT 4
 
+class CDC;
+class CPrintDialog;
+
 // What a program wants when the system restarts it. The subset registers nothing with the restart
 // manager; programs set these flags all the same.
 #define AFX_RESTART_MANAGER_SUPPORT_RESTART 0x01
@@ -79,6 +82,15 @@ public:
     BOOL RunEmbedded();
     BOOL RunAutomated();
 
+    /// FALSE when there is no printer. The blocks of memory stay the program's.
+    BOOL GetPrinterDeviceDefaults(PRINTDLG* pPrintDlg);
+    /// Gives the context of the selected printer; FALSE when there is none.
+    BOOL CreatePrinterDC(CDC& dc);
+    /// Takes over the blocks of memory that name a printer; both NULL stand for the default one.
+    void SelectPrinter(HANDLE hDevNames, HANDLE hDevMode, BOOL bFreeOld = TRUE);
+    /// Shows the dialog for the selected printer, and selects the one that it chooses.
+    INT_PTR DoPrintDialog(CPrintDialog* pPD);
+
     void HideApplication();
     void EnableHtmlHelp();
     AFX_HELP_TYPE GetHelpMode();
@@ -134,6 +146,9 @@ protected:
     BOOL Enable3dControls();
     BOOL Enable3dControlsStatic();
 
+    /// For ID_FILE_PRINT_SETUP in the program's map: lets the user select a printer.
+    afx_msg void OnFilePrintSetup();
+
     DWORD m_dwRestartManagerSupportFlags;
     int m_nAutosaveInterval; ///< Milliseconds.
 
@@ -146,6 +161,8 @@ private:
     void GiveHelp(DWORD_PTR data, UINT winHelpCommand, UINT htmlHelpCommand);
     bool TakeSwitch(LPCTSTR name);
 
+    HGLOBAL printerNames_; ///< The selected printer; NULL: the default one is to be asked for.
+    HGLOBAL printerMode_;
     HCURSOR cursorBeforeWait_;
     int waitCursors_;
 };

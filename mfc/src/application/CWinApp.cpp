@@ -45,8 +45,8 @@ CWinApp::CWinApp(LPCTSTR lpszAppName)
     : m_hInstance(AfxGetInstanceHandle()), m_lpCmdLine(NULL), m_nCmdShow(SW_SHOWNORMAL),
       m_pszAppName(NULL), m_pszRegistryKey(NULL), m_pszExeName(NULL), m_pszHelpFilePath(NULL),
       m_pszProfileName(NULL), m_pszAppID(NULL), m_bHelpMode(FALSE), m_eHelpType(afxWinHelp),
-      m_dwRestartManagerSupportFlags(0), m_nAutosaveInterval(5 * 60 * 1000),
-      cursorBeforeWait_(NULL), waitCursors_(0)
+      m_dwRestartManagerSupportFlags(0), m_nAutosaveInterval(5 * 60 * 1000), printerNames_(NULL),
+      printerMode_(NULL), cursorBeforeWait_(NULL), waitCursors_(0)
 {
     Assign(m_pszAppName, lpszAppName);
     m_bAutoDelete = FALSE;
@@ -66,6 +66,7 @@ CWinApp::~CWinApp()
     for (LPCTSTR* text : {&m_pszAppName, &m_pszRegistryKey, &m_pszExeName, &m_pszHelpFilePath,
                           &m_pszProfileName, &m_pszAppID})
         Assign(*text, NULL);
+    SelectPrinter(NULL, NULL);
 }
 
 void CWinApp::Dump(CDumpContext& dc) const

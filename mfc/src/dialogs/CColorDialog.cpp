@@ -21,10 +21,9 @@ CColorDialog::CColorDialog(COLORREF clrInit, DWORD dwFlags, CWnd* pParentWnd)
 
 INT_PTR CColorDialog::DoModal()
 {
-    return ShowSystemDialog([](CCommonDialog* dialog, HWND owner) {
-        CHOOSECOLOR& choice = static_cast<CColorDialog*>(dialog)->m_cc;
-        choice.hwndOwner = owner;
-        return ::ChooseColor(&choice);
+    return ShowSystemDialog([this](HWND owner) {
+        m_cc.hwndOwner = owner;
+        return ::ChooseColor(&m_cc);
     });
 }
 

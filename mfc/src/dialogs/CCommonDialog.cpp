@@ -10,20 +10,16 @@
 
 #include <utility>
 
-namespace {
-
-/// Makes an object the one whose window is still to come.
-class ScopedAwaiting
+afxint::CommonDialogHook::Awaiting::Awaiting(CCommonDialog* dialog)
 {
-public:
-    explicit ScopedAwaiting(CCommonDialog* dialog) { afxint::CurrentThread().awaited = dialog; }
-    // A dialog that failed, or whose hook was taken out, left it there.
-    ~ScopedAwaiting() { afxint::CurrentThread().awaited = NULL; }
-    ScopedAwaiting(const ScopedAwaiting&) = delete;
-    ScopedAwaiting& operator=(const ScopedAwaiting&) = delete;
-};
+    CurrentThread().awaited = dialog;
+}
 
-} // namespace
+afxint::CommonDialogHook::Awaiting::~Awaiting()
+{
+    CurrentThread().awaited =
+        NULL; // A dialog that failed, or whose hook was taken out, left it there.
+}
 
 UINT_PTR CALLBACK afxint::CommonDialogHook::Procedure(HWND window, UINT message, WPARAM wParam,
                                                       LPARAM lParam)
@@ -76,10 +72,10 @@ void CCommonDialog::OnCancel()
     Default();
 }
 
-INT_PTR CCommonDialog::ShowSystemDialog(BOOL (*show)(CCommonDialog* dialog, HWND owner))
+INT_PTR CCommonDialog::ShowSystemDialog(const std::function<BOOL(HWND owner)>& show)
 {
     afxint::DisabledWindow top;
     const HWND owner = GetSafeOwner(parent_, top.Receive())->GetSafeHwnd();
-    const ScopedAwaiting awaiting(this);
-    return show(this, owner) ? IDOK : IDCANCEL;
+    const afxint::CommonDialogHook::Awaiting awaiting(this);
+    return show(owner) ? IDOK : IDCANCEL;
 }

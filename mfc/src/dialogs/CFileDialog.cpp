@@ -8,7 +8,7 @@
 IMPLEMENT_DYNAMIC(CFileDialog, CCommonDialog)
 
 CFileDialog::CFileDialog(BOOL bOpenFileDialog, LPCTSTR lpszDefExt, LPCTSTR lpszFileName,
-                         DWORD dwFlags, LPCTSTR lpszFilter, CWnd* pParentWnd, DWORD dwSize)
+                         DWORD dwFlags, LPCTSTR lpszFilter, CWnd* pParentWnd, DWORD dwSize, BOOL)
     : CCommonDialog(pParentWnd), m_ofn{}, opens_(bOpenFileDialog), filter_(lpszFilter),
       defaultExtension_(lpszDefExt), fileName_{}, fileTitle_{}
 {
@@ -39,10 +39,9 @@ INT_PTR CFileDialog::DoModal()
 {
     if (m_ofn.Flags & OFN_ENABLETEMPLATE)
         m_ofn.hInstance = AfxFindResourceHandle(m_ofn.lpTemplateName, RT_DIALOG);
-    return ShowSystemDialog([](CCommonDialog* dialog, HWND owner) {
-        CFileDialog* self = static_cast<CFileDialog*>(dialog);
-        self->m_ofn.hwndOwner = owner;
-        return self->opens_ ? ::GetOpenFileName(&self->m_ofn) : ::GetSaveFileName(&self->m_ofn);
+    return ShowSystemDialog([this](HWND owner) {
+        m_ofn.hwndOwner = owner;
+        return opens_ ? ::GetOpenFileName(&m_ofn) : ::GetSaveFileName(&m_ofn);
     });
 }
 

@@ -73,10 +73,9 @@ CFontDialog::CFontDialog(const CHARFORMAT& charformat, DWORD dwFlags, CDC* pdcPr
 
 INT_PTR CFontDialog::DoModal()
 {
-    return ShowSystemDialog([](CCommonDialog* dialog, HWND owner) {
-        CHOOSEFONT& choice = static_cast<CFontDialog*>(dialog)->m_cf;
-        choice.hwndOwner = owner;
-        return ::ChooseFont(&choice);
+    return ShowSystemDialog([this](HWND owner) {
+        m_cf.hwndOwner = owner;
+        return ::ChooseFont(&m_cf);
     });
 }
 

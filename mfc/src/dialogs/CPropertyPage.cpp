@@ -31,29 +31,57 @@ IMPLEMENT_DYNAMIC(CPropertyPage, CDialog)
 
 CPropertyPage::CPropertyPage() : m_psp{}
 {
-    Construct(static_cast<LPCTSTR>(NULL), 0, sizeof(m_psp));
+    Initialize(NULL, 0, sizeof(m_psp));
 }
 
 CPropertyPage::CPropertyPage(UINT nIDTemplate, UINT nIDCaption, DWORD dwSize) : m_psp{}
 {
-    Construct(MAKEINTRESOURCE(nIDTemplate), nIDCaption, dwSize);
+    Initialize(MAKEINTRESOURCE(nIDTemplate), nIDCaption, dwSize);
 }
 
 CPropertyPage::CPropertyPage(LPCTSTR lpszTemplateName, UINT nIDCaption, DWORD dwSize) : m_psp{}
 {
-    Construct(lpszTemplateName, nIDCaption, dwSize);
+    Initialize(lpszTemplateName, nIDCaption, dwSize);
+}
+
+CPropertyPage::CPropertyPage(UINT nIDTemplate, UINT nIDCaption, UINT nIDHeaderTitle,
+                             UINT nIDHeaderSubTitle, DWORD dwSize)
+    : CPropertyPage(nIDTemplate, nIDCaption, dwSize)
+{
+    SetHeader(nIDHeaderTitle, nIDHeaderSubTitle);
+}
+
+CPropertyPage::CPropertyPage(LPCTSTR lpszTemplateName, UINT nIDCaption, UINT nIDHeaderTitle,
+                             UINT nIDHeaderSubTitle, DWORD dwSize)
+    : CPropertyPage(lpszTemplateName, nIDCaption, dwSize)
+{
+    SetHeader(nIDHeaderTitle, nIDHeaderSubTitle);
 }
 
 CPropertyPage::~CPropertyPage() = default;
 
 void CPropertyPage::Construct(UINT nIDTemplate, UINT nIDCaption)
 {
-    Construct(MAKEINTRESOURCE(nIDTemplate), nIDCaption, sizeof(m_psp));
+    Initialize(MAKEINTRESOURCE(nIDTemplate), nIDCaption, sizeof(m_psp));
 }
 
 void CPropertyPage::Construct(LPCTSTR lpszTemplateName, UINT nIDCaption)
 {
-    Construct(lpszTemplateName, nIDCaption, sizeof(m_psp));
+    Initialize(lpszTemplateName, nIDCaption, sizeof(m_psp));
+}
+
+void CPropertyPage::Construct(UINT nIDTemplate, UINT nIDCaption, UINT nIDHeaderTitle,
+                              UINT nIDHeaderSubTitle)
+{
+    Construct(nIDTemplate, nIDCaption);
+    SetHeader(nIDHeaderTitle, nIDHeaderSubTitle);
+}
+
+void CPropertyPage::Construct(LPCTSTR lpszTemplateName, UINT nIDCaption, UINT nIDHeaderTitle,
+                              UINT nIDHeaderSubTitle)
+{
+    Construct(lpszTemplateName, nIDCaption);
+    SetHeader(nIDHeaderTitle, nIDHeaderSubTitle);
 }
 
 const PROPSHEETPAGE& CPropertyPage::GetPSP() const
@@ -168,7 +196,7 @@ LRESULT CPropertyPage::WindowProc(UINT message, WPARAM wParam, LPARAM lParam)
     return CDialog::WindowProc(message, wParam, lParam);
 }
 
-void CPropertyPage::Construct(LPCTSTR templateName, UINT captionId, DWORD size)
+void CPropertyPage::Initialize(LPCTSTR templateName, UINT captionId, DWORD size)
 {
     templateName_ = templateName;
     m_psp = {};
@@ -177,6 +205,18 @@ void CPropertyPage::Construct(LPCTSTR templateName, UINT captionId, DWORD size)
     if (captionId != 0 && caption_.LoadString(captionId)) {
         m_psp.dwFlags |= PSP_USETITLE;
         m_psp.pszTitle = caption_;
+    }
+}
+
+void CPropertyPage::SetHeader(UINT titleId, UINT subTitleId)
+{
+    if (titleId != 0 && headerTitle_.LoadString(titleId)) {
+        m_psp.dwFlags |= PSP_USEHEADERTITLE;
+        m_psp.pszHeaderTitle = headerTitle_;
+    }
+    if (subTitleId != 0 && headerSubTitle_.LoadString(subTitleId)) {
+        m_psp.dwFlags |= PSP_USEHEADERSUBTITLE;
+        m_psp.pszHeaderSubTitle = headerSubTitle_;
     }
 }
 

@@ -71,6 +71,18 @@ CPropertySheet::CPropertySheet(LPCTSTR pszCaption, CWnd* pParentWnd, UINT iSelec
     Construct(pszCaption, pParentWnd, iSelectPage);
 }
 
+CPropertySheet::CPropertySheet(UINT nIDCaption, CWnd* pParentWnd, UINT iSelectPage,
+                               HBITMAP hbmWatermark, HPALETTE hpalWatermark, HBITMAP hbmHeader)
+{
+    Construct(nIDCaption, pParentWnd, iSelectPage, hbmWatermark, hpalWatermark, hbmHeader);
+}
+
+CPropertySheet::CPropertySheet(LPCTSTR pszCaption, CWnd* pParentWnd, UINT iSelectPage,
+                               HBITMAP hbmWatermark, HPALETTE hpalWatermark, HBITMAP hbmHeader)
+{
+    Construct(pszCaption, pParentWnd, iSelectPage, hbmWatermark, hpalWatermark, hbmHeader);
+}
+
 void CPropertySheet::Construct(UINT nIDCaption, CWnd* pParentWnd, UINT iSelectPage)
 {
     CString caption;
@@ -86,6 +98,32 @@ void CPropertySheet::Construct(LPCTSTR pszCaption, CWnd* pParentWnd, UINT iSelec
     m_psh.dwSize = sizeof(m_psh);
     m_psh.pszCaption = caption_;
     m_psh.nStartPage = iSelectPage;
+}
+
+void CPropertySheet::Construct(UINT nIDCaption, CWnd* pParentWnd, UINT iSelectPage,
+                               HBITMAP hbmWatermark, HPALETTE hpalWatermark, HBITMAP hbmHeader)
+{
+    CString caption;
+    VERIFY(caption.LoadString(nIDCaption));
+    Construct(caption, pParentWnd, iSelectPage, hbmWatermark, hpalWatermark, hbmHeader);
+}
+
+void CPropertySheet::Construct(LPCTSTR pszCaption, CWnd* pParentWnd, UINT iSelectPage,
+                               HBITMAP hbmWatermark, HPALETTE hpalWatermark, HBITMAP hbmHeader)
+{
+    Construct(pszCaption, pParentWnd, iSelectPage);
+    if (hbmWatermark != NULL) {
+        m_psh.hbmWatermark = hbmWatermark;
+        m_psh.dwFlags |= PSH_USEHBMWATERMARK | PSH_WATERMARK;
+    }
+    if (hpalWatermark != NULL) {
+        m_psh.hplWatermark = hpalWatermark;
+        m_psh.dwFlags |= PSH_USEHPLWATERMARK;
+    }
+    if (hbmHeader != NULL) {
+        m_psh.hbmHeader = hbmHeader;
+        m_psh.dwFlags |= PSH_USEHBMHEADER | PSH_HEADER;
+    }
 }
 
 INT_PTR CPropertySheet::DoModal()

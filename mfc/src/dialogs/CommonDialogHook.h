@@ -7,6 +7,16 @@ namespace afxint {
 
 struct CommonDialogHook
 {
+    /// Makes an object the one whose window is still to come.
+    class Awaiting
+    {
+    public:
+        explicit Awaiting(CCommonDialog* dialog);
+        ~Awaiting();
+        Awaiting(const Awaiting&) = delete;
+        Awaiting& operator=(const Awaiting&) = delete;
+    };
+
     /// The hook of all common dialogs: puts the object that is being shown around the window.
     static UINT_PTR CALLBACK Procedure(HWND window, UINT message, WPARAM wParam, LPARAM lParam);
 

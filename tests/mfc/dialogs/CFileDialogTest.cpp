@@ -138,3 +138,28 @@ TEST_CASE("several chosen files are met one after the other")
     place = dialog.GetStartPosition();
     CHECK(dialog.GetNextPathName(place) == "C:\\one.txt");
 }
+
+TEST_CASE("what only the newer style has is answered with a refusal")
+{
+    CFileDialog dialog(TRUE, NULL, NULL, OFN_HIDEREADONLY, NULL, NULL, 0, TRUE);
+    CHECK(dialog.GetIFileOpenDialog() == NULL);
+    CHECK(dialog.GetIFileSaveDialog() == NULL);
+    CHECK(dialog.GetIFileDialogCustomize() == NULL);
+    CHECK(dialog.GetResult() == NULL);
+    CHECK(dialog.GetResults() == NULL);
+    CHECK_FALSE(dialog.IsPickFoldersMode());
+    CHECK(FAILED(dialog.AddCheckButton(1, _T("Check"), TRUE)));
+    BOOL checked = FALSE;
+    CHECK(FAILED(dialog.GetCheckButtonState(1, checked)));
+    CHECK(FAILED(dialog.AddComboBox(2)));
+    CHECK(FAILED(dialog.AddControlItem(2, 1, _T("Item"))));
+    DWORD item = 7;
+    CHECK(FAILED(dialog.GetSelectedControlItem(2, item)));
+    CHECK(item == 7);
+    CString text(_T("kept"));
+    CHECK(FAILED(dialog.GetEditBoxText(3, text)));
+    CHECK(text == _T("kept"));
+    CHECK(FAILED(dialog.StartVisualGroup(4, _T("Group"))));
+    CHECK(FAILED(dialog.EndVisualGroup()));
+    CHECK(FAILED(dialog.MakeProminent(4)));
+}

@@ -207,3 +207,19 @@ TEST_CASE("a page of a wizard stays or goes back, as it answers")
         CHECK(first.backs == 0);
     });
 }
+
+TEST_CASE("a wizard's inner page has a title and a subtitle of its own")
+{
+    CPropertyPage page(IDD_PAGE, 0, IDS_PAGE, IDS_PAGE);
+    const DWORD both = PSP_USEHEADERTITLE | PSP_USEHEADERSUBTITLE;
+    CHECK((page.m_psp.dwFlags & both) == both);
+    CHECK(CString(page.m_psp.pszHeaderTitle) == _T("From the strings"));
+    CHECK(CString(page.m_psp.pszHeaderSubTitle) == _T("From the strings"));
+    page.Construct(MAKEINTRESOURCE(IDD_PAGE), 0, IDS_PAGE);
+    CHECK((page.m_psp.dwFlags & both) == PSP_USEHEADERTITLE);
+    page.Construct(IDD_PAGE);
+    CHECK((page.m_psp.dwFlags & both) == 0);
+    constexpr UINT missing = 9;
+    const CPropertyPage without(IDD_PAGE, 0, missing, missing);
+    CHECK((without.m_psp.dwFlags & both) == 0);
+}

@@ -517,3 +517,24 @@ TEST_CASE("a modeless sheet may be a child of another window")
     CHECK(::GetParent(two.sheet.m_hWnd) == two.host.m_hWnd);
     two.sheet.DestroyWindow();
 }
+
+TEST_CASE("a sheet takes the pictures of a wizard")
+{
+    const auto watermark = reinterpret_cast<HBITMAP>(1);
+    const auto palette = reinterpret_cast<HPALETTE>(2);
+    const auto header = reinterpret_cast<HBITMAP>(3);
+    const CPropertySheet plain(_T("Plain"), NULL, 1, NULL);
+    CHECK(plain.m_psh.nStartPage == 1);
+    CHECK((plain.m_psh.dwFlags & (PSH_WATERMARK | PSH_HEADER)) == 0);
+    CPropertySheet sheet(_T("Pictures"), NULL, 2, watermark, palette, header);
+    CHECK(sheet.m_psh.nStartPage == 2);
+    CHECK(sheet.m_psh.hbmWatermark == watermark);
+    CHECK(sheet.m_psh.hplWatermark == palette);
+    CHECK(sheet.m_psh.hbmHeader == header);
+    const DWORD wanted =
+        PSH_WATERMARK | PSH_USEHBMWATERMARK | PSH_USEHPLWATERMARK | PSH_HEADER | PSH_USEHBMHEADER;
+    CHECK((sheet.m_psh.dwFlags & wanted) == wanted);
+    sheet.Construct(_T("Plain again"));
+    CHECK(sheet.m_psh.hbmWatermark == NULL);
+    CHECK((sheet.m_psh.dwFlags & wanted) == 0);
+}
