@@ -11,3 +11,15 @@
 #include <classes/CTreeCtrl.h>
 #include <classes/CTabCtrl.h>
 #include <classes/CAnimateCtrl.h>
+#include <classes/CToolBarCtrl.h>
+#include <classes/CStatusBarCtrl.h>
+#include <classes/CReBarCtrl.h>
+#include <classes/CRichEditCtrl.h>
+#include <classes/CIPAddressCtrl.h>
+#include <classes/CHotKeyCtrl.h>
+#include <classes/CComboBoxEx.h>
+#include <classes/CDragListBox.h>
+#include <classes/CSplitButton.h>
+#include <classes/CLinkCtrl.h>
+#include <classes/CPagerCtrl.h>
+#include <classes/CNetAddressCtrl.h>

@@ -26,6 +26,7 @@
 #include <classes/CButton.h>
 #include <classes/CEdit.h>
 #include <classes/CListBox.h>
+#include <classes/CCheckListBox.h>
 #include <classes/CComboBox.h>
 #include <classes/CScrollBar.h>
 #include <classes/CWinThread.h>

@@ -1,6 +1,7 @@
 // A list that drops down from a field.
 #pragma once
 
+#include <classes/CString.h>
 #include <classes/CWnd.h>
 
 /// The system's "ComboBox" control. Indices count from zero; CB_ERR is a failure, CB_ERRSPACE a
@@ -70,9 +71,13 @@ public:
     virtual int CompareItem(LPCOMPAREITEMSTRUCT lpCompareItemStruct);
     virtual void DeleteItem(LPDELETEITEMSTRUCT lpDeleteItemStruct);
 
-    // These two need the common controls of version 6 and fail without.
+    // These need the common controls of version 6, the last three of a newer system, and fail
+    // without.
     BOOL SetMinVisibleItems(int iMinVisible);
     int GetMinVisible() const;
+    BOOL SetCueBanner(LPCTSTR lpszText);
+    CString GetCueBanner() const;
+    BOOL GetCueBanner(LPTSTR lpszText, int cchText) const;
 
 protected:
     BOOL OnChildNotify(UINT message, WPARAM wParam, LPARAM lParam, LRESULT* pLResult) override;

@@ -1,6 +1,7 @@
 // A field to edit text in.
 #pragma once
 
+#include <classes/CString.h>
 #include <classes/CWnd.h>
 
 /// The system's "Edit" control. Positions and lengths count characters; -1 for a line or a
@@ -70,7 +71,11 @@ public:
     // These need the common controls of version 6 and fail without.
     BOOL SetCueBanner(LPCWSTR lpszText, BOOL fDrawWhenFocused = FALSE);
     BOOL GetCueBanner(LPWSTR lpszText, int cchText) const;
+    CString GetCueBanner() const;
     BOOL ShowBalloonTip(PEDITBALLOONTIP pEditBalloonTip);
     BOOL ShowBalloonTip(LPCWSTR lpszTitle, LPCWSTR lpszText, INT ttiIcon = TTI_NONE);
     BOOL HideBalloonTip();
+    /// What is marked without being selected; a newer system has it. FALSE for nothing.
+    BOOL GetHighlight(int* pichStart, int* pichEnd) const;
+    void SetHighlight(int ichStart, int ichEnd);
 };

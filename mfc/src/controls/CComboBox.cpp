@@ -1,8 +1,22 @@
 #include <classes/CComboBox.h>
 
 #include "controls/ControlMessages.h"
+#include "controls/LaterMessages.h"
 
 using afxint::Ask;
+
+namespace {
+
+bool ReadCueBanner(HWND control, CString& text)
+{
+    WCHAR wide[1024] = {};
+    if (!Ask(control, CB_GETCUEBANNER, wide, _countof(wide)))
+        return false;
+    text = wide;
+    return true;
+}
+
+} // namespace
 
 IMPLEMENT_DYNAMIC(CComboBox, CWnd)
 
@@ -255,6 +269,28 @@ BOOL CComboBox::SetMinVisibleItems(int iMinVisible)
 int CComboBox::GetMinVisible() const
 {
     return Ask(m_hWnd, CB_GETMINVISIBLE);
+}
+
+BOOL CComboBox::SetCueBanner(LPCTSTR lpszText)
+{
+    const CStringW text(lpszText); // Wide in every program.
+    return Ask(m_hWnd, CB_SETCUEBANNER, 0, static_cast<LPCWSTR>(text));
+}
+
+CString CComboBox::GetCueBanner() const
+{
+    CString text;
+    ReadCueBanner(m_hWnd, text);
+    return text;
+}
+
+BOOL CComboBox::GetCueBanner(LPTSTR lpszText, int cchText) const
+{
+    CString text;
+    if (!ReadCueBanner(m_hWnd, text))
+        return FALSE;
+    lstrcpyn(lpszText, text, cchText);
+    return TRUE;
 }
 
 BOOL CComboBox::OnChildNotify(UINT message, WPARAM wParam, LPARAM lParam, LRESULT* pLResult)

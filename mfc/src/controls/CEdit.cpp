@@ -1,6 +1,7 @@
 #include <classes/CEdit.h>
 
 #include "controls/ControlMessages.h"
+#include "controls/LaterMessages.h"
 
 using afxint::Ask;
 using afxint::AskFor;
@@ -144,8 +145,7 @@ int CEdit::GetLine(int nIndex, LPTSTR lpszBuffer) const
 
 int CEdit::GetLine(int nIndex, LPTSTR lpszBuffer, int nMaxLength) const
 {
-    const WORD room = static_cast<WORD>(nMaxLength);
-    memcpy(lpszBuffer, &room, sizeof(room));
+    afxint::PutRoom(lpszBuffer, nMaxLength);
     return GetLine(nIndex, lpszBuffer);
 }
 
@@ -244,6 +244,13 @@ BOOL CEdit::GetCueBanner(LPWSTR lpszText, int cchText) const
     return Ask(m_hWnd, EM_GETCUEBANNER, lpszText, cchText);
 }
 
+CString CEdit::GetCueBanner() const
+{
+    WCHAR text[1024] = {};
+    GetCueBanner(text, _countof(text));
+    return CString(text);
+}
+
 BOOL CEdit::ShowBalloonTip(PEDITBALLOONTIP pEditBalloonTip)
 {
     return Ask(m_hWnd, EM_SHOWBALLOONTIP, 0, pEditBalloonTip);
@@ -258,4 +265,17 @@ BOOL CEdit::ShowBalloonTip(LPCWSTR lpszTitle, LPCWSTR lpszText, INT ttiIcon)
 BOOL CEdit::HideBalloonTip()
 {
     return Ask(m_hWnd, EM_HIDEBALLOONTIP);
+}
+
+BOOL CEdit::GetHighlight(int* pichStart, int* pichEnd) const
+{
+    const DWORD words = Ask(m_hWnd, EM_GETHILITE);
+    *pichStart = LOWORD(words);
+    *pichEnd = HIWORD(words);
+    return words != 0;
+}
+
+void CEdit::SetHighlight(int ichStart, int ichEnd)
+{
+    Ask(m_hWnd, EM_SETHILITE, ichStart, ichEnd);
 }

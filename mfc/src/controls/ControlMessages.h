@@ -68,6 +68,13 @@ inline SIZE SizeOfWords(LRESULT words)
     return {static_cast<short>(LOWORD(words)), static_cast<short>(HIWORD(words))};
 }
 
+/// Puts the size of a buffer, in characters, where EM_GETLINE looks for it.
+inline void PutRoom(LPTSTR buffer, int characters)
+{
+    const WORD room = static_cast<WORD>(characters);
+    memcpy(buffer, &room, sizeof(room));
+}
+
 /// A kind of common control: the name of its window class, and what registers that (ICC_ values).
 struct CommonControl
 {

@@ -54,3 +54,32 @@
 #define CB_SETCUEBANNER (CBM_FIRST + 3)
 #define CB_GETCUEBANNER (CBM_FIRST + 4)
 #endif
+
+#ifndef TB_SETPRESSEDIMAGELIST
+#define TB_SETPRESSEDIMAGELIST (WM_USER + 104)
+#define TB_GETPRESSEDIMAGELIST (WM_USER + 105)
+#endif
+
+#ifndef RB_SETBANDWIDTH
+#define RB_SETBANDWIDTH (WM_USER + 44)
+#endif
+
+#ifndef NCM_GETADDRESS
+#define NCM_GETADDRESS (WM_USER + 1)
+#define NCM_SETALLOWTYPE (WM_USER + 2)
+#define NCM_GETALLOWTYPE (WM_USER + 3)
+#define NCM_DISPLAYERRORTIP (WM_USER + 4)
+#endif
+
+namespace afxint {
+
+/// BUTTON_SPLITINFO.
+struct SplitInfo
+{
+    UINT mask;
+    HIMAGELIST glyph;
+    UINT style;
+    SIZE size;
+};
+
+} // namespace afxint

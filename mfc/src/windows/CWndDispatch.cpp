@@ -4,6 +4,7 @@
 #include <classes/Application.h>
 #include <classes/CCmdUI.h>
 
+#include "windows/DragListMessage.h"
 #include "windows/MessageMap.h"
 #include "threads/SystemCall.h"
 #include "threads/ThreadState.h"
@@ -176,8 +177,10 @@ BOOL CWnd::OnWndMsg(UINT message, WPARAM wParam, LPARAM lParam, LRESULT* pResult
     }
 
     const AFX_MSGMAP_ENTRY* entry = afxint::FindMessageEntry(GetMessageMap(), message);
-    if (entry == NULL)
-        return FALSE;
+    if (entry == NULL) {
+        return message == afxint::DragListMessage() &&
+               ReflectLastMsg(reinterpret_cast<DRAGLISTINFO*>(lParam)->hWnd, pResult);
+    }
     const afxint::Delivery delivery{m_hWnd, message, wParam, lParam, 0, NULL};
     *pResult = afxint::CallHandler(*entry, this, delivery);
     return TRUE;

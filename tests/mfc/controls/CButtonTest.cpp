@@ -8,6 +8,9 @@
 #include "testing/Pump.h"
 
 #include "tests/mfc/ControlHost.h"
+#include "tests/mfc/controls/SentMessage.h"
+
+#include <string>
 
 using namespace umbra::testing;
 
@@ -65,6 +68,66 @@ protected:
 BEGIN_MESSAGE_MAP(CCountedButton, CButton)
     ON_CONTROL_REFLECT(BN_CLICKED, &CCountedButton::OnClicked)
 END_MESSAGE_MAP()
+
+// Messages and a structure that the headers leave out for older systems.
+constexpr UINT setDropDown = BCM_FIRST + 6, setSplit = BCM_FIRST + 7, getSplit = BCM_FIRST + 8,
+               setNote = BCM_FIRST + 9, getNote = BCM_FIRST + 10, noteLength = BCM_FIRST + 11,
+               setShield = BCM_FIRST + 12;
+struct SplitInfo
+{
+    UINT mask;
+    HIMAGELIST glyph;
+    UINT style;
+    SIZE size;
+};
+
+/// Answers as the button of a newer system, which not every system has.
+class CNewButton : public CButton
+{
+public:
+    SplitInfo split = {};
+    std::wstring note;
+    bool hasNote = true;
+
+protected:
+    LRESULT WindowProc(UINT message, WPARAM wParam, LPARAM lParam) override
+    {
+        switch (message) {
+        case setSplit:
+            return Take(*(const SplitInfo*)lParam);
+        case getSplit:
+            return Give(*(SplitInfo*)lParam);
+        case setNote:
+            note = (LPCWSTR)lParam;
+            return TRUE;
+        case noteLength:
+            return note.size();
+        case getNote:
+            if (!hasNote || *(DWORD*)wParam <= note.size())
+                return FALSE;
+            lstrcpyW((LPWSTR)lParam, note.c_str());
+            return TRUE;
+        case setShield:
+            return hasNote ? 1 : ERROR_NOT_SUPPORTED;
+        default:
+            return CButton::WindowProc(message, wParam, lParam);
+        }
+    }
+
+private:
+    BOOL Take(const SplitInfo& from) { return Copy(from, split, from.mask); }
+    BOOL Give(SplitInfo& to) { return Copy(split, to, to.mask); }
+    static BOOL Copy(const SplitInfo& from, SplitInfo& to, UINT mask)
+    {
+        if ((mask & 3) != 0) // The glyph is a character or an image list.
+            to.glyph = from.glyph;
+        if ((mask & 4) != 0)
+            to.style = from.style;
+        if ((mask & 8) != 0)
+            to.size = from.size;
+        return TRUE;
+    }
+};
 
 } // namespace
 
@@ -207,4 +270,60 @@ TEST_CASE("a parent that handles WM_DRAWITEM decides whether the button draws it
     button.Invalidate();
     button.UpdateWindow();
     CHECK(button.draws == 1);
+}
+
+TEST_CASE("a split button has an arrow, a style and a size")
+{
+    ControlHost host;
+    CNewButton button;
+    REQUIRE(button.Create(_T("Split"), shownChild, place, &host, buttonId));
+    CHECK(button.SetSplitGlyph(_T('v')));
+    CHECK(button.GetSplitGlyph() == _T('v'));
+    CHECK(button.SetSplitStyle(2));
+    CHECK(button.GetSplitStyle() == 2);
+    SIZE size = {11, 12}, read = {};
+    CHECK(button.SetSplitSize(&size));
+    CHECK(button.GetSplitSize(&read));
+    CHECK(read.cx == 11);
+    CHECK(read.cy == 12);
+    CHECK(button.GetSplitGlyph() == _T('v')); // Each changes its own part alone.
+    CImageList images;
+    REQUIRE(images.Create(16, 16, ILC_COLOR, 1, 1));
+    CHECK(button.SetSplitImageList(&images));
+    CHECK(button.GetSplitImageList()->GetSafeHandle() == images.GetSafeHandle());
+    SplitInfo whole = {4 | 8, NULL, 0, {}};
+    CHECK(button.GetSplitInfo((tagBUTTON_SPLITINFO*)&whole));
+    CHECK(whole.style == 2);
+    CHECK(whole.size.cx == 11);
+    whole.style = 4;
+    CHECK(button.SetSplitInfo((tagBUTTON_SPLITINFO*)&whole));
+    CHECK(button.GetSplitStyle() == 4);
+    const MessageLog log(button);
+    button.SetDropDownState(TRUE);
+    CheckSent(log, setDropDown, TRUE, 0);
+}
+
+TEST_CASE("a command link has a note and a shield")
+{
+    ControlHost host;
+    CNewButton button;
+    REQUIRE(button.Create(_T("Link"), shownChild, place, &host, buttonId));
+    CHECK(button.SetNote(_T("What it does")));
+    CHECK(button.note == L"What it does");
+    CHECK(button.GetNoteLength() == 12);
+    CHECK(button.GetNote() == _T("What it does"));
+    TCHAR buffer[20] = {};
+    UINT room = _countof(buffer);
+    CHECK(button.GetNote(buffer, &room));
+    CHECK(room == 13);
+    CHECK(CString(buffer) == _T("What it does"));
+    room = 12;
+    CHECK_FALSE(button.GetNote(buffer, &room)); // Its terminator would not fit.
+    CHECK(room == 13);
+    CHECK(button.SetElevationRequired(TRUE));
+
+    button.hasNote = false; // An older system.
+    CHECK(button.GetNote() == _T(""));
+    CHECK_FALSE(button.GetNote(buffer, &room));
+    CHECK_FALSE(button.SetElevationRequired(TRUE));
 }

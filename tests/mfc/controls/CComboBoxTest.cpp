@@ -8,6 +8,8 @@
 
 #include "tests/mfc/ControlHost.h"
 
+#include <string>
+
 using namespace umbra::testing;
 
 namespace {
@@ -51,6 +53,28 @@ public:
         return first < second ? -1 : first > second ? 1 : 0;
     }
     void DeleteItem(LPDELETEITEMSTRUCT) override { ++deletions; }
+};
+
+/// Answers as the combo box of a newer system, which not every system has.
+class CNewCombo : public CComboBox
+{
+public:
+    std::wstring cue;
+    bool knows = true;
+
+protected:
+    LRESULT WindowProc(UINT message, WPARAM wParam, LPARAM lParam) override
+    {
+        if (message == CBM_FIRST + 3 && knows) {
+            cue = (LPCWSTR)lParam;
+            return TRUE;
+        }
+        if (message == CBM_FIRST + 4) {
+            lstrcpynW((LPWSTR)wParam, cue.c_str(), (int)lParam);
+            return knows;
+        }
+        return CComboBox::WindowProc(message, wParam, lParam);
+    }
 };
 
 } // namespace
@@ -206,4 +230,20 @@ TEST_CASE("an owner-drawn combo box asks its virtuals to measure, draw, sort and
     CHECK(box.draws > 0);
     box.DeleteString(0);
     CHECK(box.deletions == 1);
+}
+
+TEST_CASE("a combo box has a cue in its empty field")
+{
+    ControlHost host;
+    CNewCombo combo;
+    REQUIRE(combo.Create(shownChild | CBS_DROPDOWN, CRect(10, 10, 160, 140), &host, 40));
+    CHECK(combo.SetCueBanner(_T("Search")));
+    CHECK(combo.cue == L"Search");
+    CHECK(combo.GetCueBanner() == _T("Search"));
+    TCHAR text[5] = {};
+    CHECK(combo.GetCueBanner(text, _countof(text))); // Cut to the room.
+    CHECK(CString(text) == _T("Sear"));
+    combo.knows = false;
+    CHECK_FALSE(combo.GetCueBanner(text, _countof(text)));
+    CHECK(combo.GetCueBanner() == _T(""));
 }

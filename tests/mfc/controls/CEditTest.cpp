@@ -3,9 +3,11 @@
 #include <doctest/doctest.h>
 
 #include "testing/Input.h"
+#include "testing/MessageLog.h"
 #include "testing/Pump.h"
 
 #include "tests/mfc/ControlHost.h"
+#include "tests/mfc/controls/SentMessage.h"
 
 using namespace umbra::testing;
 
@@ -35,6 +37,24 @@ struct Lines : Field
     Lines() : Field(ES_MULTILINE | ES_AUTOVSCROLL | ES_AUTOHSCROLL)
     {
         edit.SetWindowText(_T("first\r\nsecond line\r\nthird"));
+    }
+};
+
+/// Answers as the field of a newer system, which not every system has.
+class CNewEdit : public CEdit
+{
+protected:
+    LRESULT WindowProc(UINT message, WPARAM wParam, LPARAM lParam) override
+    {
+        switch (message) {
+        case EM_GETCUEBANNER:
+            lstrcpynW((LPWSTR)wParam, L"Search", (int)lParam);
+            return TRUE;
+        case ECM_FIRST + 6:
+            return MAKELONG(2, 5);
+        default:
+            return CEdit::WindowProc(message, wParam, lParam);
+        }
     }
 };
 
@@ -221,4 +241,23 @@ TEST_CASE("a field of several lines shows its memory")
     Lines field;
     CHECK(field.edit.GetHandle() != NULL);
     CHECK(field.edit.FmtLines(TRUE));
+}
+
+TEST_CASE("an edit control is asked for its cue and its mark")
+{
+    ControlHost host;
+    CNewEdit edit;
+    REQUIRE(edit.Create(shownChild, CRect(10, 10, 110, 30), &host, 50));
+    CHECK(edit.GetCueBanner() == _T("Search"));
+    int first = -1, last = -1;
+    CHECK(edit.GetHighlight(&first, &last));
+    CHECK(first == 2);
+    CHECK(last == 5);
+    const MessageLog log(edit);
+    edit.SetHighlight(1, 4);
+    CheckSent(log, ECM_FIRST + 5, 1, 4);
+    CEdit plain;
+    REQUIRE(plain.Create(shownChild, CRect(10, 40, 110, 60), &host, 51));
+    CHECK_FALSE(plain.GetHighlight(&first, &last));
+    CHECK(first == 0);
 }
