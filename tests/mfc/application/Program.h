@@ -115,11 +115,11 @@ public:
     static void Press(BYTE key, BYTE modifier = 0)
     {
         if (modifier != 0)
-            ::keybd_event(modifier, 0, 0, 0);
-        ::keybd_event(key, 0, 0, 0);
-        ::keybd_event(key, 0, KEYEVENTF_KEYUP, 0);
+            MoveKey(modifier, 0);
+        MoveKey(key, 0);
+        MoveKey(key, KEYEVENTF_KEYUP);
         if (modifier != 0)
-            ::keybd_event(modifier, 0, KEYEVENTF_KEYUP, 0);
+            MoveKey(modifier, KEYEVENTF_KEYUP);
     }
     /// Digits, small letters, points and spaces.
     static void Type(const char* text)
@@ -131,7 +131,8 @@ public:
     bool HasFocus(HWND control) const
     {
         return WaitFor([&] {
-            GUITHREADINFO info{sizeof(info)};
+            GUITHREADINFO info{};
+            info.cbSize = sizeof(info);
             ::GetGUIThreadInfo(::GetWindowThreadProcessId(window, nullptr), &info);
             return info.hwndFocus == control;
         });
@@ -146,5 +147,10 @@ public:
     HWND window = nullptr;
 
 private:
+    static void MoveKey(BYTE key, DWORD flags)
+    {
+        ::keybd_event(key, LOBYTE(::MapVirtualKey(key, MAPVK_VK_TO_VSC)), flags, 0);
+    }
+
     PROCESS_INFORMATION process_{};
 };

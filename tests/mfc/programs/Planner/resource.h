@@ -1,0 +1,13 @@
+#define IDD_PLANNER_DIALOG 102
+#define IDC_TITLE 1000
+#define IDC_TASKS 1001
+#define IDC_DONE 1002
+#define IDC_DUE 1003
+#define IDC_MONTH 1004
+#define IDC_SHOWN 1005
+#define IDC_NOTES 1006
+#define IDC_BOLD 1007
+#define IDC_FIND_TEXT 1008
+#define IDC_FIND 1009
+#define IDC_FOUND 1010
+#define IDC_SAVE 1011
