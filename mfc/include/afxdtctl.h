@@ -1,5 +1,5 @@
 // Date and time pickers and calendars.
 #pragma once
-#include <afxwin.h>
+#include <afxcmn.h>
 #include <classes/CMonthCalCtrl.h>
 #include <classes/CDateTimeCtrl.h>

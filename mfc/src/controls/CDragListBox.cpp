@@ -60,7 +60,7 @@ void CDragListBox::PreSubclassWindow()
 
 BOOL CDragListBox::OnChildNotify(UINT message, WPARAM wParam, LPARAM lParam, LRESULT* pLResult)
 {
-    if (message != afxint::DragListMessage())
+    if (!afxint::IsDragListMessage(message))
         return CListBox::OnChildNotify(message, wParam, lParam, pLResult);
     const auto& info = *reinterpret_cast<const DRAGLISTINFO*>(lParam);
     switch (info.uNotification) {

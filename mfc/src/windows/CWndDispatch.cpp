@@ -178,7 +178,7 @@ BOOL CWnd::OnWndMsg(UINT message, WPARAM wParam, LPARAM lParam, LRESULT* pResult
 
     const AFX_MSGMAP_ENTRY* entry = afxint::FindMessageEntry(GetMessageMap(), message);
     if (entry == NULL) {
-        return message == afxint::DragListMessage() &&
+        return afxint::IsDragListMessage(message) &&
                ReflectLastMsg(reinterpret_cast<DRAGLISTINFO*>(lParam)->hWnd, pResult);
     }
     const afxint::Delivery delivery{m_hWnd, message, wParam, lParam, 0, NULL};

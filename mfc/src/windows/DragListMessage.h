@@ -5,10 +5,14 @@
 
 namespace afxint {
 
-inline UINT DragListMessage()
+/// Asks for the message's number only when it can be one that a text stands for.
+inline bool IsDragListMessage(UINT message)
 {
-    static const UINT message = ::RegisterWindowMessage(DRAGLISTMSGSTRING);
-    return message;
+    constexpr UINT firstRegistered = 0xC000;
+    if (message < firstRegistered)
+        return false;
+    static const UINT dragList = ::RegisterWindowMessage(DRAGLISTMSGSTRING);
+    return message == dragList;
 }
 
 } // namespace afxint
