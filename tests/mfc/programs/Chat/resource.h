@@ -1,0 +1,9 @@
+#define IDP_SOCKETS_INIT_FAILED         103
+#define IDD_CHAT_DIALOG                 102
+#define IDC_PORT                        1000
+#define IDC_LISTEN                      1001
+#define IDC_CONNECT                     1002
+#define IDC_LINES                       1003
+#define IDC_LINE                        1004
+#define IDC_SEND                        1005
+#define IDC_DISCONNECT                  1006

@@ -1,0 +1,3 @@
+// pch.cpp: source file corresponding to the pre-compiled header
+
+#include "pch.h"

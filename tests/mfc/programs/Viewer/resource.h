@@ -1,0 +1,9 @@
+#define IDM_ABOUTBOX                    0x0010
+#define IDD_ABOUTBOX                    100
+#define IDS_ABOUTBOX                    101
+#define IDD_VIEWER_DIALOG               102
+#define IDR_MAINFRAME                   128
+#define IDC_OPEN                        1000
+#define IDC_SAVE                        1001
+#define IDC_INFO                        1002
+#define IDC_PICTURE                     1003
