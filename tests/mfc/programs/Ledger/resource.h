@@ -1,0 +1,11 @@
+#define IDD_LEDGER_DIALOG               102
+#define IDC_FILE                        1000
+#define IDC_OWNER                       1001
+#define IDC_TEXT                        1002
+#define IDC_AMOUNT                      1003
+#define IDC_CATEGORY                    1004
+#define IDC_ADD                         1005
+#define IDC_ENTRIES                     1006
+#define IDC_TOTAL                       1007
+#define IDC_SAVE                        1008
+#define IDC_OPEN                        1009
