@@ -52,7 +52,8 @@ public:
 
     template <class Function, class = std::enable_if_t<std::is_function_v<Function>>>
     ImportHook(HMODULE module, const char* dll, const char* name, Function* replacement)
-        : ImportHook(module, dll, name, reinterpret_cast<void*>(replacement))
+        : ImportHook(module, dll, name,
+                     reinterpret_cast<void*>(reinterpret_cast<ULONG_PTR>(replacement)))
     {
     }
     ImportHook(const ImportHook&) = delete;
@@ -65,7 +66,7 @@ public:
     template <class Function>
     Function* OriginalAs() const
     {
-        return reinterpret_cast<Function*>(m_original);
+        return reinterpret_cast<Function*>(reinterpret_cast<ULONG_PTR>(m_original));
     }
 
 private:

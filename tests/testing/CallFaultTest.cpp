@@ -21,7 +21,7 @@ DECLSPEC_NOINLINE int Metric(int index)
 /// The module whose calls are caught.
 HMODULE ThisModule()
 {
-    return ModuleOf(reinterpret_cast<const void*>(&ThisModule));
+    return ModuleOf(reinterpret_cast<const void*>(reinterpret_cast<ULONG_PTR>(&ThisModule)));
 }
 
 } // namespace

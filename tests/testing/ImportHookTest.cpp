@@ -33,7 +33,7 @@ DECLSPEC_NOINLINE int ScreenWidth()
 /// The module whose calls are caught.
 HMODULE ThisModule()
 {
-    return ModuleOf(reinterpret_cast<const void*>(&AnswerMetric));
+    return ModuleOf(reinterpret_cast<const void*>(reinterpret_cast<ULONG_PTR>(&AnswerMetric)));
 }
 
 } // namespace
@@ -61,7 +61,7 @@ TEST_CASE("a hook in one module leaves the others alone")
 {
     const ImportHook hook(ThisModule(), "user32.dll", "GetSystemMetrics", AnswerMetric);
     using Metric = int(WINAPI*)(int);
-    const auto direct = reinterpret_cast<Metric>(reinterpret_cast<void*>(
+    const auto direct = reinterpret_cast<Metric>(reinterpret_cast<ULONG_PTR>(
         ::GetProcAddress(::GetModuleHandleA("user32.dll"), "GetSystemMetrics")));
     CHECK(direct(SM_CXSCREEN) != 12345);
 }

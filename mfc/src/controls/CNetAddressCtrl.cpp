@@ -15,7 +15,7 @@ bool RegisterControl()
     using Function = BOOL(WINAPI*)();
     const HMODULE shell = ::GetModuleHandle(_T("shell32.dll"));
     const FARPROC found = ::GetProcAddress(shell, "InitNetworkAddressControl");
-    return found != NULL && reinterpret_cast<Function>(reinterpret_cast<void*>(found))();
+    return found != NULL && reinterpret_cast<Function>(reinterpret_cast<LONG_PTR>(found))();
 }
 
 } // namespace

@@ -75,7 +75,8 @@ LRESULT CALLBACK WindowMessages::Procedure(HWND window, UINT message, WPARAM wPa
     CWnd* object = thread.windows.FindPermanent(window);
     if (object == NULL) {
         // The object let go of the window without giving it its procedure back.
-        const auto former = reinterpret_cast<WNDPROC>(GetProp(window, formerProperty));
+        const auto former =
+            reinterpret_cast<WNDPROC>(reinterpret_cast<LONG_PTR>(GetProp(window, formerProperty)));
         if (message == WM_NCDESTROY)
             RemoveProp(window, formerProperty);
         return former == NULL ? ::DefWindowProc(window, message, wParam, lParam)
@@ -134,12 +135,14 @@ void WindowMessages::GiveBack(HWND window, WNDPROC former)
 void WindowMessages::KeepFormer(HWND window, WNDPROC former)
 {
     if (former != NULL)
-        SetProp(window, formerProperty, reinterpret_cast<HANDLE>(former));
+        SetProp(window, formerProperty,
+                reinterpret_cast<HANDLE>(reinterpret_cast<LONG_PTR>(former)));
 }
 
 WNDPROC WindowMessages::TakeKeptFormer(HWND window)
 {
-    return reinterpret_cast<WNDPROC>(RemoveProp(window, formerProperty));
+    return reinterpret_cast<WNDPROC>(
+        reinterpret_cast<LONG_PTR>(RemoveProp(window, formerProperty)));
 }
 
 void WindowMessages::Forget(CWnd* object)

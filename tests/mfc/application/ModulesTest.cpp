@@ -22,9 +22,8 @@ public:
     template <class Function>
     Function Find(LPCSTR name) const
     {
-        void* address =
-            reinterpret_cast<void*>(reinterpret_cast<INT_PTR>(::GetProcAddress(m_hModule, name)));
-        REQUIRE(address != nullptr);
+        const auto address = reinterpret_cast<INT_PTR>(::GetProcAddress(m_hModule, name));
+        REQUIRE(address != 0);
         return reinterpret_cast<Function>(address);
     }
 

@@ -28,7 +28,7 @@ void WithoutTheme(HWND control)
     const HMODULE themes = ::LoadLibrary(_T("uxtheme.dll"));
     REQUIRE(themes != NULL);
     typedef HRESULT(WINAPI * SetTheme)(HWND, LPCWSTR, LPCWSTR);
-    const auto setTheme = (SetTheme)(void*)::GetProcAddress(themes, "SetWindowTheme");
+    const auto setTheme = (SetTheme)(INT_PTR)::GetProcAddress(themes, "SetWindowTheme");
     REQUIRE(setTheme != NULL);
     setTheme(control, L" ", L" ");
     ::FreeLibrary(themes);
