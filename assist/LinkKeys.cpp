@@ -13,7 +13,7 @@ LRESULT CALLBACK ServeMessage(HWND window, UINT message, WPARAM wParam, LPARAM l
 
 const Subclassing keys = {_T("Umbra.LinkKeys"), ServeMessage};
 
-const int focusGap = 1; // Pixels between the text and the focus rectangle.
+const int focusGap = 1; // Pixels between the text and the focus rectangle, above and below.
 
 /// What the two kinds of labels say of themselves.
 struct Label
@@ -77,7 +77,9 @@ RECT FindText(HWND window, HDC dc)
     const int room = client.right - area.right;
     const UINT alignment = Describe(window).alignment;
     ::OffsetRect(&area, alignment == DT_CENTER ? room / 2 : alignment == DT_RIGHT ? room : 0, 0);
-    ::InflateRect(&area, focusGap, focusGap);
+    TEXTMETRIC metrics = {};
+    ::GetTextMetrics(dc, &metrics);
+    ::InflateRect(&area, metrics.tmAveCharWidth, focusGap); // Some text is wider than it measures.
     ::IntersectRect(&area, &area, &client);
     return area;
 }

@@ -51,7 +51,7 @@ int main(int count, char** arguments)
     HWND page = nullptr;
     if (!Wait([&] { return (page = FindWindowA("#32770", "Starter")) != nullptr; }))
         return Fail("its page does not show");
-    if (!HasText(page, IDOK, "Confirm") || !HasText(page, IDCANCEL, "Close"))
+    if (!HasText(page, IDOK, "&Confirm") || !HasText(page, IDCANCEL, "C&lose"))
         return Fail("its buttons are not captioned");
     if (!Wait([&] { return IsWindowVisible(page) != FALSE; }))
         return Fail("its page is hidden");

@@ -58,10 +58,6 @@ AFX_EXPORTED CObject* AFXAPI AfxDynamicDownCast(const CRuntimeClass* pClass,
                                                 const CObject* pObject);
 AFX_EXPORTED CObject* AFXAPI AfxStaticDownCast(const CRuntimeClass* pClass, const CObject* pObject);
 
-namespace afxint {
-
 /// What ASSERT_VALID does: a pointer that is none counts as a failed assertion, else the object
 /// looks at itself.
-AFX_EXPORTED void AFXAPI AssertValidObject(const CObject* object, LPCSTR file, int line);
-
-} // namespace afxint
+AFX_EXPORTED void AFXAPI AfxAssertValidObject(const CObject* pOb, LPCSTR lpszFileName, int nLine);

@@ -5,18 +5,70 @@
 #include <classes/CArchive.h>
 #include <classes/CDumpContext.h>
 
+#include <cstdint>
 #include <type_traits>
 
 namespace afxint {
 
 /// The number of elements of a collection in an archive.
-AFX_EXPORTED void AFXAPI WriteCount(CArchive& ar, INT_PTR count);
-AFX_EXPORTED INT_PTR AFXAPI ReadCount(CArchive& ar);
+inline void WriteCount(CArchive& ar, INT_PTR count)
+{
+    const ULONGLONG number = static_cast<ULONGLONG>(count);
+    if (number < 0xFFFF) {
+        ar << static_cast<WORD>(number);
+        return;
+    }
+    ar << static_cast<WORD>(0xFFFF);
+    if (number < 0xFFFFFFFF)
+        ar << static_cast<DWORD>(number);
+    else
+        ar << static_cast<DWORD>(0xFFFFFFFF) << number;
+}
+
+inline INT_PTR ReadCount(CArchive& ar)
+{
+    WORD small = 0;
+    ar >> small;
+    if (small != 0xFFFF)
+        return small;
+    DWORD middle = 0;
+    ar >> middle;
+    ULONGLONG number = middle;
+    if (middle == 0xFFFFFFFF)
+        ar >> number;
+    if (number > static_cast<ULONGLONG>(INTPTR_MAX))
+        AfxThrowArchiveException(CArchiveException::endOfFile, ar.GetFile()->GetFilePath());
+    return static_cast<INT_PTR>(number);
+}
+
 /// As ReadCount, for elements that get their memory at once: a number that is too great for the
 /// whole file is not believed.
-AFX_EXPORTED INT_PTR AFXAPI ReadArraySize(CArchive& ar, size_t elementSize);
+inline INT_PTR ReadArraySize(CArchive& ar, size_t elementSize)
+{
+    constexpr ULONGLONG believed = 1 << 20; // Bytes that are allocated without a question.
+    const INT_PTR count = ReadCount(ar);
+    if (static_cast<ULONGLONG>(count) <= believed / elementSize)
+        return count;
+    // An element takes a byte at least.
+    if (static_cast<ULONGLONG>(count) > ar.GetFile()->GetLength())
+        AfxThrowArchiveException(CArchiveException::endOfFile, ar.GetFile()->GetFilePath());
+    return count;
+}
+
 /// Elements as their bytes.
-AFX_EXPORTED void AFXAPI SerializeBytes(CArchive& ar, void* elements, ULONGLONG count);
+inline void SerializeBytes(CArchive& ar, void* elements, ULONGLONG count)
+{
+    BYTE* at = static_cast<BYTE*>(elements);
+    while (count > 0) {
+        const UINT part = static_cast<UINT>(min<ULONGLONG>(count, INT_MAX));
+        if (ar.IsStoring())
+            ar.Write(at, static_cast<INT>(part));
+        else if (ar.Read(at, part) != part)
+            AfxThrowArchiveException(CArchiveException::endOfFile, ar.GetFile()->GetFilePath());
+        at += part;
+        count -= part;
+    }
+}
 
 } // namespace afxint
 

@@ -166,7 +166,7 @@ AFX_EXPORTED void AFX_CDECL AfxTrace(LPCTSTR format, ...);
 #define ASSERT(f)                                                                                  \
     ((void)((f) || !::AfxAssertFailedLine(__FILE__, __LINE__) || (::AfxDebugBreak(), false)))
 #define VERIFY(f) ASSERT(f)
-#define ASSERT_VALID(p) (::afxint::AssertValidObject((p), __FILE__, __LINE__))
+#define ASSERT_VALID(p) (::AfxAssertValidObject((p), __FILE__, __LINE__))
 #define DEBUG_ONLY(f) ((void)(f))
 #else
 #define ASSERT(f) ((void)0)

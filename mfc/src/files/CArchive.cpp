@@ -1,9 +1,7 @@
 #include <classes/CArchive.h>
-#include <classes/ElementHelpers.h>
 
 #include "files/ArchiveObjects.h"
 
-#include <cstdint>
 #include <utility>
 
 namespace {
@@ -251,66 +249,6 @@ void CArchive::Discard()
     buffer_ = current_ = end_ = NULL;
     delete std::exchange(objects_, nullptr);
 }
-
-namespace afxint {
-
-void AFXAPI WriteCount(CArchive& ar, INT_PTR count)
-{
-    const ULONGLONG number = static_cast<ULONGLONG>(count);
-    if (number < 0xFFFF) {
-        ar << static_cast<WORD>(number);
-        return;
-    }
-    ar << static_cast<WORD>(0xFFFF);
-    if (number < 0xFFFFFFFF)
-        ar << static_cast<DWORD>(number);
-    else
-        ar << static_cast<DWORD>(0xFFFFFFFF) << number;
-}
-
-INT_PTR AFXAPI ReadCount(CArchive& ar)
-{
-    WORD small = 0;
-    ar >> small;
-    if (small != 0xFFFF)
-        return small;
-    DWORD middle = 0;
-    ar >> middle;
-    ULONGLONG number = middle;
-    if (middle == 0xFFFFFFFF)
-        ar >> number;
-    if (number > static_cast<ULONGLONG>(INTPTR_MAX))
-        AfxThrowArchiveException(CArchiveException::endOfFile, ar.GetFile()->GetFilePath());
-    return static_cast<INT_PTR>(number);
-}
-
-INT_PTR AFXAPI ReadArraySize(CArchive& ar, size_t elementSize)
-{
-    constexpr ULONGLONG believed = 1 << 20; // Bytes that are allocated without a question.
-    const INT_PTR count = ReadCount(ar);
-    if (static_cast<ULONGLONG>(count) <= believed / elementSize)
-        return count;
-    // An element takes a byte at least.
-    if (static_cast<ULONGLONG>(count) > ar.GetFile()->GetLength())
-        AfxThrowArchiveException(CArchiveException::endOfFile, ar.GetFile()->GetFilePath());
-    return count;
-}
-
-void AFXAPI SerializeBytes(CArchive& ar, void* elements, ULONGLONG count)
-{
-    BYTE* at = static_cast<BYTE*>(elements);
-    while (count > 0) {
-        const UINT part = static_cast<UINT>(min<ULONGLONG>(count, INT_MAX));
-        if (ar.IsStoring())
-            ar.Write(at, static_cast<INT>(part));
-        else if (ar.Read(at, part) != part)
-            AfxThrowArchiveException(CArchiveException::endOfFile, ar.GetFile()->GetFilePath());
-        at += part;
-        count -= part;
-    }
-}
-
-} // namespace afxint
 
 CArchive& AFXAPI operator<<(CArchive& ar, SIZE size)
 {

@@ -84,14 +84,14 @@ CObject* AFXAPI AfxStaticDownCast([[maybe_unused]] const CRuntimeClass* pClass,
     return const_cast<CObject*>(pObject);
 }
 
-void AFXAPI afxint::AssertValidObject(const CObject* object, LPCSTR file, int line)
+void AFXAPI AfxAssertValidObject(const CObject* pOb, LPCSTR lpszFileName, int nLine)
 {
     // An object begins with the address of its virtual functions.
     const bool isObject =
-        AfxIsValidAddress(object, sizeof(CObject), FALSE) &&
-        AfxIsValidAddress(*reinterpret_cast<void* const*>(object), sizeof(void*), FALSE);
+        AfxIsValidAddress(pOb, sizeof(CObject), FALSE) &&
+        AfxIsValidAddress(*reinterpret_cast<void* const*>(pOb), sizeof(void*), FALSE);
     if (isObject)
-        object->AssertValid();
-    else if (AfxAssertFailedLine(file, line))
+        pOb->AssertValid();
+    else if (AfxAssertFailedLine(lpszFileName, nLine))
         AfxDebugBreak();
 }

@@ -219,7 +219,7 @@ TEST_CASE("objects of the library write their handles")
 TEST_CASE("ASSERT_VALID lets an object look at itself, in a debug build")
 {
     CBook book;
-    afxint::AssertValidObject(&book, "file.cpp", 5);
+    AfxAssertValidObject(&book, "file.cpp", 5);
     CHECK(book.m_nChecks == 1);
     ASSERT_VALID(&book);
 #ifdef _DEBUG
@@ -239,7 +239,7 @@ TEST_CASE("a pointer to no object is a failed assertion where it is used")
 {
     const auto complaintAbout = [](const CObject* object) {
         const umbra::testing::MessageBoxAnswer ignore(IDIGNORE);
-        afxint::AssertValidObject(object, "file.cpp", 5);
+        AfxAssertValidObject(object, "file.cpp", 5);
         CHECK(ignore.HasAnswered());
         return ignore.Text();
     };
