@@ -14,7 +14,7 @@ namespace {
 
 LRESULT CALLBACK ServePage(HWND page, UINT message, WPARAM wParam, LPARAM lParam);
 
-const umbra::Subclassing keys = {_T("Umbra.Keyboard"), ServePage};
+umbra::Subclassing keys(ServePage);
 
 /// The standard captions that have a mnemonic; the others are pressed by Enter and Esc.
 constexpr struct

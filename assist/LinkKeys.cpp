@@ -11,7 +11,7 @@ namespace {
 
 LRESULT CALLBACK ServeMessage(HWND window, UINT message, WPARAM wParam, LPARAM lParam);
 
-const Subclassing keys = {_T("Umbra.LinkKeys"), ServeMessage};
+Subclassing keys(ServeMessage);
 
 const int focusGap = 1; // Pixels between the text and the focus rectangle, above and below.
 

@@ -2,7 +2,6 @@
 
 #include "assist/Subclass.h"
 
-#include <tchar.h>
 
 namespace umbra {
 
@@ -10,7 +9,7 @@ namespace {
 
 LRESULT CALLBACK ServeMessage(HWND window, UINT message, WPARAM wParam, LPARAM lParam);
 
-const Subclassing keys = {_T("Umbra.PushButtonKeys"), ServeMessage};
+Subclassing keys(ServeMessage);
 
 /// The button that Enter presses while the focus is on none.
 HWND FindDefaultButton(HWND page)

@@ -11,7 +11,7 @@ namespace {
 
 LRESULT CALLBACK ServeMessage(HWND window, UINT message, WPARAM wParam, LPARAM lParam);
 
-const Subclassing keys = {_T("Umbra.RadioButtonKeys"), ServeMessage};
+Subclassing keys(ServeMessage);
 
 bool IsServed(HWND window)
 {

@@ -1,30 +1,52 @@
 #include "assist/Subclass.h"
 
+#include <new>
+
 namespace umbra {
 
-BOOL Subclassing::Serve(HWND window) const
+BOOL Subclassing::Serve(HWND window)
 {
     if (Serves(window))
         return TRUE;
-    const auto previous = reinterpret_cast<HANDLE>(::GetWindowLongPtr(window, GWLP_WNDPROC));
-    if (previous == nullptr || !::SetProp(window, name, previous))
+    const auto previous = reinterpret_cast<WNDPROC>(::GetWindowLongPtr(window, GWLP_WNDPROC));
+    if (previous == nullptr || !Remember(window, previous))
         return FALSE;
-    ::SetWindowLongPtr(window, GWLP_WNDPROC, reinterpret_cast<LONG_PTR>(procedure));
+    if (::SetWindowLongPtr(window, GWLP_WNDPROC, reinterpret_cast<LONG_PTR>(m_procedure)) != 0)
+        return TRUE;
+    Forget(window);
+    return FALSE;
+}
+
+LRESULT Subclassing::PassOn(HWND window, UINT message, WPARAM wParam, LPARAM lParam)
+{
+    const WNDPROC previous = FindPrevious(window);
+    if (message == WM_NCDESTROY)
+        Forget(window);
+    return ::CallWindowProc(previous, window, message, wParam, lParam);
+}
+
+WNDPROC Subclassing::FindPrevious(HWND window)
+{
+    const CSingleLock lock(&m_lock, TRUE);
+    const auto found = m_previous.find(window);
+    return found == m_previous.end() ? nullptr : found->second;
+}
+
+BOOL Subclassing::Remember(HWND window, WNDPROC previous)
+{
+    const CSingleLock lock(&m_lock, TRUE);
+    try {
+        m_previous[window] = previous;
+    } catch (const std::bad_alloc&) {
+        return FALSE;
+    }
     return TRUE;
 }
 
-bool Subclassing::Serves(HWND window) const
+void Subclassing::Forget(HWND window)
 {
-    return ::GetProp(window, name) != nullptr;
-}
-
-LRESULT Subclassing::PassOn(HWND window, UINT message, WPARAM wParam, LPARAM lParam) const
-{
-    const auto previous =
-        reinterpret_cast<WNDPROC>(reinterpret_cast<LONG_PTR>(::GetProp(window, name)));
-    if (message == WM_NCDESTROY)
-        ::RemoveProp(window, name);
-    return ::CallWindowProc(previous, window, message, wParam, lParam);
+    const CSingleLock lock(&m_lock, TRUE);
+    m_previous.erase(window);
 }
 
 } // namespace umbra
