@@ -234,7 +234,8 @@ int CToolBarCtrl::AddStrings(LPCTSTR lpszStrings)
 
 int CToolBarCtrl::GetString(int nString, LPTSTR lpstrString, int cchMaxLen) const
 {
-    return Ask(m_hWnd, TB_GETSTRING, MAKEWPARAM(cchMaxLen, nString), lpstrString);
+    // The message counts the room in bytes, and answers in characters.
+    return Ask(m_hWnd, TB_GETSTRING, MAKEWPARAM(cchMaxLen * sizeof(TCHAR), nString), lpstrString);
 }
 
 int CToolBarCtrl::GetString(int nString, CString& str) const

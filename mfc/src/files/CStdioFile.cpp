@@ -119,7 +119,8 @@ void CStdioFile::WriteString(LPCTSTR lpsz)
     FILE* const stream = OpenStream();
     if (lpsz == NULL)
         AfxThrowInvalidArgException();
-    CheckStream(::_fputts(lpsz, stream) >= 0);
+    // Not every run-time library tells in its result that wide text could not be written.
+    CheckStream(::_fputts(lpsz, stream) >= 0 && ::ferror(stream) == 0);
 }
 
 CFile* CStdioFile::Duplicate() const

@@ -300,7 +300,8 @@ TEST_CASE("a typed collection takes objects of its own class only")
     CHECK(CauseOfLoadingInto(array, StoredCollection(wrong)) == CArchiveException::badClass);
     REQUIRE(array.GetSize() == 3);
     CHECK(array[1] == NULL);
-    CHECK(StoredCollection(array).find("text") != std::string::npos);
+    const std::string text(reinterpret_cast<const char*>(_T("text")), 4 * sizeof(TCHAR));
+    CHECK(StoredCollection(array).find(text) != std::string::npos);
     delete array[0];
     delete array[2];
     CHECK(living == 1);
