@@ -26,7 +26,7 @@ constexpr size_t gdiTableOffsetInPeb = sizeof(void*) == 8 ? 0xF8 : 0x94;
 const GdiTableEntry* FindGdiTable()
 {
     using GetPeb = const BYTE*(WINAPI*)();
-    const auto getPeb = reinterpret_cast<GetPeb>(reinterpret_cast<void*>(
+    const auto getPeb = reinterpret_cast<GetPeb>(reinterpret_cast<ULONG_PTR>(
         ::GetProcAddress(::GetModuleHandleA("ntdll.dll"), "RtlGetCurrentPeb")));
     const BYTE* peb = getPeb();
     return *reinterpret_cast<const GdiTableEntry* const*>(peb + gdiTableOffsetInPeb);

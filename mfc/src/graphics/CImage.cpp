@@ -19,6 +19,21 @@ struct MaskedHeader
 
 } // namespace
 
+// They have their values in the class; here they get a place, for those who ask for their address.
+const DWORD CImage::createAlphaChannel;
+const DWORD CImage::excludeGIF;
+const DWORD CImage::excludeBMP;
+const DWORD CImage::excludeEMF;
+const DWORD CImage::excludeWMF;
+const DWORD CImage::excludeJPEG;
+const DWORD CImage::excludePNG;
+const DWORD CImage::excludeTIFF;
+const DWORD CImage::excludeIcon;
+const DWORD CImage::excludeOther;
+const DWORD CImage::excludeDefaultLoad;
+const DWORD CImage::excludeDefaultSave;
+const DWORD CImage::excludeValid;
+
 CImage::CImage() throw()
     : bitmap_(NULL), bits_(NULL), width_(0), height_(0), bitsPerPixel_(0), pitch_(0),
       transparentColor_(noColor), hasAlpha_(false), context_(NULL), formerBitmap_(NULL),
